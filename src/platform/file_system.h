@@ -1,0 +1,59 @@
+// Files, folders and drives: the scripting file-system service and what a safe save needs besides.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace burrowmark {
+
+// Attribute bits of files and folders (winnt.h).
+inline constexpr std::uint32_t kFileReadOnly = 1;
+inline constexpr std::uint32_t kFileHidden = 2;
+inline constexpr std::uint32_t kFileSystem = 4;
+inline constexpr std::uint32_t kFileDirectory = 16;
+inline constexpr std::uint32_t kFileArchive = 32;
+
+// A new file that is being written. Each call gives false on failure; whatever was written until then stays.
+// Letting go of the object closes the file.
+class OutputFile {
+ public:
+  virtual ~OutputFile() = default;
+  virtual bool Write(std::string_view bytes) = 0;
+  // Brings everything written so far onto the disk itself.
+  virtual bool Flush() = 0;
+  virtual bool Close() = 0;
+};
+
+// Paths are absolute: a drive letter with a colon, or two backslashes with server and share. Letter case doesn't count.
+// A call never throws and never shows anything; one that can't be carried out gives false or nothing.
+class FileSystem {
+ public:
+  virtual ~FileSystem() = default;
+
+  virtual bool FileExists(const std::wstring& path) = 0;
+  virtual bool FolderExists(const std::wstring& path) = 0;
+  // True for the letter of a drive that the machine has ("C", "C:" or "C:\"), with a medium in it or not.
+  virtual bool DriveExists(const std::wstring& path) = 0;
+
+  // The attribute bits of a file or a folder; nothing if there is neither.
+  virtual std::optional<std::uint32_t> GetFileAttributesA(const std::wstring& path) = 0;
+  virtual bool SetFileAttributesA(const std::wstring& path, std::uint32_t attributes) = 0;
+
+  // Reads a whole file. `bytes` is empty on failure.
+  virtual bool ReadWholeFile(const std::wstring& path, std::string& bytes) = 0;
+  // Makes a file that must not exist yet, and opens it for writing; no object on failure.
+  virtual std::unique_ptr<OutputFile> CreateNewFile(const std::wstring& path) = 0;
+  // Gives a file another name on the same drive in one step: a file of that name is replaced, unless it is read-only
+  // or held open by another program. On failure both are as they were.
+  virtual bool MoveFileExA(const std::wstring& from, const std::wstring& to) = 0;
+  // Fails on a read-only file and on one that another program holds open.
+  virtual bool DeleteFileA(const std::wstring& path) = 0;
+  virtual bool CopyFileA(const std::wstring& from, const std::wstring& to, bool failIfExists) = 0;
+  // Makes one folder; its parent must exist. A folder that exists already is a failure.
+  virtual bool CreateFolder(const std::wstring& path) = 0;
+};
+
+}  // namespace burrowmark
