@@ -283,6 +283,18 @@ wchar_t UpperCase(wchar_t character) {
   return static_cast<wchar_t>(static_cast<std::int32_t>(c) + range->toUpper);
 }
 
+wchar_t LowerCase(wchar_t character) {
+  const auto c = static_cast<std::int32_t>(character);
+  if (c < 0x80) return c >= 'A' && c <= 'Z' ? static_cast<wchar_t>(c + 32) : character;
+  for (const CaseRange& range : kCaseRanges) {
+    const std::int32_t small = c - range.toUpper;
+    if (small >= range.first && small <= range.last && (small - range.first) % range.step == 0) {
+      return static_cast<wchar_t>(small);
+    }
+  }
+  return character;
+}
+
 std::string ToUtf8(std::wstring_view text) {
   std::string out;
   out.reserve(text.size());

@@ -9,6 +9,8 @@ namespace burrowmark {
 // Upper case of one character by the simple mapping of Unicode, in the basic plane. Letters whose capital belongs to
 // another alphabet (dotless i, long s, micro sign) stay, as they do in file names.
 wchar_t UpperCase(wchar_t character);
+// The small letter that has this capital; any other character stays.
+wchar_t LowerCase(wchar_t character);
 
 // Text as UTF-8. A surrogate without its partner becomes U+FFFD.
 std::string ToUtf8(std::wstring_view text);

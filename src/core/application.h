@@ -1,0 +1,81 @@
+// The application-wide values and settings. One object, made by the program's entry point and passed by reference.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "core/menu_collection.h"
+#include "core/os_detection.h"
+#include "platform/platform.h"
+
+namespace burrowmark {
+
+// Windows of which there is never more than one; the order is that of WindowOpenFlags.
+enum class SingleWindow {
+  kOptions,
+  kOrganize,
+  kAddModify,
+  kProperties,
+  kPropertiesConfigFile,
+  kNetworkDrives,
+  kPersonalNetworkInfo,
+  kWizard,
+  kAbout,
+  kTip,
+  kCount,
+};
+
+// Sizes of the three groups of settings.
+inline constexpr std::size_t kGeneralCount = 3;
+inline constexpr std::size_t kAppearanceCount = 7;
+inline constexpr std::size_t kAdvancedCount = 8;
+
+// Texts that a configuration file carries about itself.
+struct ConfigSummary {
+  std::wstring SummaryTitle;
+  std::wstring SummaryAuthor;
+  std::wstring SummaryCategory;
+  std::wstring SummaryKeywords;
+  std::wstring SummaryComments;
+};
+
+struct Application {
+  explicit Application(Platform system)
+      : platform(system), MainStore(std::make_shared<clsMenuCollection>(system.clock)) {}
+
+  Platform platform;
+
+  std::shared_ptr<clsMenuCollection> MainStore;  // the tree behind the menu
+  std::vector<ItemRef> HotKeyItems;              // the items of a store that have a hot key, in its order
+
+  std::wstring AppPath;             // the program's folder
+  std::wstring WindowsFolder;       // folders without a trailing backslash, empty where the system has none
+  std::wstring PersonalFolder = L"C:\\";
+  std::wstring DesktopFolder;
+  std::wstring RecentFolder;
+  std::wstring ExplorerPath;        // the file manager
+  std::wstring AppCommand;          // commands in double quotes: this program,
+  std::wstring CopyAddressCommand;  // and the one that puts an address on the clipboard
+  std::wstring HelpFile;
+
+  std::wstring ConfigFile;         // the default configuration file
+  std::wstring CurrentConfigFile;  // the file that was last read
+  ConfigSummary Summary;           // of the current file
+
+  bool ExitRequested = false;
+  bool MenuShowing = false;  // the popup menu is up
+  OsDetection Os;
+  std::array<bool, static_cast<std::size_t>(SingleWindow::kCount)> WindowOpenFlags{};
+
+  // General, appearance and advanced settings; the values here are those of a first start.
+  std::array<bool, kGeneralCount> GC{true, true, true};
+  std::array<bool, kAppearanceCount> AC{true, true, true, true, true, true, true};
+  std::array<bool, kAdvancedCount> ADVC{};
+
+  bool& IsOpen(SingleWindow window) { return WindowOpenFlags.at(static_cast<std::size_t>(window)); }
+};
+
+}  // namespace burrowmark

@@ -1,0 +1,52 @@
+#include "core/file_names.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include "core/text.h"
+
+namespace burrowmark {
+namespace {
+
+bool IsBadFileChar(wchar_t c) { return kBadFileChars.find(c) != std::wstring_view::npos; }
+
+}  // namespace
+
+std::wstring RemoveBadFileChars(std::wstring_view text) {
+  std::wstring kept;
+  kept.reserve(text.size());
+  std::remove_copy_if(text.begin(), text.end(), std::back_inserter(kept), IsBadFileChar);
+  return kept;
+}
+
+std::wstring ReplaceBadFileChars(std::wstring_view text) {
+  std::wstring replaced(text);
+  std::replace_if(replaced.begin(), replaced.end(), IsBadFileChar, L'-');
+  return replaced;
+}
+
+std::wstring GetFileName(std::wstring_view path) {
+  const std::size_t slash = path.rfind(L'\\');
+  if (slash == std::wstring_view::npos) return std::wstring(path);
+  if (slash + 1 == path.size()) return std::wstring(path.substr(0, 1));
+  return std::wstring(path.substr(slash + 1));
+}
+
+std::wstring GetFolderName(std::wstring_view path) {
+  const std::size_t slash = path.rfind(L'\\');
+  if (slash == std::wstring_view::npos) return std::wstring(path);
+  const std::wstring folder(path.substr(0, slash));
+  return folder.ends_with(L':') ? folder + L"\\" : folder;
+}
+
+std::wstring GetFileExtension(std::wstring_view path) {
+  const std::size_t dot = path.rfind(L'.');
+  return dot == std::wstring_view::npos ? std::wstring() : LowerCaseText(path.substr(dot + 1));
+}
+
+std::wstring GetFileBaseName(std::wstring_view path) {
+  const std::size_t dot = path.rfind(L'.');
+  return dot == std::wstring_view::npos ? std::wstring(path) : LowerCaseText(path.substr(0, dot));
+}
+
+}  // namespace burrowmark

@@ -1,0 +1,25 @@
+#include "core/hot_keys.h"
+
+#include <algorithm>
+
+namespace burrowmark {
+
+bool HotKeyItemExists(const Application& app, const clsMenuItem& item) {
+  return std::any_of(app.HotKeyItems.begin(), app.HotKeyItems.end(),
+                     [&item](const ItemRef& other) { return other->Name() == item.Name(); });
+}
+
+void RefreshHotKeys(Application& app, const clsMenuCollection& store) {
+  app.HotKeyItems.clear();
+  for (std::int32_t i = 1; i <= store.Count(); ++i) {
+    const ItemRef item = store.Item(i);
+    if (item->KeyboardCode < 0) continue;
+    if (HotKeyItemExists(app, *item)) {
+      item->KeyboardCode = -1;
+    } else {
+      app.HotKeyItems.push_back(item);
+    }
+  }
+}
+
+}  // namespace burrowmark
