@@ -274,7 +274,7 @@ char32_t TakeUtf8(std::string_view bytes, std::size_t& at) {
 }  // namespace
 
 wchar_t UpperCase(wchar_t character) {
-  const auto c = static_cast<std::uint32_t>(character);
+  const auto c = static_cast<char32_t>(character);
   if (c < 0x80) return c >= 'a' && c <= 'z' ? static_cast<wchar_t>(c - 32) : character;
   if (c > 0xFFFF) return character;
   const auto* range = std::lower_bound(std::begin(kCaseRanges), std::end(kCaseRanges), c,

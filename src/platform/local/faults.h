@@ -30,7 +30,9 @@ class Faults {
   std::optional<std::size_t> DiskRoom;  // bytes that can still be written; a Write past it is cut short and fails
   std::set<std::wstring> HeldOpen;      // files that another program holds open without sharing, upper case
   std::set<std::wstring> FoldersWithoutNewFiles;  // folders in which no file can be made, upper case
-  std::set<std::wstring> RefusedKeys;  // registry keys that can't be opened for writing, full path, upper case
+  // Registry keys that can't be opened for writing, nor any below them: full path, upper case, as in
+  // "HKEY_CURRENT_USER\SOFTWARE".
+  std::set<std::wstring> RefusedKeys;
 
   bool Strikes(const char* call, const std::wstring& subject);
 

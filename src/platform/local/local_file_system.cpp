@@ -1,0 +1,211 @@
+#include "platform/local/local_file_system.h"
+
+#include <algorithm>
+#include <system_error>
+#include <utility>
+
+#include "platform/local/disk.h"
+#include "platform/local/folded.h"
+
+namespace burrowmark {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::uint32_t kKeptAttributes = kFileReadOnly | kFileHidden | kFileSystem | kFileArchive;
+constexpr std::uint32_t kNoAttributes = 128;  // what the system tells of a file without any (FILE_ATTRIBUTE_NORMAL)
+
+// Takes what `wanted` bytes need off the room that the test left on the disk; gives how many of them fit.
+std::size_t TakeRoom(Faults& faults, std::size_t wanted) {
+  if (!faults.DiskRoom) return wanted;
+  const std::size_t fitting = std::min(wanted, *faults.DiskRoom);
+  *faults.DiskRoom -= fitting;
+  return fitting;
+}
+
+class LocalOutputFile final : public OutputFile {
+ public:
+  LocalOutputFile(const fs::path& place, std::wstring path, std::wstring folded, std::set<std::wstring>& written,
+                  Faults& faults)
+      : file_(place), path_(std::move(path)), folded_(std::move(folded)), written_(written), faults_(faults) {
+    if (file_.IsOpen()) written_.insert(folded_);
+  }
+  ~LocalOutputFile() override { LetGo(); }
+  LocalOutputFile(const LocalOutputFile&) = delete;
+  LocalOutputFile& operator=(const LocalOutputFile&) = delete;
+
+  bool IsOpen() const { return file_.IsOpen(); }
+
+  bool Write(std::string_view bytes) override {
+    if (faults_.Strikes("Write", path_) || !file_.IsOpen()) return false;
+    const std::size_t fitting = TakeRoom(faults_, bytes.size());
+    return file_.Write(bytes.substr(0, fitting)) && fitting == bytes.size();
+  }
+
+  bool Flush() override { return !faults_.Strikes("Flush", path_) && file_.Flush(); }
+
+  // A close that fails lets go of the file all the same.
+  bool Close() override {
+    const bool struck = faults_.Strikes("Close", path_);
+    return LetGo() && !struck;
+  }
+
+ private:
+  bool LetGo() {
+    if (!file_.IsOpen()) return false;
+    written_.erase(folded_);
+    return file_.Close();
+  }
+
+  DiskFile file_;
+  std::wstring path_;
+  std::wstring folded_;
+  std::set<std::wstring>& written_;
+  Faults& faults_;
+};
+
+}  // namespace
+
+LocalFileSystem::LocalFileSystem(const fs::path& folder, const DriveFolders& drives, Faults& faults)
+    : drives_(drives), faults_(faults), attributes_(folder / "attributes.txt") {}
+
+std::optional<LocalFileSystem::Entry> LocalFileSystem::Look(const std::wstring& path) {
+  std::optional<WindowsPath> name = ParseWindowsPath(path);
+  if (!name) return std::nullopt;
+  const std::optional<fs::path> place = drives_.Place(*name);
+  if (!place) return std::nullopt;
+  Entry entry{*std::move(name), *place};
+  std::error_code error;
+  entry.isFolder = fs::is_directory(entry.place, error);
+  entry.isFile = !entry.isFolder && !entry.name.folderOnly && fs::exists(entry.place, error);
+  if (!entry.Exists()) return entry;
+  entry.attributes = attributes_.Find(entry.name.Text()).value_or(entry.isFile ? kFileArchive : 0);
+  if (entry.isFolder) entry.attributes |= kFileDirectory;
+  if (entry.attributes == 0) entry.attributes = kNoAttributes;
+  return entry;
+}
+
+std::optional<LocalFileSystem::Entry> LocalFileSystem::LookForFile(const std::wstring& path) {
+  std::optional<Entry> entry = Look(path);
+  return entry && entry->isFile ? entry : std::nullopt;
+}
+
+bool LocalFileSystem::HeldByOther(const Entry& entry) const {
+  return faults_.HeldOpen.contains(Folded(entry.name.Text()));
+}
+
+bool LocalFileSystem::Held(const Entry& entry) const {
+  return HeldByOther(entry) || written_.contains(Folded(entry.name.Text()));
+}
+
+bool LocalFileSystem::MayMakeFileAt(const Entry& entry) const {
+  return !entry.name.IsRoot() && !entry.name.folderOnly && !entry.isFolder && !Held(entry) &&
+         !faults_.FoldersWithoutNewFiles.contains(Folded(entry.name.Parent().Text()));
+}
+
+bool LocalFileSystem::FileExists(const std::wstring& path) {
+  return !faults_.Strikes("FileExists", path) && LookForFile(path).has_value();
+}
+
+bool LocalFileSystem::FolderExists(const std::wstring& path) {
+  if (faults_.Strikes("FolderExists", path)) return false;
+  const std::optional<Entry> entry = Look(path);
+  return entry && entry->isFolder;
+}
+
+bool LocalFileSystem::DriveExists(const std::wstring& path) {
+  if (faults_.Strikes("DriveExists", path) || path.empty()) return false;
+  const wchar_t letter = UpperCase(path.front());
+  const std::wstring root = {letter, L':', L'\\'};
+  return letter >= L'A' && letter <= L'Z' && path.size() <= root.size() &&
+         root.compare(1, path.size() - 1, path, 1) == 0 && drives_.Has(letter);
+}
+
+std::optional<std::uint32_t> LocalFileSystem::GetFileAttributesA(const std::wstring& path) {
+  if (faults_.Strikes("GetFileAttributesA", path)) return std::nullopt;
+  const std::optional<Entry> entry = Look(path);
+  if (!entry || !entry->Exists()) return std::nullopt;
+  return entry->attributes;
+}
+
+bool LocalFileSystem::SetFileAttributesA(const std::wstring& path, std::uint32_t attributes) {
+  if (faults_.Strikes("SetFileAttributesA", path)) return false;
+  const std::optional<Entry> entry = Look(path);
+  if (!entry || !entry->Exists()) return false;
+  return Remember(*entry, attributes);
+}
+
+bool LocalFileSystem::Remember(const Entry& entry, std::uint32_t attributes) {
+  const std::uint32_t kept = attributes & kKeptAttributes;
+  const std::wstring name = entry.name.Text();
+  return kept == (entry.isFolder ? 0 : kFileArchive) ? attributes_.Forget(name) : attributes_.Set(name, kept);
+}
+
+bool LocalFileSystem::ReadWholeFile(const std::wstring& path, std::string& bytes) {
+  bytes.clear();
+  if (faults_.Strikes("ReadWholeFile", path)) return false;
+  const std::optional<Entry> entry = LookForFile(path);
+  return entry && !HeldByOther(*entry) && ReadDiskFile(entry->place, bytes);
+}
+
+std::unique_ptr<OutputFile> LocalFileSystem::CreateNewFile(const std::wstring& path) {
+  if (faults_.Strikes("CreateNewFile", path)) return nullptr;
+  const std::optional<Entry> entry = Look(path);
+  if (!entry || entry->Exists() || !MayMakeFileAt(*entry)) return nullptr;
+  const std::wstring name = entry->name.Text();
+  auto file = std::make_unique<LocalOutputFile>(entry->place, path, Folded(name), written_, faults_);
+  if (!file->IsOpen()) return nullptr;
+  // A file that was removed behind the machine's back may have left its attributes.
+  attributes_.Forget(name);
+  return file;
+}
+
+bool LocalFileSystem::MoveFileExA(const std::wstring& from, const std::wstring& to) {
+  if (faults_.Strikes("MoveFileExA", from)) return false;
+  const std::optional<Entry> source = LookForFile(from);
+  const std::optional<Entry> target = Look(to);
+  if (!source || !target || Held(*source) || !MayMakeFileAt(*target)) return false;
+  if (!EqualIgnoringCase(source->name.root, target->name.root)) return false;
+  const bool sameFile = source->place == target->place;
+  if (target->Has(kFileReadOnly) && !sameFile) return false;
+  // A file that only changes the case of its name moves to the new spelling, any other onto the file that is there.
+  const fs::path place = sameFile ? source->place.parent_path() / DiskName(target->name.names.back()) : target->place;
+  std::error_code error;
+  fs::rename(source->place, place, error);
+  return !error && attributes_.Rename(source->name.Text(), target->name.Text());
+}
+
+bool LocalFileSystem::DeleteFileA(const std::wstring& path) {
+  if (faults_.Strikes("DeleteFileA", path)) return false;
+  const std::optional<Entry> entry = LookForFile(path);
+  if (!entry || Held(*entry) || entry->Has(kFileReadOnly)) return false;
+  std::error_code error;
+  return fs::remove(entry->place, error) && attributes_.Forget(entry->name.Text());
+}
+
+bool LocalFileSystem::CopyFileA(const std::wstring& from, const std::wstring& to, bool failIfExists) {
+  if (faults_.Strikes("CopyFileA", from)) return false;
+  const std::optional<Entry> source = LookForFile(from);
+  const std::optional<Entry> target = Look(to);
+  if (!source || !target || HeldByOther(*source) || source->place == target->place) return false;
+  if (target->isFile ? failIfExists || Held(*target) : !MayMakeFileAt(*target)) return false;
+  if (target->isFolder || target->Has(kFileReadOnly) || target->Has(kFileHidden)) return false;
+  return CopyBytes(*source, *target) && Remember(*target, source->attributes);
+}
+
+bool LocalFileSystem::CopyBytes(const Entry& source, const Entry& target) {
+  std::error_code error;
+  const auto size = static_cast<std::size_t>(fs::file_size(source.place, error));
+  if (error || TakeRoom(faults_, size) != size) return false;
+  return fs::copy_file(source.place, target.place, fs::copy_options::overwrite_existing, error);
+}
+
+bool LocalFileSystem::CreateFolder(const std::wstring& path) {
+  if (faults_.Strikes("CreateFolder", path)) return false;
+  const std::optional<Entry> entry = Look(path);
+  if (!entry || entry->name.IsRoot() || entry->Exists()) return false;
+  std::error_code error;
+  return fs::create_directory(entry->place, error) && attributes_.Forget(entry->name.Text());
+}
+
+}  // namespace burrowmark

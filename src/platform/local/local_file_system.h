@@ -1,0 +1,62 @@
+// Files and folders of the local machine.
+#pragma once
+
+#include <filesystem>
+#include <set>
+
+#include "platform/file_system.h"
+#include "platform/local/attribute_book.h"
+#include "platform/local/drive_folders.h"
+#include "platform/local/faults.h"
+#include "platform/local/windows_path.h"
+
+namespace burrowmark {
+
+// A file that is being written can be read meanwhile, but not deleted, moved or replaced, as on the real system. It
+// must be let go of before the file system.
+class LocalFileSystem final : public FileSystem {
+ public:
+  // `folder` is the machine's; the drives and the faults must outlive this object.
+  LocalFileSystem(const std::filesystem::path& folder, const DriveFolders& drives, Faults& faults);
+
+  bool FileExists(const std::wstring& path) override;
+  bool FolderExists(const std::wstring& path) override;
+  bool DriveExists(const std::wstring& path) override;
+  std::optional<std::uint32_t> GetFileAttributesA(const std::wstring& path) override;
+  bool SetFileAttributesA(const std::wstring& path, std::uint32_t attributes) override;
+  bool ReadWholeFile(const std::wstring& path, std::string& bytes) override;
+  std::unique_ptr<OutputFile> CreateNewFile(const std::wstring& path) override;
+  bool MoveFileExA(const std::wstring& from, const std::wstring& to) override;
+  bool DeleteFileA(const std::wstring& path) override;
+  bool CopyFileA(const std::wstring& from, const std::wstring& to, bool failIfExists) override;
+  bool CreateFolder(const std::wstring& path) override;
+
+ private:
+  // What stands at a path, or would stand there.
+  struct Entry {
+    WindowsPath name;
+    std::filesystem::path place;
+    bool isFile = false;
+    bool isFolder = false;
+    std::uint32_t attributes = 0;
+
+    bool Exists() const { return isFile || isFolder; }
+    bool Has(std::uint32_t attribute) const { return (attributes & attribute) != 0; }
+  };
+
+  // Nothing if the path can't be or the folder that it stands in doesn't exist.
+  std::optional<Entry> Look(const std::wstring& path);
+  std::optional<Entry> LookForFile(const std::wstring& path);
+  bool HeldByOther(const Entry& entry) const;
+  bool Held(const Entry& entry) const;
+  bool MayMakeFileAt(const Entry& entry) const;
+  bool Remember(const Entry& entry, std::uint32_t attributes);
+  bool CopyBytes(const Entry& source, const Entry& target);
+
+  const DriveFolders& drives_;
+  Faults& faults_;
+  AttributeBook attributes_;
+  std::set<std::wstring> written_;  // files that are being written now, folded paths
+};
+
+}  // namespace burrowmark

@@ -1,0 +1,86 @@
+#include "platform/local/machine.h"
+
+#include <fstream>
+#include <stdexcept>
+#include <utility>
+
+#include "platform/characters.h"
+#include "platform/local/disk.h"
+
+namespace burrowmark {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const wchar_t* kFolders[] = {L"C:\\Windows\\System32", L"C:\\Program Files\\Burrowmark"};
+constexpr wchar_t kExplorer[] = L"C:\\Windows\\explorer.exe";
+constexpr wchar_t kShellFolders[] = L"Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Shell Folders";
+
+struct UserFolder {
+  const wchar_t* value;
+  const wchar_t* path;
+};
+
+constexpr UserFolder kUserFolders[] = {
+    {L"AppData", L"C:\\Users\\User\\AppData\\Roaming"},
+    {L"Desktop", L"C:\\Users\\User\\Desktop"},
+    {L"Favorites", L"C:\\Users\\User\\Favorites"},
+    {L"Personal", L"C:\\Users\\User\\Documents"},
+    {L"Recent", L"C:\\Users\\User\\AppData\\Roaming\\Microsoft\\Windows\\Recent"},
+    {L"SendTo", L"C:\\Users\\User\\AppData\\Roaming\\Microsoft\\Windows\\SendTo"},
+};
+
+void Require(bool done, const std::wstring& path) {
+  if (!done) throw std::runtime_error("the local machine can't do this: " + ToUtf8(path));
+}
+
+}  // namespace
+
+LocalMachine::LocalMachine(fs::path folder)
+    : folder_(std::move(folder)), drives(folder_), files(folder_, drives, faults), registry(folder_, faults) {
+  if (fs::exists(folder_ / "drives")) return;
+  fs::create_directories(folder_);
+  Furnish();
+  faults.Clear();
+}
+
+void LocalMachine::Furnish() {
+  Require(drives.Add(L'C'), L"C:");
+  for (const wchar_t* path : kFolders) AddFolders(path);
+  AddFile(kExplorer);
+  RegistryKey key = RegistryKey::kNone;
+  Require(registry.RegCreateKeyA(RegistryKey::kCurrentUser, kShellFolders, key) == kErrorSuccess, kShellFolders);
+  for (const UserFolder& row : kUserFolders) {
+    AddFolders(row.path);
+    const std::wstring text(row.path);
+    Require(registry.RegSetValueExA(key, row.value, kRegSz, text + L'\0') == kErrorSuccess, row.value);
+  }
+  registry.RegCloseKey(key);
+}
+
+void LocalMachine::AddFolders(const std::wstring& path) {
+  const std::optional<WindowsPath> name = ParseWindowsPath(path);
+  Require(name && drives.MakeFolders(*name), path);
+}
+
+void LocalMachine::AddFile(const std::wstring& path, std::string_view bytes) {
+  const std::optional<WindowsPath> name = ParseWindowsPath(path);
+  Require(name && !name->IsRoot() && drives.MakeFolders(name->Parent()), path);
+  std::ofstream out(RealPath(path), std::ios::binary | std::ios::trunc);
+  out << bytes;
+  out.close();
+  Require(!out.fail(), path);
+}
+
+std::string LocalMachine::BytesOf(const std::wstring& path) const {
+  std::string bytes;
+  Require(ReadDiskFile(RealPath(path), bytes), path);
+  return bytes;
+}
+
+fs::path LocalMachine::RealPath(const std::wstring& path) const {
+  const std::optional<WindowsPath> name = ParseWindowsPath(path);
+  return name ? drives.Place(*name).value_or(fs::path()) : fs::path();
+}
+
+}  // namespace burrowmark

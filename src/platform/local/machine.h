@@ -1,0 +1,56 @@
+// A small system of our own, kept in a folder on disk: for tests, and for running where Windows isn't.
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+#include "platform/local/drive_folders.h"
+#include "platform/local/faults.h"
+#include "platform/local/local_clock.h"
+#include "platform/local/local_facts.h"
+#include "platform/local/local_file_system.h"
+#include "platform/local/local_registry.h"
+#include "platform/platform.h"
+
+namespace burrowmark {
+
+// Drives, attributes and registry stay in the folder: a machine opened over it later, in this process or another, finds
+// them as they were left. Facts, clock and faults belong to this object alone.
+class LocalMachine {
+ public:
+  // A folder without a machine gets a new one: drive C with the system's, the program's and the user's folders, and
+  // the registry's list of the user's folders. Throws std::filesystem::filesystem_error if the disk refuses.
+  explicit LocalMachine(std::filesystem::path folder);
+  LocalMachine(const LocalMachine&) = delete;
+  LocalMachine& operator=(const LocalMachine&) = delete;
+
+  Platform platform() { return {registry, files, facts, clock}; }
+
+  // For tests. The first three aren't counted as calls, no fault strikes them and no attribute binds them; they throw
+  // std::runtime_error where they can't do as told.
+
+  // Makes a folder, or a network share, with all its parents. The drive must be there.
+  void AddFolders(const std::wstring& path);
+  // Writes a file of this content, in place of one that exists, and makes its parents.
+  void AddFile(const std::wstring& path, std::string_view bytes = {});
+  std::string BytesOf(const std::wstring& path) const;
+  // Where the file or folder stands, or would stand, on the disk below; empty if its parent doesn't exist.
+  std::filesystem::path RealPath(const std::wstring& path) const;
+
+ private:
+  std::filesystem::path folder_;
+
+ public:
+  Faults faults;
+  DriveFolders drives;
+  LocalFileSystem files;
+  LocalRegistry registry;
+  LocalFacts facts;
+  LocalClock clock;
+
+ private:
+  void Furnish();
+};
+
+}  // namespace burrowmark
