@@ -12,23 +12,23 @@ namespace burrowmark {
 // What AddNewMenuItem makes. A field that stays at its default isn't written to the new item; `SubMenu` and `Separator`
 // always are, in this order, so that a group has the type of groups whatever `ItemType` says.
 struct NewMenuItem {
-  std::wstring Caption;
-  std::wstring OwnerName;
-  std::wstring Name;  // empty: the store gives one
+  std::wstring Caption{};
+  std::wstring OwnerName{};
+  std::wstring Name{};  // empty: the store gives one
   std::int16_t IconID = 0;
-  std::wstring FolderPath;
-  std::wstring ItemType;
-  std::wstring OpenType;
+  std::wstring FolderPath{};
+  std::wstring ItemType{};
+  std::wstring OpenType{};
   std::int32_t DriveType = 0;
   bool SubMenu = false;
   bool Separator = false;
-  std::wstring Remark;
-  std::wstring BeforeKey;  // empty: the sorted place
+  std::wstring Remark{};
+  std::wstring BeforeKey{};  // empty: the sorted place
   bool RenameOnConflict = false;
   bool CaptionAsGiven = false;  // keeps what a file name can't hold
   bool UpdatePath = true;
   std::int32_t KeyboardCode = -1;
-  std::wstring UserDescription;
+  std::wstring UserDescription{};
 };
 
 struct CollectionCounts {

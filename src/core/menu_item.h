@@ -41,18 +41,18 @@ inline constexpr std::size_t kMenuTitleTail = 25;
 // What `ModifyMenuItem` writes. An empty text, and a number at its default, keeps what the item has; `SubMenu` and
 // `KeyboardCode` are always written.
 struct ItemChange {
-  std::wstring Caption;
-  std::wstring OwnerName;
-  std::wstring Name;
+  std::wstring Caption{};
+  std::wstring OwnerName{};
+  std::wstring Name{};
   std::int16_t IconID = 0;
-  std::wstring FolderPath;
-  std::wstring ItemType;
-  std::wstring OpenType;
+  std::wstring FolderPath{};
+  std::wstring ItemType{};
+  std::wstring OpenType{};
   bool SubMenu = false;
   std::int32_t DriveType = 0;
   bool RefreshIcon = false;
   std::int32_t KeyboardCode = -1;
-  std::optional<std::wstring> UserDescription;  // absent: not touched; an empty text clears the description
+  std::optional<std::wstring> UserDescription{};  // absent: not touched; an empty text clears the description
 };
 
 class clsMenuItem {

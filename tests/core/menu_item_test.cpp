@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "core/failure.h"
+#include "platform/characters.h"
 #include "tests/support/scratch_machine.h"
 
 namespace burrowmark {
