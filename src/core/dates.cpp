@@ -114,6 +114,19 @@ std::wstring DateField(wchar_t letter, std::size_t count, Date date, const Local
   }
 }
 
+// Copies a text in single quotes, whose first character stands at `at`, up to the closing one; a doubled quote is a quote.
+// Gives the place behind it.
+std::size_t AppendQuoted(std::wstring& text, std::wstring_view picture, std::size_t at) {
+  for (; at < picture.size(); ++at) {
+    if (picture[at] == L'\'') {
+      if (at + 1 == picture.size() || picture[at + 1] != L'\'') return at + 1;
+      ++at;
+    }
+    text += picture[at];
+  }
+  return at;
+}
+
 }  // namespace
 
 Date Now(const Clock& clock) {
@@ -182,9 +195,7 @@ std::wstring FormatDate(Date date, std::wstring_view picture, const SystemFacts&
   std::wstring text;
   for (std::size_t i = 0; i < picture.size();) {
     if (picture[i] == L'\'') {
-      const std::size_t close = std::min(picture.find(L'\'', i + 1), picture.size());
-      text += close == i + 1 ? L"'" : picture.substr(i + 1, close - i - 1);
-      i = close + 1;
+      i = AppendQuoted(text, picture, i + 1);
       continue;
     }
     std::size_t count = 1;

@@ -50,12 +50,18 @@ std::wstring TitlesUnder(const clsMenuCollection& store, const std::wstring& own
   return titles;
 }
 
-std::string WrongWith(const clsMenuCollection& store) {
+std::string UniqueKeysIn(const clsMenuCollection& store) {
   std::set<std::wstring> keys;
+  for (std::int32_t i = 1; i <= store.Count(); ++i) {
+    if (!keys.insert(UpperCaseText(store.Item(i)->Name())).second) return "two of " + ToUtf8(store.Item(i)->Name());
+  }
+  return {};
+}
+
+std::string OwnersAheadIn(const clsMenuCollection& store) {
   std::set<std::wstring> seen;
   for (std::int32_t i = 1; i <= store.Count(); ++i) {
     const clsMenuItem& item = *store.Item(i);
-    if (!keys.insert(UpperCaseText(item.Name())).second) return "two entries named " + ToUtf8(item.Name());
     seen.insert(item.Name());
     if (store.ItemExists(item.OwnerName) && !seen.contains(item.OwnerName)) {
       return ToUtf8(item.Name()) + " stands ahead of its owner " + ToUtf8(item.OwnerName);

@@ -44,7 +44,9 @@ std::wstring NamesOf(const clsMenuCollection& store);
 // The same of the titles under one owner.
 std::wstring TitlesUnder(const clsMenuCollection& store, const std::wstring& owner);
 
-// Empty if every owner that a store holds stands ahead of what it owns, and no two keys are equal; otherwise what is wrong.
-std::string WrongWith(const clsMenuCollection& store);
+// Each empty if all is well, otherwise what is wrong: no two keys of a store are equal; every owner that it holds stands
+// ahead of what it owns.
+std::string UniqueKeysIn(const clsMenuCollection& store);
+std::string OwnersAheadIn(const clsMenuCollection& store);
 
 }  // namespace burrowmark::test
