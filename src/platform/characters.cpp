@@ -284,7 +284,7 @@ wchar_t UpperCase(wchar_t character) {
 }
 
 wchar_t LowerCase(wchar_t character) {
-  const auto c = static_cast<std::int32_t>(character);
+  const auto c = static_cast<std::int32_t>(static_cast<char32_t>(character));
   if (c < 0x80) return c >= 'A' && c <= 'Z' ? static_cast<wchar_t>(c + 32) : character;
   for (const CaseRange& range : kCaseRanges) {
     const std::int32_t small = c - range.toUpper;

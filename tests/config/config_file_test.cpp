@@ -12,7 +12,6 @@ namespace burrowmark {
 namespace {
 
 using test::NamesOf;
-using test::TitlesUnder;
 using namespace std::string_literals;
 
 // Tokens of a file, written with "\n" for the NUL that closes each.
