@@ -166,7 +166,7 @@ bool LocalFileSystem::MoveFileExA(const std::wstring& from, const std::wstring& 
   const std::optional<Entry> target = Look(to);
   if (!source || !target || Held(*source) || !MayMakeFileAt(*target)) return false;
   if (!EqualIgnoringCase(source->name.root, target->name.root)) return false;
-  const bool sameFile = source->place == target->place;
+  const bool sameFile = source->IsSameAs(*target);
   if (target->Has(kFileReadOnly) && !sameFile) return false;
   // A file that only changes the case of its name moves to the new spelling, any other onto the file that is there.
   const fs::path place = sameFile ? source->place.parent_path() / DiskName(target->name.names.back()) : target->place;
@@ -187,17 +187,21 @@ bool LocalFileSystem::CopyFileA(const std::wstring& from, const std::wstring& to
   if (faults_.Strikes("CopyFileA", from)) return false;
   const std::optional<Entry> source = LookForFile(from);
   const std::optional<Entry> target = Look(to);
-  if (!source || !target || HeldByOther(*source) || source->place == target->place) return false;
+  if (!source || !target || HeldByOther(*source) || source->IsSameAs(*target)) return false;
   if (target->isFile ? failIfExists || Held(*target) : !MayMakeFileAt(*target)) return false;
   if (target->isFolder || target->Has(kFileReadOnly) || target->Has(kFileHidden)) return false;
   return CopyBytes(*source, *target) && Remember(*target, source->attributes);
 }
 
+// A target that is there already is lost when its room on the disk turns out too small, as on the real system.
 bool LocalFileSystem::CopyBytes(const Entry& source, const Entry& target) {
+  std::string bytes;
   std::error_code error;
-  const auto size = static_cast<std::size_t>(fs::file_size(source.place, error));
-  if (error || TakeRoom(faults_, size) != size) return false;
-  return fs::copy_file(source.place, target.place, fs::copy_options::overwrite_existing, error);
+  if (!ReadDiskFile(source.place, bytes)) return false;
+  fs::remove(target.place, error);
+  if (TakeRoom(faults_, bytes.size()) != bytes.size()) return false;
+  DiskFile copy(target.place);
+  return copy.Write(bytes) && copy.Close();
 }
 
 bool LocalFileSystem::CreateFolder(const std::wstring& path) {

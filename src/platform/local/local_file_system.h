@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <set>
 
+#include "platform/characters.h"
 #include "platform/file_system.h"
 #include "platform/local/attribute_book.h"
 #include "platform/local/drive_folders.h"
@@ -42,6 +43,7 @@ class LocalFileSystem final : public FileSystem {
 
     bool Exists() const { return isFile || isFolder; }
     bool Has(std::uint32_t attribute) const { return (attributes & attribute) != 0; }
+    bool IsSameAs(const Entry& other) const { return EqualIgnoringCase(name.Text(), other.name.Text()); }
   };
 
   // Nothing if the path can't be or the folder that it stands in doesn't exist.

@@ -1,0 +1,23 @@
+// Files and folders of the real system.
+#pragma once
+
+#include "platform/file_system.h"
+
+namespace burrowmark {
+
+class Win32FileSystem final : public FileSystem {
+ public:
+  bool FileExists(const std::wstring& path) override;
+  bool FolderExists(const std::wstring& path) override;
+  bool DriveExists(const std::wstring& path) override;
+  std::optional<std::uint32_t> GetFileAttributesA(const std::wstring& path) override;
+  bool SetFileAttributesA(const std::wstring& path, std::uint32_t attributes) override;
+  bool ReadWholeFile(const std::wstring& path, std::string& bytes) override;
+  std::unique_ptr<OutputFile> CreateNewFile(const std::wstring& path) override;
+  bool MoveFileExA(const std::wstring& from, const std::wstring& to) override;
+  bool DeleteFileA(const std::wstring& path) override;
+  bool CopyFileA(const std::wstring& from, const std::wstring& to, bool failIfExists) override;
+  bool CreateFolder(const std::wstring& path) override;
+};
+
+}  // namespace burrowmark

@@ -1,0 +1,133 @@
+#include "tests/contract/system_under_test.h"
+
+#include <filesystem>
+#include <random>
+
+#include "platform/local/folded.h"
+#include "platform/local/machine.h"
+
+#ifdef _WIN32
+#include <windows.h>
+
+#include "platform/win32/file_handle.h"
+#include "platform/win32/win32_platform.h"
+#endif
+
+namespace burrowmark {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string UniqueName() {
+  std::random_device random;
+  return "burrowmark-contract-" + std::to_string(random()) + std::to_string(random());
+}
+
+class LocalSystem final : public SystemUnderTest {
+ public:
+  LocalSystem() { machine_.AddFolders(Folder()); }
+  ~LocalSystem() override {
+    std::error_code error;
+    fs::remove_all(folder_, error);
+  }
+  LocalSystem(const LocalSystem&) = delete;
+  LocalSystem& operator=(const LocalSystem&) = delete;
+
+  Platform platform() override { return machine_.platform(); }
+  std::wstring Folder() const override { return L"C:\\Scratch"; }
+  std::wstring Key() const override { return L"Software\\Scratch"; }
+  std::shared_ptr<void> HoldOpen(const std::wstring& path) override {
+    const std::wstring held = Folded(path);
+    machine_.faults.HeldOpen.insert(held);
+    return {nullptr, [this, held](void*) { machine_.faults.HeldOpen.erase(held); }};
+  }
+
+ private:
+  fs::path folder_ = fs::temp_directory_path() / UniqueName();
+  LocalMachine machine_{folder_};
+};
+
+#ifdef _WIN32
+
+constexpr wchar_t kLongPrefix[] = L"\\\\?\\";
+constexpr UINT kPage1252 = 1252;
+
+// Removes a folder with all that is in it, however deep and whatever its attributes.
+void RemoveFolder(const std::wstring& folder) {
+  WIN32_FIND_DATAW entry = {};
+  const HANDLE search = ::FindFirstFileW((folder + L"\\*").c_str(), &entry);
+  for (bool more = search != INVALID_HANDLE_VALUE; more; more = ::FindNextFileW(search, &entry) != 0) {
+    const std::wstring name = entry.cFileName;
+    if (name == L"." || name == L"..") continue;
+    const std::wstring path = folder + L'\\' + name;
+    ::SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_NORMAL);
+    if ((entry.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
+      RemoveFolder(path);
+    } else {
+      ::DeleteFileW(path.c_str());
+    }
+  }
+  if (search != INVALID_HANDLE_VALUE) ::FindClose(search);
+  ::RemoveDirectoryW(folder.c_str());
+}
+
+class Win32System final : public SystemUnderTest {
+ public:
+  Win32System() {
+    const std::string name = UniqueName();
+    folder_ = (fs::temp_directory_path() / name).make_preferred().wstring();
+    key_ = L"Software\\" + std::wstring(name.begin(), name.end());
+    fs::create_directory(folder_);
+  }
+  ~Win32System() override {
+    RemoveFolder(kLongPrefix + folder_);
+    ::RegDeleteTreeW(HKEY_CURRENT_USER, key_.c_str());
+  }
+  Win32System(const Win32System&) = delete;
+  Win32System& operator=(const Win32System&) = delete;
+
+  Platform platform() override { return platform_.platform(); }
+  std::wstring Folder() const override { return folder_; }
+  std::wstring Key() const override { return key_; }
+  std::shared_ptr<void> HoldOpen(const std::wstring& path) override {
+    return std::make_shared<FileHandle>(
+        ::CreateFileW(path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+  }
+  bool IsWine() const override {
+    return ::GetProcAddress(::GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;
+  }
+  bool HasPage1252() const override { return ::GetACP() == kPage1252; }
+
+ private:
+  std::wstring folder_;
+  std::wstring key_;
+  Win32Platform platform_;
+};
+
+#endif
+
+}  // namespace
+
+std::vector<SystemKind> Systems() {
+  std::vector<SystemKind> kinds = {{"Local", [] { return std::make_unique<LocalSystem>(); }}};
+#ifdef _WIN32
+  kinds.push_back({"Win32", [] { return std::make_unique<Win32System>(); }});
+#endif
+  return kinds;
+}
+
+void PrintTo(const SystemKind& kind, std::ostream* out) { *out << kind.name; }
+
+std::string KindName(const ::testing::TestParamInfo<SystemKind>& info) { return info.param.name; }
+
+bool ContractTest::Make(const std::wstring& path, std::string_view bytes) {
+  const std::unique_ptr<OutputFile> file = files_.CreateNewFile(path);
+  return file && file->Write(bytes) && file->Close();
+}
+
+std::string ContractTest::Content(const std::wstring& path) {
+  std::string bytes;
+  return files_.ReadWholeFile(path, bytes) ? bytes : "(unreadable)";
+}
+
+}  // namespace burrowmark
