@@ -27,7 +27,12 @@ unless_passed() {
 }
 
 check_format() {
-  git ls-files -co --exclude-standard -- '*.cpp' '*.h' | xargs clang-format --dry-run --Werror
+  local found
+  if ! found=$(git ls-files -co --exclude-standard -- '*.cpp' '*.h' | xargs clang-format --dry-run --Werror 2>&1); then
+    grep -E '^[a-z].*: error' <<<"$found" | head -20
+    say "not as clang-format has it: git ls-files '*.cpp' '*.h' | xargs clang-format -i"
+    return 1
+  fi
 }
 
 # A Wine prefix of our own, its home folder beside it; ended and removed when the script ends.

@@ -1,8 +1,9 @@
 // The form of the configuration file: one flat run of tokens, each closed by a NUL.
 //
-// A file is a run of sections: a marker token, its content and "[END:]". The personal group's section and, if the user wants
-// that group, the System Folders' hold item records of 22 tokens each; five more hold one text each. The characters are
-// those of the ANSI code page or, where a text wouldn't survive that, UTF-8 behind a first token that says so.
+// A file is a run of sections: a marker token, its content and "[END:]". The personal group's section and, if the user
+// wants that group, the System Folders' hold item records of 22 tokens each; five more hold one text each. The
+// characters are those of the ANSI code page or, where a text wouldn't survive that, UTF-8 behind a first token that
+// says so.
 #pragma once
 
 #include <cstddef>

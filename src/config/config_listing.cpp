@@ -25,8 +25,8 @@ constexpr CountLine kCountLines[] = {
 
 std::wstring EntryLine(const clsMenuItem& item) {
   const std::wstring indent(static_cast<std::size_t>(item.GetNestingLevel()), L' ');
-  const std::wstring title = item.SubMenu() ? L"[" + item.Caption() + L"]"
-                                            : item.Caption() + L" (" + item.FolderPath + L")";
+  const std::wstring title =
+      item.SubMenu() ? L"[" + item.Caption() + L"]" : item.Caption() + L" (" + item.FolderPath + L")";
   return indent + title + kLineEnd;
 }
 

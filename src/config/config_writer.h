@@ -12,7 +12,8 @@ namespace burrowmark {
 std::string BuildConfig(const Application& app, const clsMenuCollection& store);
 
 // A file's bytes with the current summary in place of its own; everything else stays as it is, unless a new text needs
-// another encoding. False for a file with a section that has no end: texts added to it would be read as parts of an item.
+// another encoding. False for a file with a section that has no end: texts added to it would be read as parts of an
+// item.
 bool ReplaceSummary(const Application& app, std::string_view bytes, std::string& replaced);
 
 }  // namespace burrowmark

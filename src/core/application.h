@@ -51,8 +51,8 @@ struct Application {
   std::shared_ptr<clsMenuCollection> MainStore;  // the tree behind the menu
   std::vector<ItemRef> HotKeyItems;              // the items of a store that have a hot key, in its order
 
-  std::wstring AppPath;             // the program's folder
-  std::wstring WindowsFolder;       // folders without a trailing backslash, empty where the system has none
+  std::wstring AppPath;        // the program's folder
+  std::wstring WindowsFolder;  // folders without a trailing backslash, empty where the system has none
   std::wstring PersonalFolder = L"C:\\";
   std::wstring DesktopFolder;
   std::wstring RecentFolder;

@@ -24,7 +24,8 @@ struct DayAndSecond {
 
 DayAndSecond SplitDay(Date date) {
   const double day = std::trunc(date);
-  const auto second = static_cast<std::int64_t>(std::llround(std::fabs(date - day) * static_cast<double>(kSecondsADay)));
+  const auto second =
+      static_cast<std::int64_t>(std::llround(std::fabs(date - day) * static_cast<double>(kSecondsADay)));
   const auto wholeDay = static_cast<std::int64_t>(day);
   return second == kSecondsADay ? DayAndSecond{wholeDay + 1, 0} : DayAndSecond{wholeDay, second};
 }
@@ -39,8 +40,8 @@ void CheckDay(std::int64_t day) {
   if (day < kFirstDay || day > kLastDay) throw OverflowFailure("a date out of range");
 }
 
-// Day number of a day of the Gregorian calendar; `month` is 1 to 12. The year starts in March here, so that the leap day
-// is its last, and 400 years are one era of 146,097 days.
+// Day number of a day of the Gregorian calendar; `month` is 1 to 12. The year starts in March here, so that the leap
+// day is its last, and 400 years are one era of 146,097 days.
 std::int64_t DayNumber(std::int64_t year, std::int64_t month, std::int64_t day) {
   if (month <= 2) --year;
   const std::int64_t era = (year >= 0 ? year : year - 399) / 400;
@@ -86,7 +87,8 @@ std::wstring Padded(int value) { return (value < 10 ? L"0" : L"") + DecimalText(
 // Day of the week, Monday 0. Day 0 was a Saturday.
 int WeekDay(Date date) { return static_cast<int>(((SplitDay(date).day + 5) % 7 + 7) % 7); }
 
-std::wstring DateField(wchar_t letter, std::size_t count, Date date, const LocalTime& parts, const SystemFacts& system) {
+std::wstring DateField(wchar_t letter, std::size_t count, Date date, const LocalTime& parts,
+                       const SystemFacts& system) {
   const auto number = [count](int value) { return count == 1 ? DecimalText(value) : Padded(value); };
   switch (letter) {
     case L'd':
@@ -114,8 +116,8 @@ std::wstring DateField(wchar_t letter, std::size_t count, Date date, const Local
   }
 }
 
-// Copies a text in single quotes, whose first character stands at `at`, up to the closing one; a doubled quote is a quote.
-// Gives the place behind it.
+// Copies a text in single quotes, whose first character stands at `at`, up to the closing one; a doubled quote is a
+// quote. Gives the place behind it.
 std::size_t AppendQuoted(std::wstring& text, std::wstring_view picture, std::size_t at) {
   for (; at < picture.size(); ++at) {
     if (picture[at] == L'\'') {

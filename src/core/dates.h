@@ -14,8 +14,8 @@ using Date = double;
 // This moment, to the second.
 Date Now(const Clock& clock);
 
-// A date from its numbers. A month or a day beyond its range runs into the next ones; years 0 to 29 are 2000 to 2029, and
-// 30 to 99 are 1930 to 1999. Throws OverflowFailure for dates outside the years 100 to 9999.
+// A date from its numbers. A month or a day beyond its range runs into the next ones; years 0 to 29 are 2000 to 2029,
+// and 30 to 99 are 1930 to 1999. Throws OverflowFailure for dates outside the years 100 to 9999.
 Date DateFromParts(int year, int month, int day);
 // A time of day from its numbers, which may run over likewise: 25 hours are a day and an hour.
 Date TimeFromParts(int hour, int minute, int second);
@@ -26,9 +26,9 @@ LocalTime SplitDate(Date date);
 
 // The form that files keep: day, month, year, hour, minute and second, unpadded, each followed by "|"; empty for 0.
 std::wstring PackDateText(Date date);
-// The date of such a text. A date or a time with an empty field, or with fields missing, is left out of the result; with
-// both left out it is 0. Characters other than digits and bars are passed over. Throws OverflowFailure for numbers past
-// 32,767 and dates out of range.
+// The date of such a text. A date or a time with an empty field, or with fields missing, is left out of the result;
+// with both left out it is 0. Characters other than digits and bars are passed over. Throws OverflowFailure for numbers
+// past 32,767 and dates out of range.
 Date UnpackDateText(std::wstring_view text);
 
 // A date in a picture of the locale ("M/d/yyyy", "h:mm:ss tt" ...): d, M, y, h, H, m, s and t repeated as the system's

@@ -11,9 +11,9 @@
 
 namespace burrowmark {
 
-// Positions count from 0 here. Keys match without regard to letter case, are fixed when an entry goes in (a later write of
-// the item's `Name` doesn't move them), and no two are equal. Look-ups by the current `Name` are exact and see such a
-// write. Items are shared: one can stand in several lists.
+// Positions count from 0 here. Keys match without regard to letter case, are fixed when an entry goes in (a later write
+// of the item's `Name` doesn't move them), and no two are equal. Look-ups by the current `Name` are exact and see such
+// a write. Items are shared: one can stand in several lists.
 class KeyedItems final : private ItemWatcher {
  public:
   static constexpr std::size_t kNone = static_cast<std::size_t>(-1);
@@ -26,8 +26,8 @@ class KeyedItems final : private ItemWatcher {
   std::size_t Size() const { return entries_.size(); }
   const ItemRef& At(std::size_t position) const { return entries_[position]->item; }
 
-  // Puts an item in under its `Name`, so that it stands at `position`; the size is the end. Throws KeyFailure if an equal
-  // key is there.
+  // Puts an item in under its `Name`, so that it stands at `position`; the size is the end. Throws KeyFailure if an
+  // equal key is there.
   void Insert(std::size_t position, const ItemRef& item);
   void Append(const ItemRef& item) { Insert(entries_.size(), item); }
   void RemoveAt(std::size_t position);

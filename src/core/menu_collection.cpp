@@ -36,9 +36,7 @@ SortKind GetSortKind(const std::wstring& owner) {
   return owner == kRootOwner || owner == MIT_PATHS_DRIVES ? SortKind::kUnsorted : SortKind::kGroupsFirst;
 }
 
-void PutInFront(std::wstring& path, const std::wstring& title) {
-  path = path.empty() ? title : title + L"\\" + path;
-}
+void PutInFront(std::wstring& path, const std::wstring& title) { path = path.empty() ? title : title + L"\\" + path; }
 
 bool KeepsItsPath(const clsMenuItem& item) {
   return item.OwnerName == kRootOwner && (item.Separator() || item.Name() == MIT_HF_SETTINGS ||

@@ -41,8 +41,8 @@ struct CollectionCounts {
 
 // Names compare exactly, keys without regard to case (core/keyed_items.h). Positions count from 1.
 //
-// Some scans count their steps in 16 bits: CountSameCaption, ItemExists, CaptionExists, CaptionExists2, GetMenuItemFromID
-// and GetNextFreeItemPosition throw OverflowFailure when they come to an entry past 32,767.
+// Some scans count their steps in 16 bits: CountSameCaption, ItemExists, CaptionExists, CaptionExists2,
+// GetMenuItemFromID and GetNextFreeItemPosition throw OverflowFailure when they come to an entry past 32,767.
 class clsMenuCollection {
  public:
   // `clock` stamps the items that the store makes and must outlive it and them.
@@ -59,8 +59,8 @@ class clsMenuCollection {
   // A key that isn't there, or a `Name` that is taken, leaves the item out.
   void AddBefore(const ItemRef& item, const std::wstring& key, bool UpdatePath);
   void AddAfter(const ItemRef& item, const std::wstring& key, bool UpdatePath);
-  // Adds an item in its sorted place, or at the end with `KeepOrder`. An item whose exact `Name` is taken stays out. The
-  // result is false on a failure only.
+  // Adds an item in its sorted place, or at the end with `KeepOrder`. An item whose exact `Name` is taken stays out.
+  // The result is false on a failure only.
   bool AddOne(const ItemRef& item, bool KeepOrder, bool UpdatePath);
   // Makes an item and adds it.
   ItemRef AddNewMenuItem(const NewMenuItem& values);

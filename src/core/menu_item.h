@@ -1,7 +1,7 @@
 // One entry of the tree: a group, a folder shortcut, a drive, an Open-All entry, a separator or a fixed entry.
 //
-// An item doesn't point at its owner or at what it holds: its place in the tree is `OwnerName`, the `Name` of its owner,
-// and the order of its siblings is their order in the store (core/menu_collection.h).
+// An item doesn't point at its owner or at what it holds: its place in the tree is `OwnerName`, the `Name` of its
+// owner, and the order of its siblings is their order in the store (core/menu_collection.h).
 #pragma once
 
 #include <cstdint>

@@ -27,8 +27,8 @@ inline constexpr wchar_t MIT_HF_HELP_SEP[] = L"MIT_HF_HELP_SEP";        // its s
 inline constexpr wchar_t MIT_HF_ORGANIZE[] = L"MIT_HF_ORGANIZE";        // "Organize Folders"
 
 // Owners.
-inline constexpr wchar_t kRootOwner[] = L"-1";     // owner of the menu's top level
-inline constexpr wchar_t MIT_FL[] = L"MIT_FL";     // owner of the top entries of a cut or copied sub-tree
+inline constexpr wchar_t kRootOwner[] = L"-1";  // owner of the menu's top level
+inline constexpr wchar_t MIT_FL[] = L"MIT_FL";  // owner of the top entries of a cut or copied sub-tree
 
 // Ways of opening a folder shortcut.
 inline constexpr wchar_t MIT_PATH_SHORTCUT[] = L"MIT_PATH_SHORTCUT";  // single pane

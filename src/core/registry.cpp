@@ -27,8 +27,8 @@ class OpenKey {
   RegistryKey key_ = RegistryKey::kNone;
 };
 
-// Runs a change and, where it is refused under HKEY_CLASSES_ROOT, runs it again on the user's own classes. What an earlier
-// change put there is missing under the root on systems that don't show both as one.
+// Runs a change and, where it is refused under HKEY_CLASSES_ROOT, runs it again on the user's own classes. What an
+// earlier change put there is missing under the root on systems that don't show both as one.
 template <typename Change>
 bool WithUserClasses(RegistryKey root, const std::wstring& subKey, Change change) {
   const std::int32_t result = change(root, subKey);

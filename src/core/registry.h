@@ -24,8 +24,8 @@ class clsRegHandler {
   bool CreateKey(RegistryKey root, const std::wstring& subKey);
   // Stores a text; a missing key comes into being.
   bool SetKeyValue(RegistryKey root, const std::wstring& subKey, const std::wstring& name, const std::wstring& text);
-  // Reads a value as text, empty on failure. A number comes as "&h" and the hexadecimal digits of its bytes from the last
-  // to the first, each byte unpadded and a last byte of zero left out.
+  // Reads a value as text, empty on failure. A number comes as "&h" and the hexadecimal digits of its bytes from the
+  // last to the first, each byte unpadded and a last byte of zero left out.
   bool GetKeyValue(RegistryKey root, const std::wstring& subKey, const std::wstring& name, std::wstring& text);
   // Fails for a value of another type; `number` is 0 then.
   bool GetKeyValueDWord(RegistryKey root, const std::wstring& subKey, const std::wstring& name, std::int32_t& number);

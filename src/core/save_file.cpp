@@ -26,9 +26,7 @@ class FileBeside {
   FileBeside& operator=(const FileBeside&) = delete;
 
   bool Made() const { return made_; }
-  bool Fill(std::string_view bytes) {
-    return output_ && output_->Write(bytes) && output_->Flush() && output_->Close();
-  }
+  bool Fill(std::string_view bytes) { return output_ && output_->Write(bytes) && output_->Flush() && output_->Close(); }
   bool SetAttributes(std::uint32_t attributes) { return files_.SetFileAttributesA(path_, attributes); }
   bool TakePlaceOf(const std::wstring& target) {
     output_.reset();

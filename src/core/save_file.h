@@ -8,9 +8,9 @@
 
 namespace burrowmark {
 
-// Makes `bytes` the content of the file at `path`. They go to a new file beside it, which is flushed and takes the file's
-// place in one step with the old one's attributes. On any failure the result is false and the old file is whole, or there
-// is still none. A read-only file is a failure.
+// Makes `bytes` the content of the file at `path`. They go to a new file beside it, which is flushed and takes the
+// file's place in one step with the old one's attributes. On any failure the result is false and the old file is whole,
+// or there is still none. A read-only file is a failure.
 bool SaveWholeFile(FileSystem& files, const std::wstring& path, std::string_view bytes);
 
 // True if a file can be made in the folder. It makes one there and deletes it again.

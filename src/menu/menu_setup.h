@@ -5,8 +5,8 @@
 
 namespace burrowmark {
 
-// Adds the separator of the drives and "Organize Folders" at the end, then "Help" and "Options" as the settings say, and
-// the System Folders group if `AddSystemGroup` is true. What is there already stays as it is.
+// Adds the separator of the drives and "Organize Folders" at the end, then "Help" and "Options" as the settings say,
+// and the System Folders group if `AddSystemGroup` is true. What is there already stays as it is.
 void AddFixedEntries(Application& app, clsMenuCollection& store, bool AddSystemGroup);
 
 // "Help" and its separator ahead of the personal group; without one, ahead of everything at the top level.

@@ -135,7 +135,8 @@ TEST_F(Config, EveryAttributeSurvives) {
 
 TEST_F(Config, OnlyTheTwoGroupsAndTheirDescendantsAreWritten) {
   ASSERT_TRUE(Read(kSmallFile));
-  store_->AddNewMenuItem({.Caption = L"System Folders", .OwnerName = kRootOwner, .Name = MIT_PATHS_SYSTEM, .SubMenu = true});
+  store_->AddNewMenuItem(
+      {.Caption = L"System Folders", .OwnerName = kRootOwner, .Name = MIT_PATHS_SYSTEM, .SubMenu = true});
   store_->AddNewMenuItem({.Caption = L"Fonts", .OwnerName = MIT_PATHS_SYSTEM, .Name = L"S1"});
   store_->AddNewMenuItem({.Caption = L"Drives", .OwnerName = kRootOwner, .Name = MIT_PATHS_DRIVES, .SubMenu = true});
   store_->AddNewMenuItem({.Caption = L"C", .OwnerName = MIT_PATHS_DRIVES, .Name = L"D1", .ItemType = MIT_DRIVE});
@@ -145,8 +146,9 @@ TEST_F(Config, OnlyTheTwoGroupsAndTheirDescendantsAreWritten) {
   const std::string both = machine_.BytesOf(kPath);
   ASSERT_TRUE(Read(both));
   EXPECT_FALSE(missing_);
-  EXPECT_EQ(NamesOf(*store_), L"MIT_HF_HELP MIT_HF_HELP_SEP MIT_GROUP_USER N1 MIT_PATHS_SYSTEM S1 MIT_HF_DRIVES_SEP "
-                              L"MIT_HF_SETTINGS MIT_HF_ORGANIZE");
+  EXPECT_EQ(NamesOf(*store_),
+            L"MIT_HF_HELP MIT_HF_HELP_SEP MIT_GROUP_USER N1 MIT_PATHS_SYSTEM S1 MIT_HF_DRIVES_SEP "
+            L"MIT_HF_SETTINGS MIT_HF_ORGANIZE");
   app_.AC[0] = false;
   ASSERT_TRUE(Read(both));
   EXPECT_TRUE(ignored_);
@@ -187,8 +189,12 @@ TEST_F(Config, FixedEntriesFollowTheSettingsAndNoneComesFromTheFile) {
 
 TEST_F(Config, AFileThatIsNoneIsAFailedReadThatChangesNothing) {
   ASSERT_TRUE(Read(kSmallFile));
-  const std::string bad[] = {"x", "no NUL at all", File("a\nb\n[END:]\n"), std::string(100, '\0'),
-                             File("[MIT_GROUP_USER:]\nnot a number\n"), kSmallFile + "[MIT_GROUP_USER:]\0x\0"s};
+  const std::string bad[] = {"x",
+                             "no NUL at all",
+                             File("a\nb\n[END:]\n"),
+                             std::string(100, '\0'),
+                             File("[MIT_GROUP_USER:]\nnot a number\n"),
+                             kSmallFile + "[MIT_GROUP_USER:]\0x\0"s};
   for (const std::string& bytes : bad) {
     EXPECT_FALSE(Read(bytes));
     EXPECT_EQ(machine_.BytesOf(kPath), bytes);
@@ -304,17 +310,21 @@ TEST_F(Config, TheListingShowsCountsAndTheTree) {
   store_->AddNewMenuItem({.Caption = L"Group", .OwnerName = MIT_GROUP_USER, .Name = L"G", .SubMenu = true});
   store_->AddNewMenuItem({.Caption = L"Inner", .OwnerName = L"G", .FolderPath = L"C:\\i"});
   store_->AddNewMenuItem({.OwnerName = L"G", .ItemType = MIT_OPENALL});
-  store_->AddNewMenuItem({.Caption = L"System Folders", .OwnerName = kRootOwner, .Name = MIT_PATHS_SYSTEM, .SubMenu = true});
+  store_->AddNewMenuItem(
+      {.Caption = L"System Folders", .OwnerName = kRootOwner, .Name = MIT_PATHS_SYSTEM, .SubMenu = true});
   ASSERT_TRUE(Write(true));
-  EXPECT_EQ(machine_.BytesOf(kPath),
-            "C:\\data\\tree.bwmk\r\n\r\n"
-            "Number of shortcuts: 2\r\nNumber of Folder Shortcuts: 1\r\nNumber of Windows Explorer Shortcuts: 1\r\n"
-            "Number of Open-All shortcuts: 1\r\nNumber of groups: 3\r\n\r\n"
-            "[Personal]\r\n [Group]\r\n  Inner (C:\\i)\r\n  Open-All ()\r\n Projects (D:\\Projects)\r\n[System Folders]\r\n");
+  EXPECT_EQ(
+      machine_.BytesOf(kPath),
+      "C:\\data\\tree.bwmk\r\n\r\n"
+      "Number of shortcuts: 2\r\nNumber of Folder Shortcuts: 1\r\nNumber of Windows Explorer Shortcuts: 1\r\n"
+      "Number of Open-All shortcuts: 1\r\nNumber of groups: 3\r\n\r\n"
+      "[Personal]\r\n [Group]\r\n  Inner (C:\\i)\r\n  Open-All ()\r\n Projects (D:\\Projects)\r\n[System Folders]\r\n");
   store_->GetMenuItemFromName(L"N1")->SetCaption(L"\x41F");
   store_->GetMenuItemFromName(MIT_GROUP_USER)->OwnerName = L"G";  // a circle of owners ends
   ASSERT_TRUE(Write(true));
-  EXPECT_TRUE(machine_.BytesOf(kPath).starts_with("\xEF\xBB\xBF" "C:"));
+  EXPECT_TRUE(
+      machine_.BytesOf(kPath).starts_with("\xEF\xBB\xBF"
+                                          "C:"));
 }
 
 TEST_F(Config, TheDefaultFileIsRegisteredOrBesideTheProgramOrInTheUsersData) {

@@ -185,10 +185,12 @@ TEST_F(MenuCollection, ANewItemGetsWhatIsGivenAndItsGroupOverridesItsType) {
   EXPECT_EQ(item->KeyboardCode, 48);
   EXPECT_EQ(item->ItemLocation, L"\\\\");
   EXPECT_EQ(store_.GetMenuItemFromName(L"MINE"), item);
-  const ItemRef group = store_.AddNewMenuItem({.Caption = L"G", .OwnerName = L"g", .ItemType = MIT_DRIVE, .SubMenu = true});
+  const ItemRef group =
+      store_.AddNewMenuItem({.Caption = L"G", .OwnerName = L"g", .ItemType = MIT_DRIVE, .SubMenu = true});
   EXPECT_EQ(group->ItemType, MIT_GROUP_GENERAL);
   EXPECT_EQ(NamesOf(store_), group->Name() + L" mine");
-  const ItemRef twin = store_.AddNewMenuItem({.Caption = L"G", .OwnerName = L"g", .SubMenu = true, .RenameOnConflict = true});
+  const ItemRef twin =
+      store_.AddNewMenuItem({.Caption = L"G", .OwnerName = L"g", .SubMenu = true, .RenameOnConflict = true});
   EXPECT_EQ(twin->Caption(), L"G2");
 }
 

@@ -148,7 +148,8 @@ TEST_F(MenuItem, AChangeKeepsWhatItDoesNotName) {
 }
 
 TEST_F(MenuItem, AChangeIsWrittenInTheOrderOfItsFields) {
-  item_.ModifyMenuItem({.Caption = L"G:", .IconID = 9, .FolderPath = L"C:\\x", .ItemType = L"MIT_DRIVE", .SubMenu = true});
+  item_.ModifyMenuItem(
+      {.Caption = L"G:", .IconID = 9, .FolderPath = L"C:\\x", .ItemType = L"MIT_DRIVE", .SubMenu = true});
   EXPECT_EQ(item_.Caption(), L"G");
   EXPECT_EQ(item_.FolderPath, L"");
   EXPECT_EQ(item_.ItemType, L"MIT_GROUP_GENERAL");  // the group comes after the type

@@ -54,7 +54,8 @@ TEST_F(System, RegistryNumbersReadAsNumbersAndAsHexadecimalText) {
     const wchar_t* text;
   };
   // The bytes from the last to the first, unpadded, a last byte of zero left out.
-  const Case cases[] = {{5, L"&h005"}, {0x0102, L"&h012"}, {-1, L"&hFFFFFFFF"}, {0, L"&h000"}, {0x12345678, L"&h12345678"}};
+  const Case cases[] = {
+      {5, L"&h005"}, {0x0102, L"&h012"}, {-1, L"&hFFFFFFFF"}, {0, L"&h000"}, {0x12345678, L"&h12345678"}};
   for (const Case& row : cases) {
     std::wstring text;
     std::int32_t number = 99;
@@ -141,13 +142,20 @@ TEST_F(System, VersionsHaveNamesAndKindsOfHook) {
     int selected;
   };
   const Case cases[] = {
-      {{3, 51, 0, 2}, L"Windows NT 3.51", true, 1},   {{4, 0, 0, 1}, L"Windows 95", true, 1},
-      {{4, 10, 0, 1}, L"Windows 98", true, 1},        {{4, 98, 0, 1}, L"Windows ME", true, 1},
-      {{4, 0, 0, 2}, L"Windows NT 4.0", false, 1},    {{5, 0, 0, 2}, L"Windows 2000", false, 257},
-      {{5, 1, 0, 2}, L"Windows XP", false, 257},      {{5, 2, 0, 2}, L"Windows 2003", false, 257},
-      {{6, 0, 0, 2}, L"Windows Vista", false, 257},   {{6, 1, 0, 2}, L"Windows 7", false, 257},
-      {{6, 2, 0, 2}, L"Windows 8", false, 257},       {{6, 3, 0, 2}, L"Windows 8.1", false, 257},
-      {{10, 0, 19045, 2}, L"Windows 10", false, 257}, {{10, 0, 22000, 2}, L"Windows 11", false, 257},
+      {{3, 51, 0, 2}, L"Windows NT 3.51", true, 1},
+      {{4, 0, 0, 1}, L"Windows 95", true, 1},
+      {{4, 10, 0, 1}, L"Windows 98", true, 1},
+      {{4, 98, 0, 1}, L"Windows ME", true, 1},
+      {{4, 0, 0, 2}, L"Windows NT 4.0", false, 1},
+      {{5, 0, 0, 2}, L"Windows 2000", false, 257},
+      {{5, 1, 0, 2}, L"Windows XP", false, 257},
+      {{5, 2, 0, 2}, L"Windows 2003", false, 257},
+      {{6, 0, 0, 2}, L"Windows Vista", false, 257},
+      {{6, 1, 0, 2}, L"Windows 7", false, 257},
+      {{6, 2, 0, 2}, L"Windows 8", false, 257},
+      {{6, 3, 0, 2}, L"Windows 8.1", false, 257},
+      {{10, 0, 19045, 2}, L"Windows 10", false, 257},
+      {{10, 0, 22000, 2}, L"Windows 11", false, 257},
       {{2, 0, 0, 2}, L"", true, 1},
   };
   for (const Case& row : cases) {

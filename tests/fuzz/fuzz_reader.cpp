@@ -1,5 +1,5 @@
-// Whatever the bytes of a configuration file: the read ends, the store holds together, and what was read can be written,
-// read again and given a new summary without losing an item.
+// Whatever the bytes of a configuration file: the read ends, the store holds together, and what was read can be
+// written, read again and given a new summary without losing an item.
 #include <cstdint>
 #include <cstdlib>
 #include <iostream>

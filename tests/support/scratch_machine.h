@@ -36,16 +36,16 @@ class ScratchMachine {
 };
 
 // One item with what most tests need of it.
-ItemRef MakeItem(const Clock& clock, const std::wstring& name, const std::wstring& caption,
-                 const std::wstring& owner, bool group = false);
+ItemRef MakeItem(const Clock& clock, const std::wstring& name, const std::wstring& caption, const std::wstring& owner,
+                 bool group = false);
 
 // Names of a store's entries in order, a blank between them.
 std::wstring NamesOf(const clsMenuCollection& store);
 // The same of the titles under one owner.
 std::wstring TitlesUnder(const clsMenuCollection& store, const std::wstring& owner);
 
-// Each empty if all is well, otherwise what is wrong: no two keys of a store are equal; every owner that it holds stands
-// ahead of what it owns.
+// Each empty if all is well, otherwise what is wrong: no two keys of a store are equal; every owner that it holds
+// stands ahead of what it owns.
 std::string UniqueKeysIn(const clsMenuCollection& store);
 std::string OwnersAheadIn(const clsMenuCollection& store);
 
