@@ -75,6 +75,19 @@ unless_passed windows-unit-tests build/windows/tests/unit_tests.exe -- \
 unless_passed windows-contract-tests build/windows/tests/contract_tests.exe -- \
   under_wine build/windows/tests/contract_tests.exe --gtest_brief=1
 
+# Each build writes configuration files and reads the other's: native, Windows, and native again.
+exchange_files() {
+  local folder
+  folder=$(mktemp -d)
+  export BURROWMARK_EXCHANGE=$folder
+  build/native/tests/contract_tests --gtest_brief=1 --gtest_filter='*Exchange*'
+  under_wine build/windows/tests/contract_tests.exe --gtest_brief=1 --gtest_filter='*Exchange*'
+  build/native/tests/contract_tests --gtest_brief=1 --gtest_filter='*Exchange*'
+  unset BURROWMARK_EXCHANGE
+  rm -rf "$folder"
+}
+unless_passed exchange build/native/tests/contract_tests build/windows/tests/contract_tests.exe -- exchange_files
+
 build fuzz
 for target in date reader; do
   fuzz=build/fuzz/tests/fuzz/fuzz_$target
