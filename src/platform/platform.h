@@ -1,9 +1,14 @@
 // Everything that the program asks of a system, in one place.
 #pragma once
 
+#include "platform/dialogs.h"
+#include "platform/drawing.h"
 #include "platform/file_system.h"
+#include "platform/menus.h"
 #include "platform/registry_api.h"
+#include "platform/shell.h"
 #include "platform/system_facts.h"
+#include "platform/window_system.h"
 
 namespace burrowmark {
 
@@ -12,6 +17,11 @@ struct Platform {
   FileSystem& files;
   SystemFacts& system;
   Clock& clock;
+  WindowSystem& windows;
+  Menus& menus;
+  Drawing& drawing;
+  Shell& shell;
+  Dialogs& dialogs;
 };
 
 }  // namespace burrowmark

@@ -1,0 +1,49 @@
+// The shell: launching, the icon on the task bar's tray, help, media commands.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "platform/drawing.h"
+#include "platform/window_handle.h"
+
+namespace burrowmark {
+
+// A launch worked if its result is above this (shellapi.h).
+inline constexpr std::int32_t kLastShellError = 32;
+inline constexpr std::int32_t kShowNormal = 1;
+
+// Messages of Shell_NotifyIconA and the parts of the record that count (shellapi.h).
+inline constexpr std::uint32_t kTrayAdd = 0;
+inline constexpr std::uint32_t kTrayModify = 1;
+inline constexpr std::uint32_t kTrayDelete = 2;
+inline constexpr std::uint32_t kTrayHasMessage = 1;
+inline constexpr std::uint32_t kTrayHasIcon = 2;
+inline constexpr std::uint32_t kTrayHasTip = 4;
+
+struct TrayIcon {
+  WindowHandle window = 0;  // hears of the mouse
+  std::uint32_t id = 0;
+  std::uint32_t flags = 0;
+  std::uint32_t callbackMessage = 0;  // what it hears, with the mouse's message as its value
+  IconHandle icon = 0;
+  std::wstring tip;  // at most 63 characters
+};
+
+class Shell {
+ public:
+  virtual ~Shell() = default;
+
+  // Starts a program, or opens a file with the one that is registered for it. A directory that isn't a folder ("0") is
+  // none. The result is above kLastShellError on success. Nothing is shown on failure.
+  virtual std::int32_t ShellExecuteA(const std::wstring& verb, const std::wstring& file, const std::wstring& parameters,
+                                     const std::wstring& directory, std::int32_t show) = 0;
+  // False if there is no task bar, or it refuses.
+  virtual bool Shell_NotifyIconA(std::uint32_t message, const TrayIcon& icon) = 0;
+  // Opens a help file; `command` 1 is its contents, 2 its index. False if it can't.
+  virtual bool HtmlHelpA(const std::wstring& path, std::int32_t command) = 0;
+  // A command to a media device; the system's error number, 0 on success.
+  virtual std::int32_t mciSendStringA(const std::wstring& command) = 0;
+};
+
+}  // namespace burrowmark
