@@ -43,6 +43,15 @@ std::string ListingBytes(const Application& app, const clsMenuCollection& store)
   return app.platform.system.ToAnsi(text, bytes) ? bytes : kUtf8Bom + ToUtf8(text);
 }
 
+// Keeps a copy of the file that couldn't be read at the start, once. False if that fails: then it must not be
+// overwritten.
+bool KeepIfUnreadable(Application& app, const std::wstring& file) {
+  if (app.UnreadableConfigFile.empty() || !EqualIgnoringCase(app.UnreadableConfigFile, file)) return true;
+  if (app.platform.files.FileExists(file) && !KeepUnreadableFile(app, file)) return false;
+  app.UnreadableConfigFile.clear();
+  return true;
+}
+
 }  // namespace
 
 void GetConfigFileName(Application& app, bool ForceDefault) {
@@ -79,8 +88,9 @@ bool ConfigFileRead(Application& app, clsMenuCollection& store, const std::wstri
 
 bool ConfigFileWrite(Application& app, const clsMenuCollection& store, const std::wstring& path, bool PlainText) {
   return Attempt([&] {
+    const std::wstring file = path.empty() ? app.ConfigFile : path;
     const std::string bytes = PlainText ? ListingBytes(app, store) : BuildConfig(app, store);
-    return SaveWholeFile(app.platform.files, path.empty() ? app.ConfigFile : path, bytes);
+    return KeepIfUnreadable(app, file) && SaveWholeFile(app.platform.files, file, bytes);
   });
 }
 

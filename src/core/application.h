@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cstddef>
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -42,6 +43,24 @@ struct ConfigSummary {
   std::wstring SummaryComments;
 };
 
+// Calls that must go up, put in by the program's entry point. One that is empty has no window yet and does nothing.
+struct UpwardCalls {
+  // The command handler: of the menu's "Organize Folders" (true, empty) and of a hand-over (false, its text).
+  std::function<void(bool FromMenu, const std::wstring& Command)> ProcessCommand;
+  // Shows the Options dialog over the main window; true if something was changed.
+  std::function<bool(clsMenuCollection& store, bool FromMainMenu)> ShowOptions;
+  std::function<void(SingleWindow window)> BringToFront;
+  // Writes the main store to the default file.
+  std::function<void()> SaveMainStore;
+  // Shows the editor over the main window; then hands it a command ("/ADD ...", "/OPEN ...").
+  std::function<void(bool AddMode)> ShowOrganize;
+  std::function<void(const std::wstring& Command)> InitOrganize;
+  std::function<void(const std::wstring& folder)> ShowFolderReport;
+  std::function<void()> UnloadOptions;
+  // Ends the program: unloads the main window.
+  std::function<void()> UnloadMain;
+};
+
 struct Application {
   explicit Application(Platform system)
       : platform(system), MainStore(std::make_shared<clsMenuCollection>(system.clock)) {}
@@ -61,11 +80,19 @@ struct Application {
   std::wstring CopyAddressCommand;  // and the one that puts an address on the clipboard
   std::wstring HelpFile;
 
+  WindowHandle MainWindow = 0;  // the hidden one behind the tray icon
+  UpwardCalls Calls;
+
   std::wstring ConfigFile;         // the default configuration file
   std::wstring CurrentConfigFile;  // the file that was last read
   ConfigSummary Summary;           // of the current file
 
+  // A file that couldn't be read at the start: before anything overwrites it, it is copied to a name beside it.
+  std::wstring UnreadableConfigFile;
+  bool MainStoreFromConfigFile = false;  // the menu's tree is what `ConfigFile` holds
+
   bool ExitRequested = false;
+  bool WalkRunning = false;  // several shortcuts are being opened one after the other
   bool MenuShowing = false;  // the popup menu is up
   OsDetection Os;
   std::array<bool, static_cast<std::size_t>(SingleWindow::kCount)> WindowOpenFlags{};
@@ -74,6 +101,8 @@ struct Application {
   std::array<bool, kGeneralCount> GC{true, true, true};
   std::array<bool, kAppearanceCount> AC{true, true, true, true, true, true, true};
   std::array<bool, kAdvancedCount> ADVC{};
+  bool ShowTips = false;      // TIP
+  bool AfterInstall = false;  // AFTINST: the setup program has just run
 
   bool& IsOpen(SingleWindow window) { return WindowOpenFlags.at(static_cast<std::size_t>(window)); }
 };

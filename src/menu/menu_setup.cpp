@@ -1,7 +1,21 @@
 #include "menu/menu_setup.h"
 
+#include <algorithm>
+#include <initializer_list>
+#include <map>
+#include <vector>
+
+#include "core/failure.h"
+#include "core/file_names.h"
+#include "groups/personal_group.h"
+
 namespace burrowmark {
 namespace {
+
+// One below the first command number of a build.
+constexpr std::int32_t kBuildStart = 49;
+constexpr std::int32_t kDummyId = 50;
+constexpr wchar_t kDummyText[] = L"Dummy";
 
 NewMenuItem FixedEntry(const wchar_t* name, const wchar_t* caption, const std::wstring& beforeKey) {
   NewMenuItem entry;
@@ -30,6 +44,62 @@ std::wstring FirstRootKey(const clsMenuCollection& store) {
   return {};
 }
 
+bool IsMainStore(const Application& app, const clsMenuCollection& store) { return &store == app.MainStore.get(); }
+
+// Takes entries out of a store and, of the main store, out of the native menu: from the end, so that the positions of
+// those still to go stay right.
+void RemoveEntries(Application& app, clsMenuCollection& store, std::initializer_list<std::wstring_view> names) {
+  std::vector<std::wstring> found;
+  for (std::int32_t i = store.Count(); i >= 1; --i) {
+    const ItemRef item = store.Item(i);
+    if (std::find(names.begin(), names.end(), item->Name()) == names.end()) continue;
+    if (IsMainStore(app, store)) app.platform.menus.DeleteMenu(item->OwnerID, item->Position, kMenuByPosition);
+    found.push_back(item->Name());
+  }
+  for (const std::wstring& name : found) store.Remove(name);
+}
+
+bool TakesPart(const clsMenuItem& item, const std::wstring& filter) {
+  return filter.empty() || filter == item.OwnerName || filter == item.Name();
+}
+
+// First pass: the entry goes in, at the place that the store's order gives it among its siblings.
+void InsertEntry(Application& app, clsMenuItem& item, bool replacesDummy) {
+  clsMenuCollection& store = *app.MainStore;
+  Menus& menus = app.platform.menus;
+  if (item.SubMenu()) {
+    item.ID = menus.CreatePopupMenu();
+    item.flags = kMenuByPosition | kMenuPopup;
+  } else {
+    item.ID = store.GetNextFreeID();
+    item.flags = item.Separator() ? kMenuByPosition | kMenuSeparator : kMenuByPosition;
+  }
+  bool noOwner = false;
+  item.OwnerID = store.GetIDFromName(item.OwnerName, noOwner);
+  item.Position = store.GetNextFreeItemPosition(item.ID, item.OwnerID);
+  const bool done = replacesDummy ? menus.ModifyMenuA(item.OwnerID, item.Position, item.flags, item.ID, item.Caption())
+                                  : menus.InsertMenuA(item.OwnerID, item.Position, item.flags, item.ID, item.Caption());
+  if (!done && item.SubMenu()) {
+    menus.DestroyMenu(item.ID);
+    item.ID = 0;
+  }
+}
+
+// Second pass: the entry is drawn by the program. Its text stays with it for screen readers and typed letters.
+void MakeOwnerDrawn(Application& app, clsMenuItem& item) {
+  item.flags = kMenuByPosition | kMenuOwnerDrawn | (item.Separator() ? kMenuSeparator : 0);
+  app.platform.menus.ModifyMenuA(item.OwnerID, item.Position, item.flags, item.ID, item.Caption());
+}
+
+// New entries among old ones move the old ones on.
+void NumberPositions(const clsMenuCollection& store) {
+  std::map<std::int32_t, std::int32_t> next;
+  for (std::int32_t i = 1; i <= store.Count(); ++i) {
+    const ItemRef item = store.Item(i);
+    item->Position = next[item->OwnerID]++;
+  }
+}
+
 }  // namespace
 
 void AddFixedEntries(Application& app, clsMenuCollection& store, bool AddSystemGroup) {
@@ -46,8 +116,98 @@ void AddHelpEntries(clsMenuCollection& store) {
   store.AddNewMenuItem(FixedSeparator(MIT_HF_HELP_SEP, before));
 }
 
+void RemoveHelpEntries(Application& app, clsMenuCollection& store) {
+  RemoveEntries(app, store, {MIT_HF_HELP, MIT_HF_HELP_SEP});
+}
+
 void AddOptionsEntry(clsMenuCollection& store) {
   store.AddNewMenuItem(FixedEntry(MIT_HF_SETTINGS, L"Options", MIT_HF_ORGANIZE));
 }
+
+void RemoveOptionsEntry(Application& app, clsMenuCollection& store) { RemoveEntries(app, store, {MIT_HF_SETTINGS}); }
+
+void MenuSetupBuild(Application& app, const std::wstring& filter) {
+  Skip([&] {
+    clsMenuCollection& store = *app.MainStore;
+    store.FileMenuHandle = app.platform.menus.GetSubMenu(app.platform.menus.GetMenu(app.MainWindow), 0);
+    store.IDCounter = kBuildStart;
+    std::vector<ItemRef> entries;
+    for (std::int32_t i = 1; i <= store.Count(); ++i) {
+      const ItemRef item = store.Item(i);
+      if (!TakesPart(*item, filter)) continue;
+      InsertEntry(app, *item, i == 1 && filter.empty());
+      entries.push_back(item);
+    }
+    for (const ItemRef& item : entries) MakeOwnerDrawn(app, *item);
+    if (!filter.empty()) NumberPositions(store);
+  });
+}
+
+void ClearMenu(Application& app) {
+  clsMenuCollection& store = *app.MainStore;
+  std::vector<std::wstring> names;
+  for (std::int32_t i = store.Count(); i >= 1; --i) {
+    const ItemRef item = store.Item(i);
+    app.platform.menus.DeleteMenu(item->OwnerID, item->Position, kMenuByPosition);
+    names.push_back(item->Name());
+  }
+  for (const std::wstring& name : names) store.Remove(name);
+  app.platform.menus.InsertMenuA(store.FileMenuHandle, 0, kMenuByPosition, kDummyId, kDummyText);
+  store.ResetCounters();
+}
+
+void CopyStore(const Application& app, const clsMenuCollection& source, clsMenuCollection& target) {
+  for (std::int32_t i = 1; i <= source.Count(); ++i) {
+    auto copy = std::make_shared<clsMenuItem>(app.platform.clock);
+    CloneMenuItem(*source.Item(i), *copy);
+    target.AddOne(copy, true, false);
+  }
+  target.IDCounter = source.IDCounter;
+  target.MenuNameCounter = source.MenuNameCounter;
+  target.FileMenuHandle = source.FileMenuHandle;
+}
+
+void CloneMenuItem(const clsMenuItem& source, clsMenuItem& target) {
+  target.ID = source.ID;
+  target.Position = source.Position;
+  target.SetName(source.Name());
+  target.NameOld = source.NameOld;
+  if (source.OwnerName == MIT_PATHS_DRIVES) {
+    target.SetCaption2(source.Caption());
+  } else {
+    target.SetCaption(source.Caption());
+  }
+  target.SetCaptionMenu(source.CaptionMenu());
+  target.OwnerID = source.OwnerID;
+  target.flags = source.flags;
+  target.OwnerName = source.OwnerName;
+  target.IconID = source.IconID;
+  target.SetSeparator(source.Separator());
+  target.SetSubMenu(source.SubMenu());
+  target.ItemType = source.ItemType;
+  target.OpenType = source.OpenType;
+  target.DriveType = source.DriveType;
+  target.Description = source.Description;
+  target.FolderPath = source.FolderPath;
+  target.NetworkPath = source.NetworkPath;
+  target.ItemPath = source.ItemPath;
+  target.ItemLocation = source.ItemLocation;
+  target.Remark = source.Remark;
+  target.KeyboardCode = source.KeyboardCode;
+  target.UserDescription = source.UserDescription;
+  target.TimeCreated = source.TimeCreated;
+  target.TimeModified = source.TimeModified;
+  target.TimeAccessed = source.TimeAccessed;
+}
+
+void ResetToDefaults(Application& app) {
+  app.MainStore = std::make_shared<clsMenuCollection>(app.platform.clock);
+  SetupPersonalGroup(app, *app.MainStore, PersonalContent::kSample);
+  AddFixedEntries(app, *app.MainStore, app.AC[0]);
+}
+
+bool HasBadFileChars(std::wstring_view text) { return text.find_first_of(kBadFileChars) != std::wstring_view::npos; }
+
+bool ItemNamed(const std::wstring& name, const clsMenuCollection& store) { return store.ItemExists(name); }
 
 }  // namespace burrowmark

@@ -1,9 +1,13 @@
-// The menu's fixed entries in the store.
+// The menu's fixed entries in a store, and the native popup menu made from a store.
 #pragma once
+
+#include <string>
 
 #include "core/application.h"
 
 namespace burrowmark {
+
+// Only operations on the main store touch the native menu; on any other store they change the store alone.
 
 // Adds the separator of the drives and "Organize Folders" at the end, then "Help" and "Options" as the settings say,
 // and the System Folders group if `AddSystemGroup` is true. What is there already stays as it is.
@@ -11,7 +15,24 @@ void AddFixedEntries(Application& app, clsMenuCollection& store, bool AddSystemG
 
 // "Help" and its separator ahead of the personal group; without one, ahead of everything at the top level.
 void AddHelpEntries(clsMenuCollection& store);
+void RemoveHelpEntries(Application& app, clsMenuCollection& store);
 // "Options" ahead of "Organize Folders".
 void AddOptionsEntry(clsMenuCollection& store);
+void RemoveOptionsEntry(Application& app, clsMenuCollection& store);
+
+// Makes the native entries of the main store: all of them over the lone dummy entry or, with a filter, those of that
+// owner and the one of that name beside what is there. An entry whose owner isn't in the store stays out.
+void MenuSetupBuild(Application& app, const std::wstring& filter);
+// Empties the main store and its native menu, which keeps a dummy entry.
+void ClearMenu(Application& app);
+// Clones every entry of the source into the target, with the counters.
+void CopyStore(const Application& app, const clsMenuCollection& source, clsMenuCollection& target);
+// Gives the target all attributes of the source.
+void CloneMenuItem(const clsMenuItem& source, clsMenuItem& target);
+// Replaces the main store by the default tree.
+void ResetToDefaults(Application& app);
+
+bool HasBadFileChars(std::wstring_view text);
+bool ItemNamed(const std::wstring& name, const clsMenuCollection& store);
 
 }  // namespace burrowmark

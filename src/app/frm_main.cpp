@@ -1,0 +1,88 @@
+#include "app/frm_main.h"
+
+#include "app/command_line.h"
+#include "config/config_file.h"
+#include "core/numbers.h"
+#include "core/registry.h"
+#include "core/registry_keys.h"
+#include "core/services.h"
+#include "menu/menu_actions.h"
+#include "menu/menu_setup.h"
+
+namespace burrowmark {
+namespace {
+
+constexpr wchar_t kMainTitle[] = L"Burrowmark";
+
+// True if the drive or the share that a path stands on is there.
+bool IsPlaceThere(FileSystem& files, const std::wstring& path) {
+  if (!path.starts_with(L"\\\\")) return files.DriveExists(path.substr(0, 2));
+  const std::size_t share = path.find(L'\\', 2);
+  return share != std::wstring::npos && files.FolderExists(path.substr(0, path.find(L'\\', share + 1)));
+}
+
+}  // namespace
+
+frmMain::frmMain(Application& app) : app_(app), menu_(app), tray_(app, menu_) {
+  events_.TrayMouse = [this](std::uint32_t mouseMessage) { tray_.Form_MouseMove(mouseMessage); };
+  events_.TaskbarCreated = [this] { tray_.Add(); };
+  events_.Unload = [this] { Form_Unload(); };
+}
+
+bool frmMain::Form_Load(std::uint32_t RegisteredMessage, const std::wstring& CommandLine) {
+  app_.platform.windows.DoEvents();
+  app_.MainWindow = app_.platform.windows.CreateMainWindow(kMainTitle, events_);
+  if (app_.MainWindow == 0) return false;
+  clsRegHandler(app_.platform.registry)
+      .SetKeyValue(RegistryKey::kCurrentUser, kMainKey, kWindowValue, DecimalText(app_.MainWindow));
+  LoadTree();
+  menu_.RegisteredMessage = RegisteredMessage;
+  menu_.SetScale(app_.platform.windows.MouseScreenDpi());
+  menu_.LoadMenuIcons();
+  menu_.Build({});
+  tray_.Add();
+  if (!CommandLine.empty()) ProcessCommand(app_, false, CommandLine);
+  return true;
+}
+
+void frmMain::LoadTree() {
+  FileSystem& files = app_.platform.files;
+  const std::wstring beside = app_.AppPath + L"\\" + kDefaultConfigName;
+  if (FileExists(files, app_.ConfigFile)) {
+    ReadTree();
+  } else if (FileExists(files, beside)) {
+    // A registered file on a drive that is away just now stays registered.
+    const bool registers = IsPlaceThere(files, app_.ConfigFile);
+    app_.ConfigFile = beside;
+    if (registers) SaveConfigFileName(app_, beside);
+    ReadTree();
+  } else {
+    ResetToDefaults(app_);
+  }
+  if (FileExists(files, app_.ConfigFile)) return;
+  app_.MainStoreFromConfigFile = ConfigFileWrite(app_, *app_.MainStore, {}, false);
+}
+
+void frmMain::ReadTree() {
+  bool SystemGroupMissing = false;
+  bool SystemGroupIgnored = false;
+  app_.MainStoreFromConfigFile = ConfigFileRead(app_, *app_.MainStore, {}, SystemGroupMissing, SystemGroupIgnored);
+  if (app_.MainStoreFromConfigFile) return;
+  if (FileExists(app_.platform.files, app_.ConfigFile)) app_.UnreadableConfigFile = app_.ConfigFile;
+  ResetToDefaults(app_);
+}
+
+void frmMain::Unload() {
+  if (app_.MainWindow != 0) app_.platform.windows.DestroyMainWindow(app_.MainWindow);
+}
+
+// Nothing is saved here: the file is written when it changes.
+void frmMain::Form_Unload() {
+  menu_.UnhookMenuWindow();
+  tray_.Delete();
+  app_.HotKeyItems.clear();
+  app_.MainStore = std::make_shared<clsMenuCollection>(app_.platform.clock);
+  app_.MainWindow = 0;
+}
+
+}  // namespace burrowmark

@@ -1,0 +1,40 @@
+// What a chosen entry does.
+#pragma once
+
+#include <string>
+
+#include "core/application.h"
+
+namespace burrowmark {
+
+// Runs a chosen entry: a fixed one by its name, any other by its type. A failure ends it silently.
+void MenuItemChosen(Application& app, const ItemRef& item);
+
+// Opens the folder of a shortcut or a drive in the file manager. A shortcut whose folder has gone opens nothing and
+// gives false; if the user wants that, a box offers to take it out of the menu and of the file.
+bool OpenMenuItem(Application& app, const ItemRef& item);
+// Opens all folder shortcuts of the entry's menu level, groups and drives left out. True at the end of a full walk.
+// While one such walk runs (a box may wait for its answer) another doesn't start and gives false.
+bool OpenAllMenuItem(Application& app, const ItemRef& item);
+// Opens every item of the hot-key list that has this code; the result is that of the last.
+bool OpenHotKeyItem(Application& app, std::int32_t KeyboardCode);
+
+// Opens a folder in the file manager, the user's own for an empty path; `WithTree` shows the tree beside it.
+void ExploreFolder(Application& app, const std::wstring& path, bool WithTree);
+// Starts the shell's search, in drive C for an empty path.
+void FindInFolder(Application& app, const std::wstring& path);
+// Opens any file or folder; the shell's result.
+std::int32_t OpenFile(Application& app, const std::wstring& path);
+// Opens the tray of a compact-disc drive.
+void EjectDisc(Application& app, const std::wstring& drive);
+// Opens the help file; 1 is its contents, 2 its index. A box says if it is missing.
+void ShowHelp(Application& app, std::int32_t command);
+// Shows the Options dialog unless it is open; true if something was changed. May end the program.
+bool ShowOptions(Application& app, clsMenuCollection& store, bool FromMainMenu);
+// The last command that was handed over, or empty.
+std::wstring GetTransferText(const Application& app);
+
+// Makes the menu anew from the main store, as `change` leaves a copy of it.
+void RebuildMainMenu(Application& app, const std::function<void(clsMenuCollection& copy)>& change);
+
+}  // namespace burrowmark

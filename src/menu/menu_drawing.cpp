@@ -1,0 +1,135 @@
+#include "menu/menu_drawing.h"
+
+namespace burrowmark {
+namespace {
+
+constexpr std::int32_t kEntryHeight = 19;
+constexpr std::int32_t kEntryRoom = 35;  // beside the text
+constexpr std::int32_t kGroupRoom = 30;  // more, for the arrow
+constexpr std::int32_t kSeparatorWidth = 30;
+constexpr std::int32_t kSeparatorHeight = 10;
+constexpr std::int32_t kStub = 35;  // of the line on each side of a separator's title
+constexpr std::int32_t kIconSize = 16;
+
+constexpr Color kWhite = 0xFFFFFF;
+constexpr Color kRed = 0x0000FF;
+// The high-bit form of the index of the menu-text colour. The call takes it for a colour, which is close to black.
+constexpr Color kNearBlack = 0x80000007;
+constexpr std::int32_t kColorHighlightText = 14;
+
+// Draws one entry. Its rectangle's edges are `l_`, `t_`, `r_` and `b_`.
+class EntryDrawing {
+ public:
+  EntryDrawing(Drawing& drawing, const MenuLook& look, const clsMenuItem& item, const DrawRecord& record)
+      : drawing_(drawing),
+        look_(look),
+        item_(item),
+        context_(record.context),
+        selected_(record.itemState == static_cast<std::uint32_t>(look.SelectedState)),
+        l_(record.rect.left),
+        t_(record.rect.top),
+        r_(record.rect.right),
+        b_(record.rect.bottom) {}
+
+  void Draw() {
+    drawing_.SetBkMode(context_, kBackgroundTransparent);
+    drawing_.SetTextColor(context_, TextColor());
+    if (selected_) {
+      DrawBar();
+    } else if (item_.Separator()) {
+      DrawSeparator();
+    } else {
+      Fill({l_, t_, r_, b_}, drawing_.GetSysColor(kColorMenu));
+    }
+    if (!item_.Separator()) DrawTitleAndIcon();
+  }
+
+ private:
+  std::int32_t Scaled(std::int32_t pixels) const { return (pixels * look_.dpi + kDesignDpi / 2) / kDesignDpi; }
+
+  void Fill(const Rect& rect, Color color) {
+    const BrushHandle brush = drawing_.CreateSolidBrush(color);
+    drawing_.FillRect(context_, rect, brush);
+    drawing_.DeleteObject(brush);
+  }
+
+  Color TextColor() const {
+    if (drawing_.IsHighContrast()) return drawing_.GetSysColor(selected_ ? kColorHighlightText : kColorMenuText);
+    return selected_ ? kWhite : kNearBlack;
+  }
+
+  bool HasRedBar() const {
+    return look_.RedBar && (item_.ItemType == MIT_PATH || item_.ItemType == MIT_DRIVE || item_.ItemType == MIT_OPENALL);
+  }
+
+  void DrawBar() {
+    const bool frame = look_.ShowIcons && look_.IconFrameAllowed;
+    if (frame) DrawIconFrame();
+    Fill({frame ? l_ + Scaled(24) : l_, t_, r_, b_}, HasRedBar() ? kRed : drawing_.GetSysColor(kColorHighlight));
+  }
+
+  void DrawIconFrame() {
+    const Color light = drawing_.GetSysColor(kColor3DHighlight);
+    const Color dark = drawing_.GetSysColor(kColorShadow);
+    Fill({l_, t_, l_ + Scaled(22), t_ + Scaled(1)}, light);
+    Fill({l_, t_, l_ + Scaled(1), t_ + Scaled(18)}, light);
+    Fill({l_ + Scaled(22), t_, l_ + Scaled(23), t_ + Scaled(19)}, dark);
+    Fill({l_, t_ + Scaled(18), l_ + Scaled(23), t_ + Scaled(19)}, dark);
+  }
+
+  void DrawSeparator() {
+    const std::int32_t left = l_ + Scaled(2);
+    const std::int32_t right = r_ - Scaled(2);
+    if (item_.CaptionMenu().empty()) {
+      DrawLine(left, right);
+      return;
+    }
+    DrawLine(left, left + Scaled(kStub));
+    DrawLine(right - Scaled(kStub), right);
+    drawing_.DrawTextA(context_, item_.CaptionMenu(), {l_, t_ - Scaled(3), r_, b_ + Scaled(3)},
+                       kTextCentered | kTextBottom);
+  }
+
+  // A shadow over a highlight.
+  void DrawLine(std::int32_t left, std::int32_t right) {
+    Fill({left, t_ + Scaled(4), right, t_ + Scaled(5)}, drawing_.GetSysColor(kColorShadow));
+    Fill({left, t_ + Scaled(5), right, t_ + Scaled(6)}, drawing_.GetSysColor(kColor3DHighlight));
+  }
+
+  void DrawTitleAndIcon() {
+    drawing_.DrawTextA(context_, item_.CaptionMenu(), {l_ + Scaled(26), t_ + Scaled(2), r_, b_}, kTextBottom);
+    const auto icon = static_cast<std::size_t>(item_.IconID);
+    if (!look_.ShowIcons || item_.IconID <= 0 || icon >= look_.MenuIcons.size()) return;
+    drawing_.DrawIconEx(context_, l_ + Scaled(4), t_ + Scaled(2), look_.MenuIcons[icon], Scaled(kIconSize),
+                        Scaled(kIconSize), kIconNormal);
+  }
+
+  Drawing& drawing_;
+  const MenuLook& look_;
+  const clsMenuItem& item_;
+  DeviceContext context_;
+  bool selected_;
+  std::int32_t l_, t_, r_, b_;
+};
+
+}  // namespace
+
+void MeasureMenuItem(Drawing& drawing, const MenuLook& look, const clsMenuItem& item, MeasureRecord& record) {
+  const auto scaled = [&look](std::int32_t pixels) { return (pixels * look.dpi + kDesignDpi / 2) / kDesignDpi; };
+  if (item.Separator()) {
+    record.itemWidth = scaled(kSeparatorWidth);
+    record.itemHeight = scaled(kSeparatorHeight);
+    return;
+  }
+  const DeviceContext context = drawing.MenuMeasureContext(look.dpi);
+  std::int32_t width = scaled(kEntryRoom);
+  for (const wchar_t character : item.CaptionMenu()) width += drawing.GetCharWidth32A(context, character);
+  record.itemWidth = item.SubMenu() ? width + scaled(kGroupRoom) : width;
+  record.itemHeight = scaled(kEntryHeight);
+}
+
+void MenuItemDraw(Drawing& drawing, const MenuLook& look, const clsMenuItem& item, const DrawRecord& record) {
+  if (record.controlType == kControlMenu) EntryDrawing(drawing, look, item, record).Draw();
+}
+
+}  // namespace burrowmark

@@ -1,0 +1,27 @@
+// How one entry of the menu is measured and drawn. All numbers are pixels at 96 dots per inch.
+#pragma once
+
+#include <vector>
+
+#include "core/menu_item.h"
+#include "platform/drawing.h"
+#include "platform/window_system.h"
+
+namespace burrowmark {
+
+// Everything that the looks of an entry hang on beside the entry itself.
+struct MenuLook {
+  std::vector<IconHandle> MenuIcons;  // by icon number; 0 repeats 1
+  bool IconFrameAllowed = false;      // the 3-D highlight can be told from the menu's own colour
+  std::int32_t SelectedState = 1;     // the exact draw state of a selected entry
+  bool ShowIcons = true;
+  bool RedBar = true;  // the bar of a selected shortcut is red
+  std::int32_t dpi = kDesignDpi;
+};
+
+// The width and height of an entry, in device pixels, in the record.
+void MeasureMenuItem(Drawing& drawing, const MenuLook& look, const clsMenuItem& item, MeasureRecord& record);
+
+void MenuItemDraw(Drawing& drawing, const MenuLook& look, const clsMenuItem& item, const DrawRecord& record);
+
+}  // namespace burrowmark

@@ -1,0 +1,41 @@
+// The owner-drawn popup menu: what the main window's hook does with the system's messages.
+#pragma once
+
+#include "core/application.h"
+#include "menu/menu_drawing.h"
+
+namespace burrowmark {
+
+class MenuSystem {
+ public:
+  explicit MenuSystem(Application& app) : app_(app) {}
+
+  // The number of the message of a hand-over between instances.
+  std::uint32_t RegisteredMessage = 0;
+
+  // Loads the icons for the current scale. Entry 0 repeats entry 1.
+  void LoadMenuIcons();
+  // The icon of the program, for the tray; 0 without icons.
+  IconHandle TrayImage() const { return look_.MenuIcons.empty() ? 0 : look_.MenuIcons.front(); }
+
+  void HookMenuWindow();
+  void UnhookMenuWindow();
+  // Builds the native menu from the main store: everything, unhooked meanwhile, or what the filter says.
+  void Build(const std::wstring& filter);
+  // Makes the menu fit another scale; true if it had to change.
+  bool SetScale(std::int32_t dpi);
+
+  MessageResult MenuWindowProc(WindowMessage& message);
+
+ private:
+  void Measure(MeasureRecord& record);
+  void Draw(const DrawRecord& record);
+  void RightClick(std::int32_t position, MenuHandle menu);
+  void Chosen(std::int32_t ID);
+  void HandedOver(const std::wstring& text);
+
+  Application& app_;
+  MenuLook look_;
+};
+
+}  // namespace burrowmark
