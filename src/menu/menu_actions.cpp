@@ -7,6 +7,7 @@
 #include "core/registry.h"
 #include "core/registry_keys.h"
 #include "core/services.h"
+#include "core/store_copy.h"
 #include "menu/menu_setup.h"
 
 namespace burrowmark {
@@ -185,10 +186,10 @@ std::wstring GetTransferText(const Application& app) {
 
 void RebuildMainMenu(Application& app, const std::function<void(clsMenuCollection& copy)>& change) {
   clsMenuCollection copy(app.platform.clock);
-  CopyStore(app, *app.MainStore, copy);
+  CopyStore(app.platform.clock, *app.MainStore, copy);
   if (change) change(copy);
   ClearMenu(app);
-  CopyStore(app, copy, *app.MainStore);
+  CopyStore(app.platform.clock, copy, *app.MainStore);
   RefreshHotKeys(app, *app.MainStore);
   MenuSetupBuild(app, {});
 }

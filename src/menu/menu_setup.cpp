@@ -156,50 +156,6 @@ void ClearMenu(Application& app) {
   store.ResetCounters();
 }
 
-void CopyStore(const Application& app, const clsMenuCollection& source, clsMenuCollection& target) {
-  for (std::int32_t i = 1; i <= source.Count(); ++i) {
-    auto copy = std::make_shared<clsMenuItem>(app.platform.clock);
-    CloneMenuItem(*source.Item(i), *copy);
-    target.AddOne(copy, true, false);
-  }
-  target.IDCounter = source.IDCounter;
-  target.MenuNameCounter = source.MenuNameCounter;
-  target.FileMenuHandle = source.FileMenuHandle;
-}
-
-void CloneMenuItem(const clsMenuItem& source, clsMenuItem& target) {
-  target.ID = source.ID;
-  target.Position = source.Position;
-  target.SetName(source.Name());
-  target.NameOld = source.NameOld;
-  if (source.OwnerName == MIT_PATHS_DRIVES) {
-    target.SetCaption2(source.Caption());
-  } else {
-    target.SetCaption(source.Caption());
-  }
-  target.SetCaptionMenu(source.CaptionMenu());
-  target.OwnerID = source.OwnerID;
-  target.flags = source.flags;
-  target.OwnerName = source.OwnerName;
-  target.IconID = source.IconID;
-  target.SetSeparator(source.Separator());
-  target.SetSubMenu(source.SubMenu());
-  target.ItemType = source.ItemType;
-  target.OpenType = source.OpenType;
-  target.DriveType = source.DriveType;
-  target.Description = source.Description;
-  target.FolderPath = source.FolderPath;
-  target.NetworkPath = source.NetworkPath;
-  target.ItemPath = source.ItemPath;
-  target.ItemLocation = source.ItemLocation;
-  target.Remark = source.Remark;
-  target.KeyboardCode = source.KeyboardCode;
-  target.UserDescription = source.UserDescription;
-  target.TimeCreated = source.TimeCreated;
-  target.TimeModified = source.TimeModified;
-  target.TimeAccessed = source.TimeAccessed;
-}
-
 void ResetToDefaults(Application& app) {
   app.MainStore = std::make_shared<clsMenuCollection>(app.platform.clock);
   SetupPersonalGroup(app, *app.MainStore, PersonalContent::kSample);

@@ -25,10 +25,6 @@ void RemoveOptionsEntry(Application& app, clsMenuCollection& store);
 void MenuSetupBuild(Application& app, const std::wstring& filter);
 // Empties the main store and its native menu, which keeps a dummy entry.
 void ClearMenu(Application& app);
-// Clones every entry of the source into the target, with the counters.
-void CopyStore(const Application& app, const clsMenuCollection& source, clsMenuCollection& target);
-// Gives the target all attributes of the source.
-void CloneMenuItem(const clsMenuItem& source, clsMenuItem& target);
 // Replaces the main store by the default tree.
 void ResetToDefaults(Application& app);
 
