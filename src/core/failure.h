@@ -5,6 +5,8 @@
 #include <type_traits>
 #include <utility>
 
+#include "platform/from_system.h"
+
 namespace burrowmark {
 
 // Something a procedure could not do. What it says is for a developer; users never see it.
@@ -56,16 +58,6 @@ bool Attempt(Procedure&& procedure) {
 template <typename Statement>
 void Skip(Statement&& statement) {
   static_cast<void>(Attempt([&statement] { statement(); }));
-}
-
-// The one boundary for calls that come from the system (window procedure, hook, enumeration): nothing gets out.
-template <typename Procedure, typename Result>
-Result FromSystem(Procedure&& procedure, Result fallback) noexcept {
-  try {
-    return std::forward<Procedure>(procedure)();
-  } catch (...) {
-    return fallback;
-  }
 }
 
 }  // namespace burrowmark

@@ -2,22 +2,43 @@
 #pragma once
 
 #include "platform/platform.h"
+#include "platform/win32/menu_font.h"
+#include "platform/win32/screen_dpi.h"
 #include "platform/win32/win32_clock.h"
+#include "platform/win32/win32_dialogs.h"
+#include "platform/win32/win32_drawing.h"
 #include "platform/win32/win32_facts.h"
 #include "platform/win32/win32_file_system.h"
+#include "platform/win32/win32_menus.h"
 #include "platform/win32/win32_registry.h"
+#include "platform/win32/win32_shell.h"
+#include "platform/win32/win32_windows.h"
 
 namespace burrowmark {
 
+// All windows and menus belong to the thread that makes this.
 class Win32Platform {
  public:
-  Platform platform() { return {registry_, files_, facts_, clock_}; }
+  Platform platform() { return {registry_, files_, facts_, clock_, windows_, menus_, drawing_, shell_, dialogs_}; }
 
  private:
+  std::uint32_t MajorVersion() const {
+    SystemVersion version;
+    facts_.GetVersionExA(version);
+    return version.major;
+  }
+
   Win32Registry registry_;
   Win32FileSystem files_;
   Win32Facts facts_;
   Win32Clock clock_;
+  ScreenDpi screenDpi_;
+  MenuFont menuFont_;
+  Win32Shell shell_;
+  Win32Drawing drawing_{menuFont_};
+  Win32Menus menus_{screenDpi_, menuFont_};
+  Win32Windows windows_{menuFont_, screenDpi_, MajorVersion()};
+  Win32Dialogs dialogs_;
 };
 
 }  // namespace burrowmark

@@ -1,0 +1,24 @@
+// The scale of screens.
+#pragma once
+
+#include <windows.h>
+
+#include <cstdint>
+
+#include "platform/win32/system_library.h"
+
+namespace burrowmark {
+
+// Dots per inch. Systems before 8.1 have one scale for all screens.
+class ScreenDpi {
+ public:
+  std::int32_t AtMouse() const;
+  std::int32_t OfWindow(HWND window) const;
+
+ private:
+  std::int32_t OfMonitor(HMONITOR monitor) const;
+
+  SystemLibrary shcore_{L"shcore.dll"};
+};
+
+}  // namespace burrowmark

@@ -1,0 +1,118 @@
+#include "platform/win32/win32_menus.h"
+
+#include <windows.h>
+
+#include "platform/win32/handles.h"
+#include "platform/win32/menu_style.h"
+
+namespace burrowmark {
+namespace {
+
+static_assert(kMenuByPosition == MF_BYPOSITION && kMenuPopup == MF_POPUP);
+static_assert(kMenuOwnerDrawn == MFT_OWNERDRAW && kMenuSeparator == MFT_SEPARATOR);
+
+bool HasPosition(HMENU menu, std::int32_t position) {
+  return position >= 0 && position < ::GetMenuItemCount(menu);  // -1 for what isn't a menu
+}
+
+// An entry without its popup. Its text is kept beside the mark of owner drawing, which the older calls can't do.
+MENUITEMINFOW Entry(std::int32_t flags, std::int32_t id, const std::wstring& text) {
+  MENUITEMINFOW entry = {};
+  entry.cbSize = sizeof(entry);
+  entry.fMask = MIIM_FTYPE | MIIM_ID | MIIM_STRING;
+  entry.fType = static_cast<UINT>(flags) & (MFT_OWNERDRAW | MFT_SEPARATOR);
+  entry.wID = static_cast<UINT>(id);
+  entry.dwTypeData = const_cast<wchar_t*>(text.c_str());
+  return entry;
+}
+
+// A popup that can be put into a menu.
+bool IsFreePopup(HMENU popup, HMENU menu) { return popup != menu && ::IsMenu(popup) != FALSE; }
+
+// The system measures an entry once; setting its type again makes it ask anew.
+void ForgetSizes(HMENU menu) {
+  const int count = ::GetMenuItemCount(menu);
+  for (int i = 0; i < count; ++i) {
+    MENUITEMINFOW entry = {};
+    entry.cbSize = sizeof(entry);
+    entry.fMask = MIIM_FTYPE | MIIM_SUBMENU;
+    if (::GetMenuItemInfoW(menu, static_cast<UINT>(i), TRUE, &entry) == FALSE) continue;
+    if (entry.hSubMenu != nullptr) ForgetSizes(entry.hSubMenu);
+    entry.fMask = MIIM_FTYPE;
+    ::SetMenuItemInfoW(menu, static_cast<UINT>(i), TRUE, &entry);
+  }
+}
+
+}  // namespace
+
+MenuHandle Win32Menus::GetMenu(WindowHandle window) { return FromHmenu(::GetMenu(ToHwnd(window))); }
+
+MenuHandle Win32Menus::GetSubMenu(MenuHandle menu, std::int32_t position) {
+  return HasPosition(ToHmenu(menu), position) ? FromHmenu(::GetSubMenu(ToHmenu(menu), position)) : 0;
+}
+
+MenuHandle Win32Menus::CreatePopupMenu() {
+  const HMENU popup = ::CreatePopupMenu();
+  if (popup != nullptr) StylePopup(popup);
+  return FromHmenu(popup);
+}
+
+bool Win32Menus::DestroyMenu(MenuHandle menu) { return ::DestroyMenu(ToHmenu(menu)) != FALSE; }
+
+bool Win32Menus::InsertMenuA(MenuHandle menu, std::int32_t position, std::int32_t flags, std::int32_t id,
+                             const std::wstring& text) {
+  const HMENU handle = ToHmenu(menu);
+  const int count = ::GetMenuItemCount(handle);
+  if (count < 0) return false;
+  MENUITEMINFOW entry = Entry(flags, id, text);
+  if ((flags & kMenuPopup) != 0) {
+    entry.fMask |= MIIM_SUBMENU;
+    entry.hSubMenu = ToHmenu(id);
+    if (!IsFreePopup(entry.hSubMenu, handle)) return false;
+  }
+  const int place = position < 0 || position > count ? count : position;
+  return ::InsertMenuItemW(handle, static_cast<UINT>(place), TRUE, &entry) != FALSE;
+}
+
+bool Win32Menus::ModifyMenuA(MenuHandle menu, std::int32_t position, std::int32_t flags, std::int32_t id,
+                             const std::wstring& text) {
+  const HMENU handle = ToHmenu(menu);
+  if (!HasPosition(handle, position)) return false;
+  const HMENU popupBefore = ::GetSubMenu(handle, position);
+  const bool hasNewPopup = (flags & kMenuPopup) != 0;
+  const bool keepsPopup = !hasNewPopup && (flags & kMenuOwnerDrawn) != 0;
+  MENUITEMINFOW entry = Entry(flags, id, text);
+  if (!keepsPopup) {
+    entry.fMask |= MIIM_SUBMENU;
+    entry.hSubMenu = hasNewPopup ? ToHmenu(id) : nullptr;
+    if (hasNewPopup && !IsFreePopup(entry.hSubMenu, handle)) return false;
+  }
+  if (::SetMenuItemInfoW(handle, static_cast<UINT>(position), TRUE, &entry) == FALSE) return false;
+  // Not every system frees a popup that has lost its entry.
+  if (!keepsPopup && popupBefore != entry.hSubMenu && ::IsMenu(popupBefore) != FALSE) ::DestroyMenu(popupBefore);
+  return true;
+}
+
+bool Win32Menus::DeleteMenu(MenuHandle menu, std::int32_t position, std::int32_t flags) {
+  if ((flags & kMenuByPosition) == 0 || !HasPosition(ToHmenu(menu), position)) return false;
+  return ::DeleteMenu(ToHmenu(menu), static_cast<UINT>(position), MF_BYPOSITION) != FALSE;
+}
+
+std::int32_t Win32Menus::GetMenuItemCount(MenuHandle menu) { return ::GetMenuItemCount(ToHmenu(menu)); }
+
+std::int32_t Win32Menus::GetMenuItemID(MenuHandle menu, std::int32_t position) {
+  if (!HasPosition(ToHmenu(menu), position)) return -1;
+  return static_cast<std::int32_t>(::GetMenuItemID(ToHmenu(menu), position));
+}
+
+void Win32Menus::TrackPopupMenu(MenuHandle menu, WindowHandle window) {
+  const std::int32_t dpi = dpi_.AtMouse();
+  if (!IsMeasuredFor(dpi)) ForgetSizes(ToHmenu(menu));
+  measuredDpi_ = dpi;
+  measuredChanges_ = font_.Changes();
+  POINT mouse = {};
+  ::GetCursorPos(&mouse);
+  ::TrackPopupMenu(ToHmenu(menu), TPM_LEFTALIGN | TPM_TOPALIGN, mouse.x, mouse.y, 0, ToHwnd(window), nullptr);
+}
+
+}  // namespace burrowmark
