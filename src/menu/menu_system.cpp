@@ -61,7 +61,7 @@ MessageResult MenuSystem::MenuWindowProc(WindowMessage& message) {
       Chosen(static_cast<std::int32_t>(message.wParam & 0xFFFF));
     }
   });
-  const bool isHandOver = message.number == kMessageCopyData && message.wParam == RegisteredMessage;
+  const bool isHandOver = message.number == kMessageCopyData && message.lParam == RegisteredMessage;
   if (!isHandOver) return {};
   HandedOver(message.text);
   return {true, 1};

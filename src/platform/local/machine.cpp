@@ -36,12 +36,27 @@ void Require(bool done, const std::wstring& path) {
 
 }  // namespace
 
-LocalMachine::LocalMachine(fs::path folder)
-    : folder_(std::move(folder)), drives(folder_), files(folder_, drives, faults), registry(folder_, faults) {
+LocalMachine::LocalMachine(fs::path folder) : LocalMachine(std::move(folder), std::make_shared<LocalSession>()) {}
+
+LocalMachine::LocalMachine(fs::path folder, std::shared_ptr<LocalSession> session)
+    : folder_(std::move(folder)),
+      session_(std::move(session)),
+      drives(folder_),
+      files(folder_, drives, faults),
+      registry(folder_, faults),
+      shell(uiFaults),
+      windows(menuTree_, session_, uiFaults),
+      user(windows, shell),
+      menus(menuTree_, windows, drawing, facts, user, uiFaults),
+      dialogs(user, windows) {
   if (fs::exists(folder_ / "drives")) return;
   fs::create_directories(folder_);
   Furnish();
   faults.Clear();
+}
+
+std::unique_ptr<LocalMachine> LocalMachine::AnotherProcess() {
+  return std::unique_ptr<LocalMachine>(new LocalMachine(folder_, session_));
 }
 
 void LocalMachine::Furnish() {

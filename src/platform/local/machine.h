@@ -2,21 +2,30 @@
 #pragma once
 
 #include <filesystem>
+#include <memory>
 #include <string>
 #include <string_view>
 
 #include "platform/local/drive_folders.h"
 #include "platform/local/faults.h"
 #include "platform/local/local_clock.h"
+#include "platform/local/local_dialogs.h"
+#include "platform/local/local_drawing.h"
 #include "platform/local/local_facts.h"
 #include "platform/local/local_file_system.h"
+#include "platform/local/local_menus.h"
 #include "platform/local/local_registry.h"
+#include "platform/local/local_session.h"
+#include "platform/local/local_shell.h"
+#include "platform/local/local_user.h"
+#include "platform/local/local_windows.h"
+#include "platform/local/menu_tree.h"
 #include "platform/platform.h"
 
 namespace burrowmark {
 
 // Drives, attributes and registry stay in the folder: a machine opened over it later, in this process or another, finds
-// them as they were left. Facts, clock and faults belong to this object alone.
+// them as they were left. Everything else belongs to this object alone: it stands for one process.
 class LocalMachine {
  public:
   // A folder without a machine gets a new one: drive C with the system's, the program's and the user's folders, and
@@ -25,7 +34,10 @@ class LocalMachine {
   LocalMachine(const LocalMachine&) = delete;
   LocalMachine& operator=(const LocalMachine&) = delete;
 
-  Platform platform() { return {registry, files, facts, clock}; }
+  Platform platform() { return {registry, files, facts, clock, windows, menus, drawing, shell, dialogs}; }
+
+  // Another process on this machine: the two find each other's windows and claimed names.
+  std::unique_ptr<LocalMachine> AnotherProcess();
 
   // For tests. The first three aren't counted as calls, no fault strikes them and no attribute binds them; they throw
   // std::runtime_error where they can't do as told.
@@ -39,18 +51,27 @@ class LocalMachine {
   std::filesystem::path RealPath(const std::wstring& path) const;
 
  private:
+  LocalMachine(std::filesystem::path folder, std::shared_ptr<LocalSession> session);
+  void Furnish();
+
   std::filesystem::path folder_;
+  std::shared_ptr<LocalSession> session_;
+  MenuTree menuTree_;
 
  public:
   Faults faults;
+  Faults uiFaults;  // of menus, windows and the shell, counted by themselves
   DriveFolders drives;
   LocalFileSystem files;
   LocalRegistry registry;
   LocalFacts facts;
   LocalClock clock;
-
- private:
-  void Furnish();
+  LocalDrawing drawing;
+  LocalShell shell;
+  LocalWindows windows;
+  LocalUser user;
+  LocalMenus menus;
+  LocalDialogs dialogs;
 };
 
 }  // namespace burrowmark

@@ -1,0 +1,37 @@
+// Boxes of the local machine, answered by the person at it.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "platform/dialogs.h"
+#include "platform/local/local_user.h"
+#include "platform/local/local_windows.h"
+
+namespace burrowmark {
+
+struct ShownBox {
+  WindowHandle owner = 0;
+  std::wstring text;
+  std::wstring title;
+  std::uint32_t style = 0;
+  std::int32_t answer = 0;
+};
+
+// A box that nobody expected, and an answer that the box has no button for, throw std::logic_error.
+class LocalDialogs final : public Dialogs {
+ public:
+  // Both must outlive this object.
+  LocalDialogs(LocalUser& user, LocalWindows& windows) : user_(user), windows_(windows) {}
+
+  std::vector<ShownBox> Shown;  // in the order in which they were answered
+
+  std::int32_t MessageBoxA(WindowHandle owner, const std::wstring& text, const std::wstring& title,
+                           std::uint32_t style) override;
+
+ private:
+  LocalUser& user_;
+  LocalWindows& windows_;
+};
+
+}  // namespace burrowmark

@@ -1,0 +1,57 @@
+// The shell of the local machine: it remembers what it was asked for.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "platform/local/faults.h"
+#include "platform/shell.h"
+
+namespace burrowmark {
+
+struct Launch {
+  std::wstring verb;
+  std::wstring file;
+  std::wstring parameters;
+  std::wstring directory;
+  std::int32_t show = 0;
+  std::int32_t result = 0;
+};
+
+struct HelpCall {
+  std::wstring path;
+  std::int32_t command = 0;
+};
+
+class LocalShell final : public Shell {
+ public:
+  explicit LocalShell(Faults& faults) : faults_(faults) {}
+
+  // What was asked for, in order, also if it failed.
+  std::vector<Launch> Launches;
+  std::vector<HelpCall> HelpCalls;
+  std::vector<std::wstring> MediaCommands;
+  // What it answers.
+  std::int32_t LaunchResult = 42;
+  bool HelpOpens = true;
+  std::int32_t MediaResult = 0;
+  bool HasTaskBar = true;
+
+  // The first icon of the tray; none if there is none.
+  const TrayIcon* Tray() const { return icons_.empty() ? nullptr : &icons_.front(); }
+  const std::vector<TrayIcon>& TrayIcons() const { return icons_; }
+  // The task bar goes, and all icons with it.
+  void LoseTaskBar();
+
+  std::int32_t ShellExecuteA(const std::wstring& verb, const std::wstring& file, const std::wstring& parameters,
+                             const std::wstring& directory, std::int32_t show) override;
+  bool Shell_NotifyIconA(std::uint32_t message, const TrayIcon& icon) override;
+  bool HtmlHelpA(const std::wstring& path, std::int32_t command) override;
+  std::int32_t mciSendStringA(const std::wstring& command) override;
+
+ private:
+  Faults& faults_;
+  std::vector<TrayIcon> icons_;
+};
+
+}  // namespace burrowmark

@@ -1,0 +1,70 @@
+// The person at the local machine: what a test lets them do, and what the next menus and boxes will meet.
+#pragma once
+
+#include <cstdint>
+#include <deque>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/local/local_shell.h"
+#include "platform/local/local_windows.h"
+#include "platform/local/menu_actions.h"
+
+namespace burrowmark {
+
+struct BoxAnswer {
+  std::wstring part;  // of the text of the box that it is for
+  std::int32_t answer = 0;
+  std::function<void()> meanwhile;
+};
+
+// A gesture reaches the program by its message queue, and runs at once unless the program is busy. One that can't be
+// made throws std::logic_error.
+class LocalUser {
+ public:
+  // Both must outlive this object.
+  LocalUser(LocalWindows& windows, LocalShell& shell) : windows_(windows), shell_(shell) {}
+
+  enum class Button : std::uint8_t { kLeft, kRight };
+  void MoveOverTray();
+  void ClickTray(Button button);
+  void DoubleClickTray(Button button);
+  void LoseTaskBar() { shell_.LoseTaskBar(); }
+  // The task bar is there, for the first time or again.
+  void StartTaskBar();
+  // The mouse goes to a screen of this scale.
+  void ChangeDpi(std::int32_t dpi);
+  // The session ends, or it was only asked for and another program refused.
+  void EndSession();
+  void AskToEndSession();
+
+  // What happens in the next popup, and what is answered to the next box whose text must contain `part`. In order.
+  // `meanwhile` runs while the box is open.
+  void NextMenu(MenuActions actions) { menus_.push_back(std::move(actions)); }
+  void NextBox(const std::wstring& part, std::int32_t answer, std::function<void()> meanwhile = {}) {
+    boxes_.push_back({part, answer, std::move(meanwhile)});
+  }
+
+  // Everything that wasn't as expected, and everything that was expected and didn't come; empty if all is well.
+  std::string Complaints() const;
+  // Keeps what went wrong for Complaints, also where nobody sees the std::logic_error that this throws.
+  [[noreturn]] void Complain(const std::string& what);
+  // For those who show menus and boxes.
+  MenuActions TakeMenu();
+  BoxAnswer TakeBox(const std::wstring& text);
+
+ private:
+  void SendTray(const std::vector<std::uint32_t>& mouseMessages);
+  void Send(std::uint32_t message, std::int64_t wParam);
+  void LetItRun();
+
+  LocalWindows& windows_;
+  LocalShell& shell_;
+  std::deque<MenuActions> menus_;
+  std::deque<BoxAnswer> boxes_;
+  std::string complaints_;
+};
+
+}  // namespace burrowmark

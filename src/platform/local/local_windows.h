@@ -1,0 +1,99 @@
+// The message loop and the main window of the local machine.
+#pragma once
+
+#include <cstdint>
+#include <deque>
+#include <functional>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "platform/local/faults.h"
+#include "platform/local/local_session.h"
+#include "platform/local/menu_tree.h"
+#include "platform/window_system.h"
+
+namespace burrowmark {
+
+// Messages that the window's own procedure knows besides those of the seam (winuser.h).
+inline constexpr std::uint32_t kMessageQueryEndSession = 17;
+inline constexpr std::uint32_t kMessageEndSession = 22;
+inline constexpr std::uint32_t kMessageDpiChanged = 736;
+inline constexpr wchar_t kTaskbarCreated[] = L"TaskbarCreated";
+
+// Time stands still until a test lets it pass, or RunLoop has nothing else to do.
+class LocalWindows final : public WindowSystem {
+ public:
+  // `menus` and `faults` must outlive this object.
+  LocalWindows(MenuTree& menus, std::shared_ptr<LocalSession> session, Faults& faults);
+  ~LocalWindows() override;
+  LocalWindows(const LocalWindows&) = delete;
+  LocalWindows& operator=(const LocalWindows&) = delete;
+
+  std::int32_t Dpi = kDesignDpi;
+  // Who is at the machine while RunLoop has nothing to do: makes one gesture, or lets time pass. False: nobody will
+  // come any more.
+  std::function<bool()> Input;
+
+  // Lets time pass, with all that falls due in it.
+  void Advance(std::int64_t milliseconds);
+  // 0 without a main window.
+  WindowHandle Main() const { return main_ ? main_->handle : 0; }
+  const std::wstring& Title() const { return title_; }
+  MenuHandle MenuOf(WindowHandle window) const { return window != 0 && window == Main() ? main_->bar : 0; }
+  WindowHandle Foreground() const { return session_->Foreground; }
+  std::size_t Beeps() const { return beeps_; }
+  // How often the window was told to end what it does with the mouse, its menu among it.
+  std::size_t CancelModes() const { return cancelModes_; }
+  // True while the program handles something: what comes now waits until it asks for it.
+  bool IsBusy() const { return depth_ > 0; }
+  // Runs the hook and, unless that has a result, the window's own procedure.
+  MessageResult Deliver(WindowMessage& message);
+
+  WindowHandle CreateMainWindow(const std::wstring& title, MainWindowEvents& events) override;
+  void DestroyMainWindow(WindowHandle window) override;
+  void SetWindowHook(WindowHandle window, std::function<MessageResult(WindowMessage&)> hook) override;
+  std::int32_t MouseScreenDpi() override { return Dpi; }
+  std::uint32_t RegisterWindowMessageA(const std::wstring& name) override { return session_->MessageNumber(name); }
+  bool PostMessageA(WindowHandle window, std::uint32_t message, std::int64_t wParam, std::int64_t lParam) override;
+  std::int64_t SendMessageA(WindowHandle window, std::uint32_t message, std::int64_t wParam,
+                            std::int64_t lParam) override;
+  std::int64_t SendText(WindowHandle window, std::uint32_t number, const std::wstring& text) override;
+  void SetForegroundWindow(WindowHandle window) override;
+  bool ClaimInstance(const std::wstring& name) override { return session_->Claim(name, *this); }
+  void DoEvents() override;
+  void RunLoop() override;
+  void Post(std::function<void()> work) override;
+  void PostLater(std::int32_t milliseconds, std::function<void()> work) override;
+  void Beep() override { ++beeps_; }
+
+ private:
+  struct MainWindow {
+    WindowHandle handle = 0;
+    MenuHandle bar = 0;
+    MainWindowEvents* events = nullptr;
+    std::function<MessageResult(WindowMessage&)> hook;
+    bool going = false;
+  };
+
+  MenuHandle MakeBar();
+  std::int64_t Deliver(LocalWindows* process, WindowMessage& message);
+  std::int64_t OwnProcedure(const WindowMessage& message);
+  bool RunOne();
+  void RunNextLater();
+
+  MenuTree& menus_;
+  std::shared_ptr<LocalSession> session_;
+  Faults& faults_;
+  std::optional<MainWindow> main_;
+  std::wstring title_;
+  std::deque<std::function<void()>> queue_;
+  std::multimap<std::int64_t, std::function<void()>> later_;  // by the time when it falls due
+  std::int64_t now_ = 0;
+  int depth_ = 0;
+  std::size_t beeps_ = 0;
+  std::size_t cancelModes_ = 0;
+};
+
+}  // namespace burrowmark

@@ -1,0 +1,135 @@
+#include "platform/local/menu_tree.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace burrowmark {
+namespace {
+
+bool Has(std::int32_t flags, std::int32_t flag) { return (flags & flag) != 0; }
+
+// A negative position is past any end, as the system takes it for an unsigned number.
+bool IsPlaceIn(const std::vector<MenuEntry>& entries, std::int32_t position) {
+  return position >= 0 && static_cast<std::size_t>(position) < entries.size();
+}
+
+}  // namespace
+
+MenuHandle MenuTree::Create(bool held) {
+  menus_[++lastHandle_].held = held;
+  return lastHandle_;
+}
+
+void MenuTree::Destroy(MenuHandle menu) {
+  const auto found = menus_.find(menu);
+  if (found == menus_.end()) return;
+  const std::vector<MenuEntry> entries = std::move(found->second.entries);
+  menus_.erase(found);
+  for (const MenuEntry& entry : entries) Destroy(entry.popup);
+}
+
+bool MenuTree::IsHeld(MenuHandle menu) const {
+  const auto found = menus_.find(menu);
+  return found != menus_.end() && found->second.held;
+}
+
+const std::vector<MenuEntry>* MenuTree::Entries(MenuHandle menu) const {
+  const auto found = menus_.find(menu);
+  return found == menus_.end() ? nullptr : &found->second.entries;
+}
+
+const MenuEntry* MenuTree::Entry(MenuHandle menu, std::int32_t position) const {
+  const std::vector<MenuEntry>* entries = Entries(menu);
+  if (entries == nullptr || !IsPlaceIn(*entries, position)) return nullptr;
+  return &(*entries)[static_cast<std::size_t>(position)];
+}
+
+void MenuTree::SetMeasure(MenuHandle menu, std::int32_t position, std::int32_t width, std::int32_t height) {
+  const auto found = menus_.find(menu);
+  if (found == menus_.end() || !IsPlaceIn(found->second.entries, position)) return;
+  MenuEntry& entry = found->second.entries[static_cast<std::size_t>(position)];
+  entry.measured = true;
+  entry.width = width;
+  entry.height = height;
+}
+
+std::optional<MenuTree::Place> MenuTree::FindCommand(MenuHandle menu, std::int32_t id) {
+  const auto found = menus_.find(menu);
+  if (found == menus_.end()) return std::nullopt;
+  std::vector<MenuEntry>& entries = found->second.entries;
+  for (std::size_t index = 0; index < entries.size(); ++index) {
+    if (entries[index].popup == 0 && entries[index].id == id) return Place{&found->second, index};
+    if (const std::optional<Place> below = FindCommand(entries[index].popup, id)) return below;
+  }
+  return std::nullopt;
+}
+
+std::optional<MenuTree::Place> MenuTree::Find(MenuHandle menu, std::int32_t position, std::int32_t flags) {
+  if (!Has(flags, kMenuByPosition)) return FindCommand(menu, position);
+  const auto found = menus_.find(menu);
+  if (found == menus_.end() || !IsPlaceIn(found->second.entries, position)) return std::nullopt;
+  return Place{&found->second, static_cast<std::size_t>(position)};
+}
+
+bool MenuTree::HoldsBelow(MenuHandle menu, MenuHandle wanted) const {
+  if (menu == wanted) return true;
+  const std::vector<MenuEntry>* entries = Entries(menu);
+  return entries != nullptr && std::any_of(entries->begin(), entries->end(), [&](const MenuEntry& entry) {
+           return entry.popup != 0 && HoldsBelow(entry.popup, wanted);
+         });
+}
+
+// `own` is the popup that the entry has already.
+bool MenuTree::MayHold(MenuHandle menu, std::int32_t flags, std::int32_t id, MenuHandle own) const {
+  if (!Has(flags, kMenuPopup)) return true;
+  if (!Exists(id)) return false;
+  return id == own || (!IsHeld(id) && !HoldsBelow(id, menu));
+}
+
+MenuEntry MenuTree::MakeEntry(std::int32_t flags, std::int32_t id, const std::wstring& text) {
+  MenuEntry entry;
+  entry.flags = flags;
+  entry.id = id;
+  entry.text = text;
+  if (Has(flags, kMenuPopup)) {
+    entry.popup = id;
+    menus_[id].held = true;
+  }
+  return entry;
+}
+
+bool MenuTree::Insert(MenuHandle menu, std::int32_t position, std::int32_t flags, std::int32_t id,
+                      const std::wstring& text) {
+  if (!Exists(menu) || !MayHold(menu, flags, id, 0)) return false;
+  std::optional<Place> place = Find(menu, position, flags);
+  if (!place && !Has(flags, kMenuByPosition)) return false;
+  Menu& target = place ? *place->menu : menus_[menu];
+  const std::size_t index = place ? place->index : target.entries.size();
+  target.entries.insert(target.entries.begin() + static_cast<std::ptrdiff_t>(index), MakeEntry(flags, id, text));
+  return true;
+}
+
+bool MenuTree::Modify(MenuHandle menu, std::int32_t position, std::int32_t flags, std::int32_t id,
+                      const std::wstring& text) {
+  const std::optional<Place> place = Find(menu, position, flags);
+  if (!place) return false;
+  MenuEntry& entry = place->menu->entries[place->index];
+  const MenuHandle old = entry.popup;
+  if (!MayHold(menu, flags, id, old)) return false;
+  entry = MakeEntry(flags, id, text);
+  if (!Has(flags, kMenuPopup) && Has(flags, kMenuOwnerDrawn)) entry.popup = old;
+  if (old != entry.popup) Destroy(old);
+  return true;
+}
+
+bool MenuTree::Delete(MenuHandle menu, std::int32_t position, std::int32_t flags) {
+  const std::optional<Place> place = Find(menu, position, flags);
+  if (!place) return false;
+  std::vector<MenuEntry>& entries = place->menu->entries;
+  const MenuHandle popup = entries[place->index].popup;
+  entries.erase(entries.begin() + static_cast<std::ptrdiff_t>(place->index));
+  Destroy(popup);
+  return true;
+}
+
+}  // namespace burrowmark

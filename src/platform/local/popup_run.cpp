@@ -1,0 +1,261 @@
+#include "platform/local/popup_run.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "platform/characters.h"
+#include "platform/local/menu_text.h"
+
+namespace burrowmark {
+namespace {
+
+// Lengths at kDesignDpi: the border around the entries, what the system adds for a check mark, and the entries that it
+// measures itself.
+constexpr std::int32_t kBorder = 3;
+constexpr std::int32_t kCheckWidth = 15;
+constexpr std::int32_t kPlainHeight = 19;
+constexpr std::int32_t kPlainMargin = 24;
+
+// Answers to kMessageMenuChar, in the high word (winuser.h).
+constexpr std::int64_t kWordSize = 0x10000;
+constexpr std::int64_t kCharClose = 1;
+constexpr std::int64_t kCharExecute = 2;
+constexpr std::int64_t kCharSelect = 3;
+
+std::int32_t Scaled(std::int32_t pixels, std::int32_t dpi) { return pixels * dpi / kDesignDpi; }
+
+std::int32_t CountOf(const std::vector<MenuEntry>* entries) {
+  return entries == nullptr ? 0 : static_cast<std::int32_t>(entries->size());
+}
+
+std::int32_t ItemNumber(const MenuEntry& entry) { return entry.popup != 0 ? entry.popup : entry.id; }
+
+}  // namespace
+
+PopupRun::PopupRun(MenuTree& tree, LocalWindows& windows, LocalDrawing& drawing, PopupHistory& history,
+                   WindowHandle window, std::uint32_t selectedState)
+    : tree_(tree),
+      windows_(windows),
+      drawing_(drawing),
+      history_(history),
+      window_(window),
+      selectedState_(selectedState),
+      cancelModes_(windows.CancelModes()) {}
+
+void PopupRun::Open(MenuHandle menu) {
+  Measure(menu);
+  PopupView view;
+  view.menu = menu;
+  LayOut(view);
+  history_.popups.push_back(view);
+  levels_.push_back(history_.popups.size() - 1);
+  for (std::int32_t i = 0; i < CountOf(tree_.Entries(menu)); ++i) Draw(view, i);
+  LetOthersRun();
+}
+
+void PopupRun::Measure(MenuHandle menu) {
+  for (std::int32_t i = 0; i < CountOf(tree_.Entries(menu)); ++i) {
+    const MenuEntry& entry = *tree_.Entry(menu, i);
+    if (entry.measured) continue;
+    MeasureRecord record{.controlType = kControlMenu, .itemID = ItemNumber(entry)};
+    if (entry.IsOwnerDrawn()) {
+      WindowMessage message{.window = window_, .number = kMessageMeasureItem, .measure = &record};
+      windows_.Deliver(message);
+      history_.measurings.push_back({menu, i, record});
+    } else {
+      record.itemWidth = drawing_.TextWidth(entry.text, windows_.Dpi) + Scaled(kPlainMargin, windows_.Dpi);
+      record.itemHeight = Scaled(kPlainHeight, windows_.Dpi);
+    }
+    tree_.SetMeasure(menu, i, record.itemWidth, record.itemHeight);
+  }
+}
+
+void PopupRun::LayOut(PopupView& view) const {
+  const std::vector<MenuEntry>* entries = tree_.Entries(view.menu);
+  if (entries == nullptr) return;
+  const std::int32_t dpi = windows_.Dpi;
+  std::int32_t width = 0;
+  for (const MenuEntry& entry : *entries) width = std::max(width, entry.width);
+  const std::int32_t border = Scaled(kBorder, dpi);
+  const std::int32_t right = border + width + Scaled(kCheckWidth, dpi);
+  std::int32_t top = border;
+  for (const MenuEntry& entry : *entries) {
+    view.rects.push_back({border, top, right, top + entry.height});
+    top += entry.height;
+  }
+  view.context = drawing_.OpenContext(dpi, right + border, top + border, drawing_.GetSysColor(kColorMenu));
+}
+
+void PopupRun::Draw(const PopupView& view, std::int32_t position) {
+  const MenuEntry* entry = tree_.Entry(view.menu, position);
+  const auto index = static_cast<std::size_t>(position);
+  if (entry == nullptr || !entry->IsOwnerDrawn() || index >= view.rects.size()) return;
+  const DrawRecord record{.controlType = kControlMenu,
+                          .itemID = ItemNumber(*entry),
+                          .itemState = view.selected == position ? selectedState_ : 0,
+                          .context = view.context,
+                          .rect = view.rects[index]};
+  const MenuHandle menu = view.menu;  // the view may move while the program draws
+  drawing_.StartDrawing(record.context);
+  WindowMessage message{.window = window_, .number = kMessageDrawItem, .draw = &record};
+  windows_.Deliver(message);
+  history_.drawings.push_back({menu, position, record, drawing_.Calls(record.context)});
+}
+
+void PopupRun::Select(std::int32_t position) {
+  PopupView& view = Top();
+  if (view.selected == position) return;
+  const std::int32_t old = std::exchange(view.selected, position);
+  const PopupView now = view;
+  if (old >= 0) Draw(now, old);
+  if (position >= 0) Draw(now, position);
+}
+
+const MenuEntry* PopupRun::Selected() { return tree_.Entry(Top().menu, Top().selected); }
+
+std::optional<PopupRun::Spot> PopupRun::FindTitle(const std::wstring& title) const {
+  for (std::size_t level = levels_.size(); level > 0; --level) {
+    const std::vector<MenuEntry>* entries = tree_.Entries(history_.popups[levels_[level - 1]].menu);
+    if (entries == nullptr) continue;
+    const auto found = std::find_if(entries->begin(), entries->end(), [&title](const MenuEntry& entry) {
+      return entry.text == title || WithoutPrefixes(entry.text) == title;
+    });
+    if (found != entries->end()) return Spot{level - 1, static_cast<std::int32_t>(found - entries->begin())};
+  }
+  return std::nullopt;
+}
+
+bool PopupRun::MoveMouseTo(const std::wstring& title) {
+  const std::optional<Spot> spot = FindTitle(title);
+  if (!spot) return false;
+  levels_.resize(spot->level + 1);
+  Select(spot->position);
+  return true;
+}
+
+bool PopupRun::Perform(const MenuAction& action) {
+  switch (action.kind) {
+    case MenuAction::Kind::kClick:
+      if (!MoveMouseTo(action.title)) return false;
+      if (Selected() != nullptr && !Selected()->IsSeparator()) Execute(false);
+      break;
+    case MenuAction::Kind::kRightClick:
+      if (!MoveMouseTo(action.title)) return false;
+      RightClick();
+      break;
+    case MenuAction::Kind::kPress:
+      Press(action.key);
+      break;
+    case MenuAction::Kind::kType:
+      Type(action.letter);
+      break;
+    case MenuAction::Kind::kDo:
+      if (action.what) action.what();
+      break;
+    case MenuAction::Kind::kCancel:
+      levels_.clear();
+      break;
+  }
+  LetOthersRun();
+  return true;
+}
+
+void PopupRun::RightClick() {
+  WindowMessage message{
+      .window = window_, .number = kMessageMenuRightButtonUp, .wParam = Top().selected, .lParam = Top().menu};
+  windows_.Deliver(message);
+}
+
+// The position of the next entry that isn't a separator, around the end; -1 if there is none.
+std::int32_t PopupRun::NextSelectable(std::int32_t from, std::int32_t step) {
+  const MenuHandle menu = Top().menu;
+  const std::int32_t count = CountOf(tree_.Entries(menu));
+  std::int32_t position = from < 0 && step < 0 ? 0 : from;
+  for (std::int32_t tries = 0; tries < count; ++tries) {
+    position = (position + step + count) % count;
+    if (!tree_.Entry(menu, position)->IsSeparator()) return position;
+  }
+  return -1;
+}
+
+void PopupRun::Press(MenuKey key) {
+  const bool inPopupOfGroup = levels_.size() > 1;
+  switch (key) {
+    case MenuKey::kUp:
+      return Select(NextSelectable(Top().selected, -1));
+    case MenuKey::kDown:
+      return Select(NextSelectable(Top().selected, 1));
+    case MenuKey::kRight:
+      return OpenSelected(true);
+    case MenuKey::kLeft:
+      if (inPopupOfGroup) CloseLevel();
+      return;
+    case MenuKey::kEscape:
+      return CloseLevel();
+    case MenuKey::kEnter:
+      return Execute(true);
+  }
+}
+
+std::int32_t PopupRun::NextStartingWith(wchar_t letter) {
+  const MenuHandle menu = Top().menu;
+  const std::int32_t count = CountOf(tree_.Entries(menu));
+  for (std::int32_t step = 1; step <= count; ++step) {
+    const std::int32_t position = (Top().selected + step) % count;
+    const std::wstring seen = WithoutPrefixes(tree_.Entry(menu, position)->text);
+    if (!tree_.Entry(menu, position)->IsSeparator() && !seen.empty() && UpperCase(seen[0]) == UpperCase(letter)) {
+      return position;
+    }
+  }
+  return -1;
+}
+
+void PopupRun::Type(wchar_t letter) {
+  WindowMessage message{.window = window_,
+                        .number = kMessageMenuChar,
+                        .wParam = static_cast<std::int64_t>(letter) + kMenuPopup * kWordSize,
+                        .lParam = Top().menu};
+  const MessageResult result = windows_.Deliver(message);
+  if (!IsOpen()) return;
+  AnswerMenuChar(result.handled ? result.value : 0, letter);
+}
+
+// A program that has nothing to say of the letter leaves the search to the texts of the entries.
+void PopupRun::AnswerMenuChar(std::int64_t value, wchar_t letter) {
+  const std::int64_t answer = value / kWordSize;
+  const auto position = static_cast<std::int32_t>(value % kWordSize);
+  const bool isPlace = tree_.Entry(Top().menu, position) != nullptr;
+  if (answer == kCharClose) return CloseLevel();
+  if ((answer == kCharSelect || answer == kCharExecute) && isPlace) {
+    Select(position);
+    if (answer == kCharExecute) Execute(true);
+    return;
+  }
+  const std::int32_t next = NextStartingWith(letter);
+  if (next < 0) return windows_.Beep();
+  Select(next);
+}
+
+void PopupRun::OpenSelected(bool byKey) {
+  const MenuEntry* entry = Selected();
+  if (entry == nullptr || entry->popup == 0) return;
+  Open(entry->popup);
+  if (byKey && IsOpen()) Select(NextSelectable(-1, 1));
+}
+
+void PopupRun::Execute(bool byKey) {
+  const MenuEntry* entry = Selected();
+  if (entry != nullptr && entry->popup != 0) return OpenSelected(byKey);
+  if (entry != nullptr) chosen_ = entry->id;
+  levels_.clear();
+}
+
+// The program's messages go on while a menu is open. One of them may end the menu, or take it away.
+void PopupRun::LetOthersRun() {
+  windows_.DoEvents();
+  const bool gone = std::any_of(levels_.begin(), levels_.end(),
+                                [this](std::size_t level) { return !tree_.Exists(history_.popups[level].menu); });
+  if (gone || windows_.Main() != window_ || windows_.CancelModes() != cancelModes_) levels_.clear();
+}
+
+}  // namespace burrowmark

@@ -1,0 +1,99 @@
+// One popup from its opening until it is gone.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/local/local_drawing.h"
+#include "platform/local/local_windows.h"
+#include "platform/local/menu_actions.h"
+#include "platform/local/menu_tree.h"
+
+namespace burrowmark {
+
+// A popup as it is, or was, on the screen.
+struct PopupView {
+  MenuHandle menu = 0;
+  DeviceContext context = 0;
+  std::vector<Rect> rects;     // of its entries
+  std::int32_t selected = -1;  // position; -1 for none
+};
+
+// One drawing of one entry by the program, with the calls that it made.
+struct EntryDrawing {
+  MenuHandle menu = 0;
+  std::int32_t position = 0;
+  DrawRecord record;
+  std::vector<DrawCall> calls;
+};
+
+// One measuring, with its answer.
+struct EntryMeasuring {
+  MenuHandle menu = 0;
+  std::int32_t position = 0;
+  MeasureRecord record;
+};
+
+// What happened on the screen, in order.
+struct PopupHistory {
+  std::vector<PopupView> popups;
+  std::vector<EntryMeasuring> measurings;
+  std::vector<EntryDrawing> drawings;
+};
+
+// Owner-drawn entries are measured when a popup opens for the first time after they changed, and drawn by the window's
+// hook on a canvas that has the colour of menus.
+class PopupRun {
+ public:
+  // All must outlive this object. `selectedState` is what an entry's state is while it is selected.
+  PopupRun(MenuTree& tree, LocalWindows& windows, LocalDrawing& drawing, PopupHistory& history, WindowHandle window,
+           std::uint32_t selectedState);
+
+  void Open(MenuHandle menu);
+  // False if there is no entry of this title to click on.
+  bool Perform(const MenuAction& action);
+  bool IsOpen() const { return !levels_.empty(); }
+  // The number of the entry that was chosen, once the menu is gone.
+  std::optional<std::int32_t> Chosen() const { return chosen_; }
+
+ private:
+  struct Spot {
+    std::size_t level = 0;
+    std::int32_t position = 0;
+  };
+
+  PopupView& Top() { return history_.popups[levels_.back()]; }
+  const MenuEntry* Selected();
+  std::optional<Spot> FindTitle(const std::wstring& title) const;
+  std::int32_t NextStartingWith(wchar_t letter);
+  std::int32_t NextSelectable(std::int32_t from, std::int32_t step);
+
+  void Measure(MenuHandle menu);
+  void LayOut(PopupView& view) const;
+  void Draw(const PopupView& view, std::int32_t position);
+  void Select(std::int32_t position);
+  bool MoveMouseTo(const std::wstring& title);
+  void RightClick();
+  void Press(MenuKey key);
+  void Type(wchar_t letter);
+  void AnswerMenuChar(std::int64_t value, wchar_t letter);
+  void OpenSelected(bool byKey);
+  // Opens the selected entry if it is a group, otherwise chooses it.
+  void Execute(bool byKey);
+  void CloseLevel() { levels_.pop_back(); }
+  void LetOthersRun();
+
+  MenuTree& tree_;
+  LocalWindows& windows_;
+  LocalDrawing& drawing_;
+  PopupHistory& history_;
+  WindowHandle window_;
+  std::uint32_t selectedState_;
+  std::size_t cancelModes_;
+  std::vector<std::size_t> levels_;  // open popups from the root on, as places in the history
+  std::optional<std::int32_t> chosen_;
+};
+
+}  // namespace burrowmark
