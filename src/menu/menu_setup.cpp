@@ -46,6 +46,15 @@ std::wstring FirstRootKey(const clsMenuCollection& store) {
 
 bool IsMainStore(const Application& app, const clsMenuCollection& store) { return &store == app.MainStore.get(); }
 
+// Entries that come among others, or go, move the others.
+void NumberPositions(const clsMenuCollection& store) {
+  std::map<std::int32_t, std::int32_t> next;
+  for (std::int32_t i = 1; i <= store.Count(); ++i) {
+    const ItemRef item = store.Item(i);
+    item->Position = next[item->OwnerID]++;
+  }
+}
+
 // Takes entries out of a store and, of the main store, out of the native menu: from the end, so that the positions of
 // those still to go stay right.
 void RemoveEntries(Application& app, clsMenuCollection& store, std::initializer_list<std::wstring_view> names) {
@@ -57,6 +66,7 @@ void RemoveEntries(Application& app, clsMenuCollection& store, std::initializer_
     found.push_back(item->Name());
   }
   for (const std::wstring& name : found) store.Remove(name);
+  if (IsMainStore(app, store)) NumberPositions(store);
 }
 
 bool TakesPart(const clsMenuItem& item, const std::wstring& filter) {
@@ -89,15 +99,6 @@ void InsertEntry(Application& app, clsMenuItem& item, bool replacesDummy) {
 void MakeOwnerDrawn(Application& app, clsMenuItem& item) {
   item.flags = kMenuByPosition | kMenuOwnerDrawn | (item.Separator() ? kMenuSeparator : 0);
   app.platform.menus.ModifyMenuA(item.OwnerID, item.Position, item.flags, item.ID, item.Caption());
-}
-
-// New entries among old ones move the old ones on.
-void NumberPositions(const clsMenuCollection& store) {
-  std::map<std::int32_t, std::int32_t> next;
-  for (std::int32_t i = 1; i <= store.Count(); ++i) {
-    const ItemRef item = store.Item(i);
-    item->Position = next[item->OwnerID]++;
-  }
 }
 
 }  // namespace

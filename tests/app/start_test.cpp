@@ -1,0 +1,258 @@
+// The whole program from its start to its end, as a person and other processes meet it.
+#include "app/start.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <list>
+
+#include "app/command_line.h"
+#include "config/config_file.h"
+#include "core/numbers.h"
+#include "core/registry.h"
+#include "core/registry_keys.h"
+#include "tests/support/scratch_machine.h"
+
+namespace burrowmark {
+namespace {
+
+constexpr wchar_t kBeside[] = L"C:\\Program Files\\Burrowmark\\default.bwmk";
+
+class Start : public testing::Test {
+ protected:
+  Start() {
+    machine_.windows.Input = [this] {
+      if (steps_.empty()) return false;
+      const auto step = steps_.front();
+      steps_.pop_front();
+      step();
+      return true;
+    };
+  }
+  ~Start() override { EXPECT_EQ(machine_.user.Complaints(), ""); }
+
+  // Runs the program; each step happens when it has nothing to do, and at the end it is told to go.
+  void Run(std::initializer_list<std::function<void()>> steps, const std::wstring& commandLine = {}) {
+    steps_ = steps;
+    steps_.push_back([this] { SecondProcess(L"/EXIT"); });
+    RunBurrowmark(machine_.platform(), commandLine);
+    EXPECT_TRUE(steps_.empty());
+    EXPECT_EQ(machine_.windows.Main(), 0);
+    EXPECT_EQ(machine_.shell.Tray(), nullptr);
+  }
+  void SecondProcess(const std::wstring& commandLine) {
+    const auto other = machine_.AnotherProcess();
+    RunBurrowmark(other->platform(), commandLine);
+  }
+  std::wstring Menu() {
+    std::wstring texts;
+    const MenuHandle root = machine_.menus.GetSubMenu(machine_.menus.GetMenu(machine_.windows.Main()), 0);
+    for (const MenuEntry& entry : machine_.menus.Entries(root)) {
+      texts += (entry.IsSeparator() ? L"-" : entry.text) + L";";
+    }
+    return texts;
+  }
+  std::wstring Registered(const wchar_t* key, const wchar_t* value) {
+    std::wstring text;
+    clsRegHandler(machine_.registry).GetKeyValue(RegistryKey::kCurrentUser, key, value, text);
+    return text;
+  }
+  void Register(const std::wstring& path) {
+    clsRegHandler(machine_.registry).SetKeyValue(RegistryKey::kCurrentUser, kSettingsKey, kConfigFileValue, path);
+  }
+  // A file that holds one shortcut of this title in the personal group.
+  std::string FileWith(const std::wstring& title) {
+    Application app(machine_.platform());
+    clsMenuCollection& store = *app.MainStore;
+    store.AddNewMenuItem({.Caption = L"Mine", .OwnerName = kRootOwner, .Name = MIT_GROUP_USER, .SubMenu = true});
+    store.AddNewMenuItem({.Caption = title, .OwnerName = MIT_GROUP_USER, .FolderPath = L"C:\\Windows"});
+    ConfigFileWrite(app, store, L"C:\\made.bwmk", false);
+    return machine_.BytesOf(L"C:\\made.bwmk");
+  }
+
+  test::ScratchMachine scratch_;
+  LocalMachine& machine_ = scratch_.machine;
+  std::list<std::function<void()>> steps_;
+};
+
+TEST_F(Start, TheFirstStartWritesTheDefaultFile) {
+  Run({[&] {
+    EXPECT_EQ(Menu(), L"Help;-;Personal;-;Options;Organize Folders;");
+    ASSERT_NE(machine_.shell.Tray(), nullptr);
+    EXPECT_EQ(machine_.shell.Tray()->tip, L"Burrowmark");
+    EXPECT_EQ(Registered(kMainKey, kWindowValue), DecimalText(machine_.windows.Main()));
+  }});
+  Application app(machine_.platform());
+  bool missing = false;
+  bool ignored = false;
+  ASSERT_TRUE(ConfigFileRead(app, *app.MainStore, kBeside, missing, ignored));
+  EXPECT_TRUE(app.MainStore->ItemExists(L"M2"));
+  EXPECT_EQ(Registered(kSettingsKey, kConfigFileValue), L"");
+}
+
+TEST_F(Start, AFileBesideTheProgramIsReadAndRegistered) {
+  machine_.AddFile(kBeside, FileWith(L"Found"));
+  const std::string before = machine_.BytesOf(kBeside);
+  Run({[&] {
+    EXPECT_EQ(Menu(), L"Help;-;Mine;-;Options;Organize Folders;");
+    machine_.user.NextMenu({L"Mine", L"Found"});
+    machine_.user.ClickTray(LocalUser::Button::kLeft);
+    ASSERT_EQ(machine_.shell.Launches.size(), 1U);
+    EXPECT_EQ(machine_.shell.Launches[0].file, L"C:\\Windows\\EXPLORER.EXE");
+    EXPECT_EQ(machine_.shell.Launches[0].parameters, L"C:\\Windows");
+  }});
+  EXPECT_EQ(machine_.BytesOf(kBeside), before);
+}
+
+TEST_F(Start, ARegisteredFileOnADriveThatIsAwayStaysRegistered) {
+  machine_.AddFile(kBeside, FileWith(L"Found"));
+  Register(L"Q:\\away.bwmk");
+  Run({[&] { EXPECT_EQ(Menu(), L"Help;-;Mine;-;Options;Organize Folders;"); }});
+  EXPECT_EQ(Registered(kSettingsKey, kConfigFileValue), L"Q:\\away.bwmk");
+  Register(L"C:\\gone.bwmk");
+  Run({});
+  EXPECT_EQ(Registered(kSettingsKey, kConfigFileValue), kBeside);
+}
+
+TEST_F(Start, AFileThatCannotBeReadIsNotOverwritten) {
+  const std::string damaged = FileWith(L"Found").substr(0, 40);
+  for (const std::string& bytes : {damaged + std::string("\0x\0", 3), std::string("no file of ours")}) {
+    machine_.AddFile(kBeside, bytes);
+    Run({[&] {
+      EXPECT_EQ(Menu(), L"Help;-;Personal;-;Options;Organize Folders;");
+      machine_.user.NextMenu({L"Personal", L"My Group", L"Start Menu"});  // dead here: the offer to delete it
+      machine_.user.NextBox(L"does not exist", kAnswerYes);
+      machine_.user.ClickTray(LocalUser::Button::kLeft);
+    }});
+    EXPECT_EQ(machine_.BytesOf(kBeside), bytes);
+  }
+}
+
+TEST_F(Start, AFileThatIsHeldOpenIsLeftAloneAndAnEmptyOneIsReplaced) {
+  const std::string bytes = FileWith(L"Found");
+  machine_.AddFile(kBeside, bytes);
+  machine_.faults.HeldOpen.insert(L"C:\\PROGRAM FILES\\BURROWMARK\\DEFAULT.BWMK");
+  Run({[&] { EXPECT_EQ(Menu(), L"Help;-;Personal;-;Options;Organize Folders;"); }});
+  machine_.faults.HeldOpen.clear();
+  EXPECT_EQ(machine_.BytesOf(kBeside), bytes);
+  machine_.AddFile(kBeside, "");
+  Run({});
+  EXPECT_NE(machine_.BytesOf(kBeside), "");
+}
+
+TEST_F(Start, ADeletionIsWrittenUnlessTheFileCannotBe) {
+  machine_.AddFile(kBeside, FileWith(L"Found"));
+  machine_.drives.Add(L'D');
+  std::string bytes = machine_.BytesOf(kBeside);
+  bytes.replace(bytes.find("C:\\Windows"), 10, "D:\\Windows");
+  machine_.AddFile(kBeside, bytes);
+  const auto choose = [&] {
+    machine_.user.NextMenu({L"Mine", L"Found"});
+    machine_.user.NextBox(L"Path 'D:\\Windows' does not exist", kAnswerYes);
+    machine_.user.ClickTray(LocalUser::Button::kLeft);
+    EXPECT_TRUE(machine_.shell.Launches.empty());
+  };
+  machine_.files.SetFileAttributesA(kBeside, kFileReadOnly);
+  Run({choose});
+  EXPECT_EQ(machine_.BytesOf(kBeside), bytes);
+  machine_.files.SetFileAttributesA(kBeside, 0);
+  Run({choose});
+  EXPECT_EQ(machine_.BytesOf(kBeside).find("Found"), std::string::npos);
+  EXPECT_NE(machine_.BytesOf(kBeside).find("Mine"), std::string::npos);
+}
+
+TEST_F(Start, WhatTheMachineRefusesDoesNotStopTheStart) {
+  machine_.shell.HasTaskBar = false;
+  machine_.faults.RefusedKeys.insert(L"HKEY_CURRENT_USER\\SOFTWARE\\KESTRELAN");
+  machine_.faults.FoldersWithoutNewFiles.insert(L"C:\\PROGRAM FILES\\BURROWMARK");
+  steps_ = {[&] {
+    EXPECT_EQ(Menu(), L"Help;-;Personal;-;Options;Organize Folders;");
+    machine_.windows.DestroyMainWindow(machine_.windows.Main());
+  }};
+  RunBurrowmark(machine_.platform(), {});
+  EXPECT_TRUE(machine_.files.FileExists(L"C:\\Users\\User\\AppData\\Roaming\\Kestrelan\\Burrowmark\\default.bwmk"));
+}
+
+TEST_F(Start, NoWindowNoProgram) {
+  machine_.uiFaults.FailCall(1);
+  RunBurrowmark(machine_.platform(), {});
+  EXPECT_EQ(machine_.windows.Main(), 0);
+}
+
+TEST_F(Start, CommandsOfOtherProcesses) {
+  Run({[&] {
+         SecondProcess(L"");
+         EXPECT_EQ(Registered(kMainKey, kTransferValue), L"");
+       },
+       [&] {
+         SecondProcess(L"/exit");
+         EXPECT_EQ(Registered(kMainKey, kTransferValue), L"/exit");
+       },
+       [&] { SecondProcess(L"/FR"); },
+       [&] {
+         EXPECT_EQ(machine_.windows.Beeps(), 1U);
+         SecondProcess(L"/FR C:\\x");
+         SecondProcess(L"/FR  ");
+         SecondProcess(L"/unknown");
+       },
+       [&] { EXPECT_EQ(machine_.windows.Beeps(), 2U); }});
+}
+
+TEST_F(Start, ExitReachesAProgramWhoseMenuIsOpen) {
+  steps_ = {[&] {
+    machine_.user.NextMenu(MenuActions().Do([&] { SecondProcess(L"/EXIT"); }));
+    machine_.user.ClickTray(LocalUser::Button::kLeft);
+  }};
+  RunBurrowmark(machine_.platform(), {});
+  EXPECT_EQ(machine_.windows.Main(), 0);
+}
+
+TEST_F(Start, TheCommandLineOfTheFirstProcessIsObeyed) {
+  RunBurrowmark(machine_.platform(), L"/EXIT");
+  EXPECT_EQ(machine_.windows.Main(), 0);
+}
+
+TEST(CommandLine, ArgumentsStandBehindOneSeparator) {
+  EXPECT_EQ(CommandArgument(L"/FR C:\\x y ", 3), L"C:\\x y");
+  EXPECT_EQ(CommandArgument(L"/FR \"C:\\x y\"", 3), L"C:\\x y");
+  EXPECT_EQ(CommandArgument(L"/FR", 3), L"");
+  EXPECT_EQ(CommandArgument(L"/FR ", 3), L"");
+  EXPECT_EQ(CommandArgument(L"/FR \"", 3), L"\"");
+}
+
+TEST(CommandLine, EachCommandGoesItsWay) {
+  test::ScratchMachine scratch;
+  Application& app = scratch.app;
+  std::wstring calls;
+  app.Calls.ShowOrganize = [&](bool AddMode) {
+    calls += AddMode ? L"add " : L"show ";
+    app.IsOpen(SingleWindow::kOrganize) = true;
+  };
+  app.Calls.InitOrganize = [&](const std::wstring& Command) { calls += L"init(" + Command + L") "; };
+  app.Calls.BringToFront = [&](SingleWindow window) {
+    calls += window == SingleWindow::kOrganize ? L"front " : L"dialog ";
+  };
+  app.Calls.ShowFolderReport = [&](const std::wstring& folder) { calls += L"report(" + folder + L") "; };
+  app.Calls.UnloadMain = [&] { calls += L"exit "; };
+  app.Calls.UnloadOptions = [&] { calls += L"options "; };
+  const auto run = [&](bool FromMenu, const std::wstring& command) {
+    calls.clear();
+    ProcessCommand(app, FromMenu, command);
+    return calls;
+  };
+  EXPECT_EQ(run(false, L"/ADD C:\\x"), L"add front init(/ADD C:\\x) ");
+  EXPECT_EQ(run(false, L"/OF"), L"front ");
+  EXPECT_EQ(run(false, L"/OPEN C:\\x.bwmk"), L"front init(/OPEN C:\\x.bwmk) ");
+  app.IsOpen(SingleWindow::kAddModify) = true;
+  EXPECT_EQ(run(false, L"/ADD C:\\y"), L"front dialog ");
+  EXPECT_EQ(run(false, L"/FR \"C:\\z\""), L"report(C:\\z) ");
+  for (const wchar_t* unknown : {L"/of", L"/OF ", L"x", L""}) EXPECT_EQ(run(false, unknown), L"");
+  app.WindowOpenFlags.fill(false);
+  EXPECT_EQ(run(true, L""), L"show front ");
+  app.IsOpen(SingleWindow::kOptions) = true;
+  EXPECT_EQ(run(false, L"/EXIT"), L"options exit ");
+  EXPECT_TRUE(app.ExitRequested);
+}
+
+}  // namespace
+}  // namespace burrowmark
