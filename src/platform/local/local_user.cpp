@@ -78,7 +78,7 @@ std::string LocalUser::Complaints() const {
 }
 
 std::string LocalUser::TakeComplaints() {
-  const std::string all = Complaints();
+  std::string all = Complaints();
   complaints_.clear();
   menus_.clear();
   boxes_.clear();
