@@ -51,7 +51,7 @@ struct WindowMessage {
   std::int64_t lParam = 0;
   MeasureRecord* measure = nullptr;
   const DrawRecord* draw = nullptr;
-  std::wstring text = {};  // of copied data; the number that goes with it is lParam
+  std::wstring text;  // of copied data
 };
 
 // What a hook did with a message: nothing, so that the window's own procedure goes on, or it has a result of its own.

@@ -15,6 +15,7 @@ namespace burrowmark {
 class LocalTest : public ::testing::Test {
  protected:
   ~LocalTest() override {
+    EXPECT_EQ(machine_.user.Complaints(), "");
     std::error_code error;
     std::filesystem::remove_all(folder_, error);
   }

@@ -1,5 +1,7 @@
 #include "tests/support/scratch_machine.h"
 
+#include <gtest/gtest.h>
+
 #include <atomic>
 #include <chrono>
 #include <set>
@@ -25,6 +27,8 @@ ScratchMachine::ScratchMachine() : machine(folder.Path()), app(machine.platform(
   machine.clock.Fixed = kNow;
   app.AppPath = L"C:\\Program Files\\Burrowmark";
 }
+
+ScratchMachine::~ScratchMachine() { EXPECT_EQ(machine.user.Complaints(), ""); }
 
 ItemRef MakeItem(const Clock& clock, const std::wstring& name, const std::wstring& caption, const std::wstring& owner,
                  bool group) {

@@ -23,12 +23,16 @@ class ScratchFolder {
   std::filesystem::path path_;
 };
 
-// The clock stands at kNow until a test changes it.
+// The clock stands at kNow until a test changes it. A menu or a box that nobody expected, or that never came, fails the
+// test.
 class ScratchMachine {
  public:
   static constexpr LocalTime kNow{2003, 11, 5, 14, 7, 9};
 
   ScratchMachine();
+  ~ScratchMachine();
+  ScratchMachine(const ScratchMachine&) = delete;
+  ScratchMachine& operator=(const ScratchMachine&) = delete;
 
   ScratchFolder folder;
   LocalMachine machine;

@@ -9,8 +9,9 @@
 
 namespace burrowmark {
 
-// Every call of the local file system and the local registry asks `Strikes` first, under the seam's name of the call
-// ("CreateNewFile", "Write", "RegSetValueExA" ...), and fails as the real one would if the answer is true.
+// Every call of the local file system and the local registry, and those of the other families that may fail, ask
+// `Strikes` first, under the seam's name of the call ("CreateNewFile", "Write", "RegSetValueExA" ...), and fail as the
+// real ones would if the answer is true.
 class Faults {
  public:
   // From now on the calls are counted from 1: the one with this number fails, and only that one.

@@ -59,7 +59,7 @@ bool LocalMenus::ModifyMenuA(MenuHandle menu, std::int32_t position, std::int32_
 }
 
 bool LocalMenus::DeleteMenu(MenuHandle menu, std::int32_t position, std::int32_t flags) {
-  return !faults_.Strikes("DeleteMenu", L"") && tree_.Delete(menu, position, flags);
+  return !faults_.Strikes("DeleteMenu", L"") && (flags & kMenuByPosition) != 0 && tree_.Delete(menu, position);
 }
 
 std::int32_t LocalMenus::GetMenuItemCount(MenuHandle menu) {

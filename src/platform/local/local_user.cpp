@@ -58,8 +58,9 @@ void LocalUser::ChangeDpi(std::int32_t dpi) {
   LetItRun();
 }
 
-void LocalUser::AskToEndSession() {
+void LocalUser::TryToEndSession() {
   Send(kMessageQueryEndSession, 0);
+  Send(kMessageEndSession, 0);
   LetItRun();
 }
 
@@ -73,6 +74,14 @@ std::string LocalUser::Complaints() const {
   std::string all = complaints_;
   if (!menus_.empty()) all += "menus that never came: " + std::to_string(menus_.size()) + "\n";
   for (const BoxAnswer& box : boxes_) all += "a box that never came: " + ToUtf8(box.part) + "\n";
+  return all;
+}
+
+std::string LocalUser::TakeComplaints() {
+  std::string all = Complaints();
+  complaints_.clear();
+  menus_.clear();
+  boxes_.clear();
   return all;
 }
 

@@ -36,9 +36,9 @@ class LocalUser {
   void StartTaskBar();
   // The mouse goes to a screen of this scale.
   void ChangeDpi(std::int32_t dpi);
-  // The session ends, or it was only asked for and another program refused.
+  // The session ends. The other one: every program was asked, and another one refused.
   void EndSession();
-  void AskToEndSession();
+  void TryToEndSession();
 
   // What happens in the next popup, and what is answered to the next box whose text must contain `part`. In order.
   // `meanwhile` runs while the box is open.
@@ -49,6 +49,8 @@ class LocalUser {
 
   // Everything that wasn't as expected, and everything that was expected and didn't come; empty if all is well.
   std::string Complaints() const;
+  // The same, and they are forgotten.
+  std::string TakeComplaints();
   // Keeps what went wrong for Complaints, also where nobody sees the std::logic_error that this throws.
   [[noreturn]] void Complain(const std::string& what);
   // For those who show menus and boxes.

@@ -7,7 +7,7 @@
 namespace burrowmark {
 namespace {
 
-constexpr std::int32_t kDummyNumber = 1;
+constexpr std::int32_t kDummyNumber = 50;
 constexpr std::int64_t kLowWord = 0xFFFF;
 constexpr std::int64_t kLongestIdleTime = 24LL * 60 * 60 * 1000;
 
@@ -30,6 +30,15 @@ void Call(std::function<void(Arguments...)> handler, Arguments... arguments) {
 }
 
 }  // namespace
+
+WindowMessage MessageTo(WindowHandle window, std::uint32_t number, std::int64_t wParam, std::int64_t lParam) {
+  WindowMessage message;
+  message.window = window;
+  message.number = number;
+  message.wParam = wParam;
+  message.lParam = lParam;
+  return message;
+}
 
 LocalWindows::LocalWindows(MenuTree& menus, std::shared_ptr<LocalSession> session, Faults& faults)
     : menus_(menus), session_(std::move(session)), faults_(faults) {}
@@ -77,10 +86,9 @@ std::int64_t LocalWindows::OwnProcedure(const WindowMessage& message) {
   const MainWindowEvents& events = *main_->events;
   switch (message.number) {
     case kMessageQueryEndSession:
-      Call(events.SessionEnding);
       return 1;
     case kMessageEndSession:
-      if (message.wParam != 0) DestroyMainWindow(message.window);
+      if (message.wParam != 0) Call(events.SessionEnding);
       return 0;
     case kMessageCancelMode:
       ++cancelModes_;
@@ -105,7 +113,7 @@ bool LocalWindows::PostMessageA(WindowHandle window, std::uint32_t message, std:
   LocalWindows* process = session_->ProcessOf(window);
   if (process == nullptr) return false;
   process->Post([process, window, message, wParam, lParam] {
-    WindowMessage posted{.window = window, .number = message, .wParam = wParam, .lParam = lParam};
+    WindowMessage posted = MessageTo(window, message, wParam, lParam);
     process->Deliver(posted);
   });
   return true;
@@ -113,12 +121,13 @@ bool LocalWindows::PostMessageA(WindowHandle window, std::uint32_t message, std:
 
 std::int64_t LocalWindows::SendMessageA(WindowHandle window, std::uint32_t message, std::int64_t wParam,
                                         std::int64_t lParam) {
-  WindowMessage sent{.window = window, .number = message, .wParam = wParam, .lParam = lParam};
+  WindowMessage sent = MessageTo(window, message, wParam, lParam);
   return Deliver(session_->ProcessOf(window), sent);
 }
 
 std::int64_t LocalWindows::SendText(WindowHandle window, std::uint32_t number, const std::wstring& text) {
-  WindowMessage sent{.window = window, .number = kMessageCopyData, .lParam = number, .text = text};
+  WindowMessage sent = MessageTo(window, kMessageCopyData, 0, number);
+  sent.text = text;
   return Deliver(session_->ProcessOf(window), sent);
 }
 

@@ -22,6 +22,11 @@ inline constexpr std::uint32_t kMessageEndSession = 22;
 inline constexpr std::uint32_t kMessageDpiChanged = 736;
 inline constexpr wchar_t kTaskbarCreated[] = L"TaskbarCreated";
 
+// A message without records and text.
+WindowMessage MessageTo(WindowHandle window, std::uint32_t number, std::int64_t wParam, std::int64_t lParam);
+
+// The number of copied data is the message's lParam.
+//
 // Time stands still until a test lets it pass, or RunLoop has nothing else to do.
 class LocalWindows final : public WindowSystem {
  public:

@@ -44,31 +44,19 @@ const MenuEntry* MenuTree::Entry(MenuHandle menu, std::int32_t position) const {
   return &(*entries)[static_cast<std::size_t>(position)];
 }
 
-void MenuTree::SetMeasure(MenuHandle menu, std::int32_t position, std::int32_t width, std::int32_t height) {
+MenuEntry* MenuTree::Find(MenuHandle menu, std::int32_t position) {
   const auto found = menus_.find(menu);
-  if (found == menus_.end() || !IsPlaceIn(found->second.entries, position)) return;
-  MenuEntry& entry = found->second.entries[static_cast<std::size_t>(position)];
-  entry.measured = true;
-  entry.width = width;
-  entry.height = height;
+  if (found == menus_.end() || !IsPlaceIn(found->second.entries, position)) return nullptr;
+  return &found->second.entries[static_cast<std::size_t>(position)];
 }
 
-std::optional<MenuTree::Place> MenuTree::FindCommand(MenuHandle menu, std::int32_t id) {
-  const auto found = menus_.find(menu);
-  if (found == menus_.end()) return std::nullopt;
-  std::vector<MenuEntry>& entries = found->second.entries;
-  for (std::size_t index = 0; index < entries.size(); ++index) {
-    if (entries[index].popup == 0 && entries[index].id == id) return Place{&found->second, index};
-    if (const std::optional<Place> below = FindCommand(entries[index].popup, id)) return below;
-  }
-  return std::nullopt;
-}
-
-std::optional<MenuTree::Place> MenuTree::Find(MenuHandle menu, std::int32_t position, std::int32_t flags) {
-  if (!Has(flags, kMenuByPosition)) return FindCommand(menu, position);
-  const auto found = menus_.find(menu);
-  if (found == menus_.end() || !IsPlaceIn(found->second.entries, position)) return std::nullopt;
-  return Place{&found->second, static_cast<std::size_t>(position)};
+void MenuTree::SetMeasure(MenuHandle menu, std::int32_t position, std::int32_t dpi, std::int32_t width,
+                          std::int32_t height) {
+  MenuEntry* entry = Find(menu, position);
+  if (entry == nullptr) return;
+  entry->measuredDpi = dpi;
+  entry->width = std::max(width, 0);
+  entry->height = std::max(height, 0);
 }
 
 bool MenuTree::HoldsBelow(MenuHandle menu, MenuHandle wanted) const {
@@ -101,34 +89,30 @@ MenuEntry MenuTree::MakeEntry(std::int32_t flags, std::int32_t id, const std::ws
 bool MenuTree::Insert(MenuHandle menu, std::int32_t position, std::int32_t flags, std::int32_t id,
                       const std::wstring& text) {
   if (!Exists(menu) || !MayHold(menu, flags, id, 0)) return false;
-  std::optional<Place> place = Find(menu, position, flags);
-  if (!place && !Has(flags, kMenuByPosition)) return false;
-  Menu& target = place ? *place->menu : menus_[menu];
-  const std::size_t index = place ? place->index : target.entries.size();
-  target.entries.insert(target.entries.begin() + static_cast<std::ptrdiff_t>(index), MakeEntry(flags, id, text));
+  std::vector<MenuEntry>& entries = menus_[menu].entries;
+  const auto place = IsPlaceIn(entries, position) ? entries.begin() + position : entries.end();
+  entries.insert(place, MakeEntry(flags, id, text));
   return true;
 }
 
 bool MenuTree::Modify(MenuHandle menu, std::int32_t position, std::int32_t flags, std::int32_t id,
                       const std::wstring& text) {
-  const std::optional<Place> place = Find(menu, position, flags);
-  if (!place) return false;
-  MenuEntry& entry = place->menu->entries[place->index];
-  const MenuHandle old = entry.popup;
+  MenuEntry* entry = Find(menu, position);
+  if (entry == nullptr) return false;
+  const MenuHandle old = entry->popup;
   if (!MayHold(menu, flags, id, old)) return false;
-  entry = MakeEntry(flags, id, text);
-  if (!Has(flags, kMenuPopup) && Has(flags, kMenuOwnerDrawn)) entry.popup = old;
-  if (old != entry.popup) Destroy(old);
+  *entry = MakeEntry(flags, id, text);
+  if (!Has(flags, kMenuPopup) && Has(flags, kMenuOwnerDrawn)) entry->popup = old;
+  if (old != entry->popup) Destroy(old);
   return true;
 }
 
-bool MenuTree::Delete(MenuHandle menu, std::int32_t position, std::int32_t flags) {
-  const std::optional<Place> place = Find(menu, position, flags);
-  if (!place) return false;
-  std::vector<MenuEntry>& entries = place->menu->entries;
-  const MenuHandle popup = entries[place->index].popup;
-  entries.erase(entries.begin() + static_cast<std::ptrdiff_t>(place->index));
-  Destroy(popup);
+bool MenuTree::Delete(MenuHandle menu, std::int32_t position) {
+  const MenuEntry* entry = Find(menu, position);
+  if (entry == nullptr) return false;
+  Destroy(entry->popup);
+  std::vector<MenuEntry>& entries = menus_[menu].entries;
+  entries.erase(entries.begin() + position);
   return true;
 }
 

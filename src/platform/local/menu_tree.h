@@ -4,7 +4,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <map>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -17,8 +16,8 @@ struct MenuEntry {
   std::int32_t id = 0;     // as it was given: the number of its command, or its popup
   std::wstring text;
   MenuHandle popup = 0;  // what it opens; 0 for none
-  // What the last measuring said, until the entry changes.
-  bool measured = false;
+  // What the last measuring said, and for which scale; 0 if the entry has changed since.
+  std::int32_t measuredDpi = 0;
   std::int32_t width = 0;
   std::int32_t height = 0;
 
@@ -42,28 +41,21 @@ class MenuTree {
   const std::vector<MenuEntry>* Entries(MenuHandle menu) const;
   // Nothing if there is no such menu or it has no such position.
   const MenuEntry* Entry(MenuHandle menu, std::int32_t position) const;
-  void SetMeasure(MenuHandle menu, std::int32_t position, std::int32_t width, std::int32_t height);
+  void SetMeasure(MenuHandle menu, std::int32_t position, std::int32_t dpi, std::int32_t width, std::int32_t height);
   std::size_t Count() const { return menus_.size(); }
 
-  // With kMenuByPosition `position` is a place in this menu; without it, the command number of an entry in this menu
-  // or below.
+  // A position is a place in this menu, whatever the flags say.
   bool Insert(MenuHandle menu, std::int32_t position, std::int32_t flags, std::int32_t id, const std::wstring& text);
   bool Modify(MenuHandle menu, std::int32_t position, std::int32_t flags, std::int32_t id, const std::wstring& text);
-  bool Delete(MenuHandle menu, std::int32_t position, std::int32_t flags);
+  bool Delete(MenuHandle menu, std::int32_t position);
 
  private:
   struct Menu {
     bool held = false;
     std::vector<MenuEntry> entries;
   };
-  struct Place {
-    Menu* menu = nullptr;
-    std::size_t index = 0;
-  };
-
   MenuHandle Create(bool held);
-  std::optional<Place> Find(MenuHandle menu, std::int32_t position, std::int32_t flags);
-  std::optional<Place> FindCommand(MenuHandle menu, std::int32_t id);
+  MenuEntry* Find(MenuHandle menu, std::int32_t position);
   bool HoldsBelow(MenuHandle menu, MenuHandle wanted) const;
   bool MayHold(MenuHandle menu, std::int32_t flags, std::int32_t id, MenuHandle own) const;
   MenuEntry MakeEntry(std::int32_t flags, std::int32_t id, const std::wstring& text);

@@ -56,17 +56,18 @@ void PopupRun::Open(MenuHandle menu) {
 void PopupRun::Measure(MenuHandle menu) {
   for (std::int32_t i = 0; i < CountOf(tree_.Entries(menu)); ++i) {
     const MenuEntry& entry = *tree_.Entry(menu, i);
-    if (entry.measured) continue;
+    if (entry.measuredDpi == windows_.Dpi) continue;
     MeasureRecord record{.controlType = kControlMenu, .itemID = ItemNumber(entry)};
     if (entry.IsOwnerDrawn()) {
-      WindowMessage message{.window = window_, .number = kMessageMeasureItem, .measure = &record};
+      WindowMessage message = MessageTo(window_, kMessageMeasureItem, 0, 0);
+      message.measure = &record;
       windows_.Deliver(message);
       history_.measurings.push_back({menu, i, record});
     } else {
       record.itemWidth = drawing_.TextWidth(entry.text, windows_.Dpi) + Scaled(kPlainMargin, windows_.Dpi);
       record.itemHeight = Scaled(kPlainHeight, windows_.Dpi);
     }
-    tree_.SetMeasure(menu, i, record.itemWidth, record.itemHeight);
+    tree_.SetMeasure(menu, i, windows_.Dpi, record.itemWidth, record.itemHeight);
   }
 }
 
@@ -97,7 +98,8 @@ void PopupRun::Draw(const PopupView& view, std::int32_t position) {
                           .rect = view.rects[index]};
   const MenuHandle menu = view.menu;  // the view may move while the program draws
   drawing_.StartDrawing(record.context);
-  WindowMessage message{.window = window_, .number = kMessageDrawItem, .draw = &record};
+  WindowMessage message = MessageTo(window_, kMessageDrawItem, 0, 0);
+  message.draw = &record;
   windows_.Deliver(message);
   history_.drawings.push_back({menu, position, record, drawing_.Calls(record.context)});
 }
@@ -161,8 +163,7 @@ bool PopupRun::Perform(const MenuAction& action) {
 }
 
 void PopupRun::RightClick() {
-  WindowMessage message{
-      .window = window_, .number = kMessageMenuRightButtonUp, .wParam = Top().selected, .lParam = Top().menu};
+  WindowMessage message = MessageTo(window_, kMessageMenuRightButtonUp, Top().selected, Top().menu);
   windows_.Deliver(message);
 }
 
@@ -210,30 +211,25 @@ std::int32_t PopupRun::NextStartingWith(wchar_t letter) {
   return -1;
 }
 
+// A program that has nothing to say of a letter leaves the search to the texts of the entries.
 void PopupRun::Type(wchar_t letter) {
-  WindowMessage message{.window = window_,
-                        .number = kMessageMenuChar,
-                        .wParam = static_cast<std::int64_t>(letter) + kMenuPopup * kWordSize,
-                        .lParam = Top().menu};
+  WindowMessage message =
+      MessageTo(window_, kMessageMenuChar, static_cast<std::int64_t>(letter) + kMenuPopup * kWordSize, Top().menu);
   const MessageResult result = windows_.Deliver(message);
-  if (!IsOpen()) return;
-  AnswerMenuChar(result.handled ? result.value : 0, letter);
-}
-
-// A program that has nothing to say of the letter leaves the search to the texts of the entries.
-void PopupRun::AnswerMenuChar(std::int64_t value, wchar_t letter) {
-  const std::int64_t answer = value / kWordSize;
-  const auto position = static_cast<std::int32_t>(value % kWordSize);
-  const bool isPlace = tree_.Entry(Top().menu, position) != nullptr;
-  if (answer == kCharClose) return CloseLevel();
-  if ((answer == kCharSelect || answer == kCharExecute) && isPlace) {
-    Select(position);
-    if (answer == kCharExecute) Execute(true);
-    return;
-  }
+  if (result.handled) return ObeyMenuChar(result.value);
   const std::int32_t next = NextStartingWith(letter);
   if (next < 0) return windows_.Beep();
   Select(next);
+}
+
+void PopupRun::ObeyMenuChar(std::int64_t value) {
+  const std::int64_t answer = value / kWordSize;
+  const auto position = static_cast<std::int32_t>(value % kWordSize);
+  if (answer == kCharClose) return CloseLevel();
+  if (answer != kCharSelect && answer != kCharExecute) return windows_.Beep();
+  if (tree_.Entry(Top().menu, position) == nullptr) return;
+  Select(position);
+  if (answer == kCharExecute) Execute(true);
 }
 
 void PopupRun::OpenSelected(bool byKey) {

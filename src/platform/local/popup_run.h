@@ -43,8 +43,8 @@ struct PopupHistory {
   std::vector<EntryDrawing> drawings;
 };
 
-// Owner-drawn entries are measured when a popup opens for the first time after they changed, and drawn by the window's
-// hook on a canvas that has the colour of menus.
+// Owner-drawn entries are measured when a popup opens for the first time after they or the scale changed, and drawn by
+// the window's hook on a canvas that has the colour of menus.
 class PopupRun {
  public:
   // All must outlive this object. `selectedState` is what an entry's state is while it is selected.
@@ -78,7 +78,8 @@ class PopupRun {
   void RightClick();
   void Press(MenuKey key);
   void Type(wchar_t letter);
-  void AnswerMenuChar(std::int64_t value, wchar_t letter);
+  // What the program answered to a letter.
+  void ObeyMenuChar(std::int64_t value);
   void OpenSelected(bool byKey);
   // Opens the selected entry if it is a group, otherwise chooses it.
   void Execute(bool byKey);
