@@ -1,11 +1,13 @@
 """The program under test on a desktop: installing it, starting it, and its menu as a user sees it."""
 
+import os
 import shutil
+import signal
 from dataclasses import dataclass
 from typing import List, Tuple
 
 import bwmk
-from harness import BOX_CLASS, MENU_CLASS, DriverFailure, Window, wait_for
+from harness import BOX_CLASS, MENU_CLASS, DriverFailure, NotInTime, Window, wait_for
 
 KEY = "Software\\Kestrelan\\Burrowmark"
 FOLDER = "C:\\Burrowmark"
@@ -156,13 +158,23 @@ class Program:
                 self._try(lambda: self.desktop.press(box, 2))
             if self.desktop.windows(MENU_CLASS):
                 self._try(lambda: self.desktop.keys("Esc", "Esc", "Esc"))
-            self.process.terminate()
-            self.process.wait(10)
+            # Killed programs leave their icon in the task bar for a while, so it's asked first.
+            self.start_second("/EXIT")
+            try:
+                self.desktop.exit_code(self.process, 5)
+            except NotInTime:
+                pass
+        for process in self.desktop.processes("burrowmark.exe"):
+            try:
+                os.kill(process.pid, signal.SIGTERM)
+            except ProcessLookupError:  # gone meanwhile
+                pass
         for window in self.desktop.windows(FOLDER_WINDOW):
             self._try(lambda: self.desktop.driver("close", window.handle))
         wait_for(lambda: not self.desktop.windows(FOLDER_WINDOW), "the end of the folder windows")
-        # The task bar drops the icon of a program that is gone only when it looks.
         wait_for(lambda: not self.desktop.processes("burrowmark.exe"), "the end of the program")
+        # The next test would take an icon that was left behind for its own.
+        wait_for(lambda: self.desktop.find_tray_icon() is None, "the task bar without the icon")
 
     @staticmethod
     def _try(action):
@@ -173,7 +185,8 @@ class Program:
 
     def wait_menu(self, other_than=()) -> Menu:
         def new_level():
-            return next((window for window in self.desktop.windows(MENU_CLASS) if window.handle not in other_than), None)
+            levels = self.desktop.windows(MENU_CLASS)
+            return next((level for level in levels if level.handle not in other_than), None)
         return Menu(self, wait_for(new_level, "a menu", 10))
 
     def open_menu(self, place, button="left") -> Menu:

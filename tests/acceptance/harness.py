@@ -7,6 +7,7 @@
 Every wait polls a condition and has a limit; whatever a desktop started ends with it, also after a failure.
 """
 
+import atexit
 import ctypes
 import fcntl
 import json
@@ -31,6 +32,7 @@ TASK_BAR_HEIGHT = 20
 MENU_CLASS = "#32768"
 BOX_CLASS = "#32770"
 POLL_SECONDS = 0.03
+INPUT_VERBS = ("move", "click", "drag", "keys", "time-click")
 
 
 @dataclass
@@ -160,15 +162,15 @@ class Prefix:
             raise ValueError("no path on drive C: " + path)
         return self.drive_c.joinpath(*path[3:].split("\\"))
 
-    def add_registry(self, key, values):
-        """Writes values of the current user while no server runs: texts as they are, numbers as such."""
+    def add_registry(self, key, values, machine=False):
+        """Writes values of the current user, or of the machine, while no server runs: texts and numbers."""
         lines = ["", "[%s]" % key.replace("\\", "\\\\")]
         for name, value in values.items():
             if isinstance(value, int):
                 lines.append('"%s"=dword:%08x' % (name, value))
             else:
                 lines.append('"%s"="%s"' % (name, value.replace("\\", "\\\\").replace('"', '\\"')))
-        with open(self.path / "user.reg", "a", encoding="utf-8") as file:
+        with open(self.path / ("system.reg" if machine else "user.reg"), "a", encoding="utf-8") as file:
             file.write("\n".join(lines) + "\n")
 
 
@@ -227,8 +229,10 @@ def _copy_prefix(template, folder):
 class Desktop:
     """A running virtual screen with the Windows desktop of one prefix on it."""
 
-    def __init__(self, settings, size=(1024, 768), dpi=96):
+    def __init__(self, settings, size=(1024, 768), dpi=96, prepare=None):
+        """`prepare` is called with the desktop when its prefix is there and nothing runs in it yet."""
         self.settings = settings
+        self._prepare = prepare
         self.size = size
         self.dpi = dpi
         self._folder = None
@@ -252,6 +256,7 @@ class Desktop:
         runs = self.settings.build / "runs"
         runs.mkdir(exist_ok=True)
         self._folder = Path(tempfile.mkdtemp(dir=str(runs)))
+        atexit.register(self.stop)  # for a run that is interrupted
         try:
             self.prefix = _copy_prefix(template, self._folder)
             self.prefix.add_registry("Software\\Wine\\Explorer\\Desktops", {"shell": "%dx%d" % self.size})
@@ -259,6 +264,8 @@ class Desktop:
                 self.prefix.add_registry("Control Panel\\Desktop", {"LogPixels": self.dpi})
                 self.prefix.add_registry("Software\\Wine\\Fonts", {"LogPixels": self.dpi})
             shutil.copy(self.settings.driver, self.prefix.drive_c / "driver.exe")
+            if self._prepare is not None:
+                self._prepare(self)
             self._start_screen()
             # Keeps the task bar between two programs. Its input ends with this process, however that comes about.
             self._holder = self._launch("C:\\driver.exe", "hold-desktop", stdin=subprocess.PIPE)
@@ -295,6 +302,7 @@ class Desktop:
 
     def stop(self):
         """Ends all programs, the server and the screen, and removes the folder. Every step is tried."""
+        atexit.unregister(self.stop)
         steps = []
         if self.prefix is not None:
             steps += [self.prefix.end_server, self.prefix.forget_server]
@@ -368,9 +376,15 @@ class Desktop:
 
     def driver(self, verb, *words, limit=30):
         """Runs a verb of the driver and gives its lines."""
-        done = self.prefix.run("wine", "C:\\driver.exe", verb, *[str(word) for word in words], limit=limit)
+        # Once in a thousand calls or so an input verb ends with 1 and without a word, of which the driver has one for
+        # each failure of its own. Such a call is made again only if the line ahead of the first input is missing.
+        for _ in range(3):
+            done = self.prefix.run("wine", "C:\\driver.exe", verb, *[str(word) for word in words], limit=limit)
+            if verb not in INPUT_VERBS or done.returncode != 1 or done.stdout or done.stderr:
+                break
         if done.returncode != 0:
-            raise DriverFailure("%s: %s" % (verb, done.stderr.decode(errors="replace").strip()))
+            raise DriverFailure("%s: exit code %d, %s" % (verb, done.returncode,
+                                                          done.stderr.decode(errors="replace").strip() or "no word"))
         return [json.loads(line) for line in done.stdout.decode().splitlines()]
 
     def windows(self, class_name=None, title=None, visible=True):
@@ -410,7 +424,7 @@ class Desktop:
     def time_click(self, place, button, seen, colour, limit_ms=5000):
         """Clicks and gives the microseconds from button-up until a popup menu covers the place `seen` ("opened") and
         until that place shows the colour ("drawn")."""
-        return self.driver("time-click", place[0], place[1], button, seen[0], seen[1], "%02x%02x%02x" % colour, limit_ms)[0]
+        return self.driver("time-click", *place, button, *seen, "%02x%02x%02x" % colour, limit_ms)[-1]
 
     def screen_pid(self):
         return self._screen.pid

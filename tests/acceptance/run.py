@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
 """Runs the acceptance tests: run.py [--exe EXE] [--driver DRIVER] [--build FOLDER] [TEST...]
 
-A TEST is a module (test_menu), a class (test_menu.TrayIcon) or a test of one; without any, all modules run. Prints one line
-a test and a closing line. Ends with 0 only if every test passed.
+A TEST is a module (test_menu), a class (test_menu.DrawnMenu) or a test of one; without any, all modules run. Prints one
+line a test and a closing line. Ends with 0 only if every test passed.
 """
 
 import argparse
@@ -77,8 +77,8 @@ def main():
             print("not there: %s" % path)
             return 2
 
-    # A polite kill ends the run by way of the clean-up.
-    signal.signal(signal.SIGTERM, lambda *_: sys.exit(1))
+    # A polite kill ends the run as Ctrl+C does, by way of the clean-up; unittest would take an exit for a failed test.
+    signal.signal(signal.SIGTERM, signal.default_int_handler)
     loader = unittest.defaultTestLoader
     suite = loader.loadTestsFromNames(arguments.tests) if arguments.tests else loader.discover(str(HERE))
     result = OneLineResult()

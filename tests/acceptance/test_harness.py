@@ -69,7 +69,7 @@ class Windows(DesktopTest):
         left, top, right, bottom = menu.rectangle
         for y in range(top + 4, bottom - 4):
             for x in range(left + 20, right - 20):
-                if max(picture.pixel(x, y)) < 100:
+                if max(picture.pixel(x, y)) < 180:
                     return (x, y), picture.pixel(x, y)
         return None
 
