@@ -65,7 +65,7 @@ struct MainWindowEvents {
   std::function<void(std::uint32_t mouseMessage)> TrayMouse;  // the mouse over the tray icon
   std::function<void()> TaskbarCreated;                       // the task bar is there, for the first time or again
   std::function<void(std::int32_t dpi)> DpiChanged;
-  // The user's session ends. The first is asked and may be followed by the second.
+  // The user's session ends for good. The window may be gone before anything else runs.
   std::function<void()> SessionEnding;
   std::function<void()> Unload;  // the window is going: the last thing it does
 };
