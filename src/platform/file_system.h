@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace burrowmark {
 
@@ -15,6 +16,22 @@ inline constexpr std::uint32_t kFileHidden = 2;
 inline constexpr std::uint32_t kFileSystem = 4;
 inline constexpr std::uint32_t kFileDirectory = 16;
 inline constexpr std::uint32_t kFileArchive = 32;
+
+// One entry of a folder.
+struct FolderEntry {
+  std::wstring name;  // in the letter case of the disk
+  std::uint32_t attributes = 0;
+};
+
+// Kinds of drive that GetDriveTypeA tells apart (fileapi.h): what isn't known, a letter without a drive, removable,
+// fixed, remote, compact disc, memory disk.
+inline constexpr std::int32_t kDriveTypeUnknown = 0;
+inline constexpr std::int32_t kDriveTypeNone = 1;
+inline constexpr std::int32_t kDriveTypeRemovable = 2;
+inline constexpr std::int32_t kDriveTypeFixed = 3;
+inline constexpr std::int32_t kDriveTypeRemote = 4;
+inline constexpr std::int32_t kDriveTypeCompactDisc = 5;
+inline constexpr std::int32_t kDriveTypeMemory = 6;
 
 // A new file that is being written. Each call gives false on failure; whatever was written until then stays.
 // Letting go of the object closes the file.
@@ -54,6 +71,18 @@ class FileSystem {
   virtual bool CopyFileA(const std::wstring& from, const std::wstring& to, bool failIfExists) = 0;
   // Makes one folder; its parent must exist. A folder that exists already is a failure.
   virtual bool CreateFolder(const std::wstring& path) = 0;
+
+  // What a folder holds, in the disk's order, without "." and "..". False, and nothing, if it can't be listed.
+  virtual bool ListFolder(const std::wstring& path, std::vector<FolderEntry>& entries) = 0;
+
+  // The machine's drives in the order of their letters, as "x:" with a small letter, with what is known of them without
+  // touching a server or a removable medium: "x: [label]" for a fixed drive that has one, "x: [\\server\share]" for a
+  // remote drive.
+  virtual std::vector<std::wstring> DriveList() = 0;
+  // The kind of a drive ("x:", "X:" or "X:\"), without touching its medium.
+  virtual std::int32_t GetDriveTypeA(const std::wstring& drive) = 0;
+  // The name of the volume in a drive; false without a medium. No box of the system's asks for one.
+  virtual bool GetVolumeInformationA(const std::wstring& drive, std::wstring& label) = 0;
 };
 
 }  // namespace burrowmark

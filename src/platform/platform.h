@@ -4,6 +4,7 @@
 #include "platform/dialogs.h"
 #include "platform/drawing.h"
 #include "platform/file_system.h"
+#include "platform/keyboard.h"
 #include "platform/menus.h"
 #include "platform/registry_api.h"
 #include "platform/shell.h"
@@ -22,6 +23,7 @@ struct Platform {
   Drawing& drawing;
   Shell& shell;
   Dialogs& dialogs;
+  Keyboard& keyboard;
 };
 
 }  // namespace burrowmark

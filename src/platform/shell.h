@@ -30,6 +30,13 @@ struct TrayIcon {
   std::wstring tip;  // at most 63 characters
 };
 
+// What a shortcut file says.
+struct ShellLink {
+  std::wstring target;  // full path of a file or a folder
+  std::wstring description;
+  std::int32_t showCommand = kShowNormal;
+};
+
 class Shell {
  public:
   virtual ~Shell() = default;
@@ -42,6 +49,10 @@ class Shell {
   virtual bool Shell_NotifyIconA(std::uint32_t message, const TrayIcon& icon) = 0;
   // Opens a help file; `command` 1 is its contents, 2 its index. False if it can't.
   virtual bool HtmlHelpA(const std::wstring& path, std::int32_t command) = 0;
+  // Reads a shortcut file as it stands, without looking for its target. False if it is none, or leads to no file.
+  virtual bool ReadShellLink(const std::wstring& path, ShellLink& link) = 0;
+  // Writes a shortcut file in place of one that is there; the target needn't exist.
+  virtual bool WriteShellLink(const std::wstring& path, const ShellLink& link) = 0;
   // A command to a media device; the system's error number, 0 on success.
   virtual std::int32_t mciSendStringA(const std::wstring& command) = 0;
 };
