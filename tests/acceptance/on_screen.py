@@ -26,13 +26,16 @@ def make_prefix(folder):
     for name in ("DISPLAY", "XAUTHORITY"):
         if name in os.environ:
             prefix.environment[name] = os.environ[name]
-    if (prefix.path / "user.reg").exists():
+    ready = prefix.folder / "ready"
+    if ready.exists():
         return prefix
+    shutil.rmtree(prefix.path, ignore_errors=True)
     prefix.home.mkdir(parents=True, exist_ok=True)
     prefix.run("wineboot", "-i", limit=300)
     prefix.end_server()
     prefix.add_registry("Software\\Wine\\Explorer", {"Desktop": "shell"})
     prefix.add_registry("Software\\Wine\\Explorer\\Desktops", {"shell": DESKTOP_SIZE})
+    ready.write_text("finished\n")
     return prefix
 
 
