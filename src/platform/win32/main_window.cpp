@@ -84,7 +84,7 @@ MainWindow::~MainWindow() {
 void MainWindow::SetHook(Hook hook) { hook_ = hook ? std::make_shared<const Hook>(std::move(hook)) : nullptr; }
 
 void MainWindow::Destroy() {
-  if (window_ != nullptr) ::DestroyWindow(window_);
+  if (window_ != nullptr && !going_) ::DestroyWindow(window_);
 }
 
 LRESULT CALLBACK MainWindow::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
@@ -183,6 +183,7 @@ void MainWindow::FollowDpi(std::int32_t dpi) {
 }
 
 void MainWindow::Unload() {
+  going_ = true;
   MainWindowEvents* events = std::exchange(events_, nullptr);
   if (events != nullptr) Tell(events->Unload);
 }

@@ -60,6 +60,7 @@ class MainWindow {
   std::int32_t lastDpi_ = 0;
   HMENU selectedMenu_ = nullptr;  // the popup that the user moved in last
   bool toldOfRightClick_ = false;
+  bool going_ = false;
 };
 
 }  // namespace burrowmark
