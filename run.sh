@@ -13,7 +13,6 @@ if [ -n "${DISPLAY:-}" ] && xdpyinfo >/dev/null 2>&1; then
   exec python3 tests/acceptance/on_screen.py build/windows/src/app/burrowmark.exe build/run
 fi
 say "no screen: starting on a virtual one"
-python3 tests/acceptance/pictures.py build/windows/src/app/burrowmark.exe \
-  build/windows/tests/acceptance/driver/acceptance_driver.exe build
-say "pictures:"
-ls build/pictures/*.png
+python3 tests/acceptance/pictures.py --exe build/windows/src/app/burrowmark.exe \
+  --driver build/windows/tests/acceptance/driver/acceptance_driver.exe --build build/acceptance --output build/pictures
+say "the pictures are in build/pictures"

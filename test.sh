@@ -35,6 +35,17 @@ check_format() {
   fi
 }
 
+# At least 200,000 fresh inputs, after the seeds and what earlier runs found worth keeping.
+run_fuzz() {
+  local log=build/fuzz/$2.log
+  if ! timeout 900 "$1" -runs=200000 -max_len=2048 -artifact_prefix="build/fuzz/found-$2-" \
+    "build/fuzz/corpus/$2" "tests/fuzz/seeds/$2" >"$log" 2>&1; then
+    tail -40 "$log"
+    return 1
+  fi
+  tail -1 "$log"
+}
+
 # A Wine prefix of our own, its home folder beside it; ended and removed when the script ends.
 wine_home=
 start_wine() {
@@ -88,13 +99,24 @@ exchange_files() {
 }
 unless_passed exchange build/native/tests/contract_tests build/windows/tests/contract_tests.exe -- exchange_files
 
+# What a user's machine asks of the program file: size, libraries, hardening.
+unless_passed program-file build/windows/src/app/burrowmark.exe tools/check_program.sh -- \
+  tools/check_program.sh build/windows/src/app/burrowmark.exe
+
+acceptance_tests() {
+  python3 tests/acceptance/run.py --exe build/windows/src/app/burrowmark.exe \
+    --driver build/windows/tests/acceptance/driver/acceptance_driver.exe --build build/acceptance
+}
+mapfile -t acceptance_files < <(git ls-files -co --exclude-standard -- tests/acceptance/'*.py' assets/icons/'*.ico')
+unless_passed acceptance build/windows/src/app/burrowmark.exe "${acceptance_files[@]}" \
+  build/windows/tests/acceptance/driver/acceptance_driver.exe -- acceptance_tests
+
 build fuzz
 for target in date reader; do
   fuzz=build/fuzz/tests/fuzz/fuzz_$target
   mkdir -p "build/fuzz/corpus/$target"
   unless_passed "fuzz-$target" "$fuzz" tests/fuzz/seeds/"$target"/* -- \
-    timeout 900 "$fuzz" -runs=200000 -max_len=2048 -verbosity=0 -artifact_prefix="build/fuzz/found-$target-" \
-    "build/fuzz/corpus/$target" "tests/fuzz/seeds/$target"
+    run_fuzz "$fuzz" "$target"
 done
 
 build release

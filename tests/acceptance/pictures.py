@@ -20,6 +20,7 @@ from harness import MENU_CLASS, REPOSITORY, Desktop, NotInTime, Settings, wait_f
 # Letter and kind of the drives beside C, as the system's own settings call them.
 DRIVES = (("a", "floppy"), ("d", "hd"), ("e", "cdrom"), ("n", "network"), ("u", "floppy"))
 PROJECTS = "C:\\Projects"
+SAMPLE_FOLDERS = (PROJECTS + "\\Garden", PROJECTS + "\\House", PROJECTS + "\\Boat", "C:\\Letters", "C:\\Photos")
 
 
 def sample_tree():
@@ -98,8 +99,7 @@ def main():
         program = Program(desktop, settings.exe)
         program.set_option("AC0", True)
         program.set_option("AC1", True)
-        program.make_folders(*[PROJECTS + name for name in ("\\Garden", "\\House", "\\Boat")],
-                             "C:\\Letters", "C:\\Photos")
+        program.make_folders(*SAMPLE_FOLDERS)
         program.write_tree(*sample_tree())
         tray = program.start()
         album = Album(program, arguments.output)

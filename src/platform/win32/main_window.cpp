@@ -1,9 +1,12 @@
 #include "platform/win32/main_window.h"
 
+#include <windowsx.h>
+
 #include <utility>
 
 #include "platform/from_system.h"
 #include "platform/win32/menu_letters.h"
+#include "platform/win32/menu_right_click.h"
 #include "platform/win32/menu_style.h"
 #include "platform/win32/message_records.h"
 #include "platform/win32/system_library.h"
@@ -81,7 +84,7 @@ MainWindow::~MainWindow() {
 void MainWindow::SetHook(Hook hook) { hook_ = hook ? std::make_shared<const Hook>(std::move(hook)) : nullptr; }
 
 void MainWindow::Destroy() {
-  if (window_ != nullptr) ::DestroyWindow(window_);
+  if (window_ != nullptr && !going_) ::DestroyWindow(window_);
 }
 
 LRESULT CALLBACK MainWindow::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
@@ -99,6 +102,7 @@ LRESULT MainWindow::Receive(UINT message, WPARAM wParam, LPARAM lParam) {
     window_ = nullptr;
     return ::DefWindowProcW(window, message, wParam, lParam);
   }
+  FollowMenu(message, lParam);
   // A hook that fails hasn't handled the message.
   const auto result = FromSystem([&] { return AskHook(message, wParam, lParam); }, std::optional<LRESULT>());
   return result ? *result : Answer(message, wParam, lParam);
@@ -132,6 +136,9 @@ LRESULT MainWindow::Answer(UINT message, WPARAM wParam, LPARAM lParam) {
       break;
     case WM_MENUCHAR:
       return AnswerLetter(static_cast<wchar_t>(LOWORD(wParam)), reinterpret_cast<HMENU>(lParam));
+    case kMenuRightClick:
+      MakeUpForRightClick({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)});
+      return 0;
     case WM_QUERYENDSESSION:
       return TRUE;
     case WM_ENDSESSION:
@@ -153,6 +160,22 @@ LRESULT MainWindow::AnswerLetter(wchar_t letter, HMENU menu) {
   return MAKELRESULT(*entry, MNC_SELECT);
 }
 
+void MainWindow::FollowMenu(UINT message, LPARAM lParam) {
+  if (message == WM_ENTERMENULOOP) toldOfRightClick_ = false;
+  if (message == WM_MENUSELECT) selectedMenu_ = reinterpret_cast<HMENU>(lParam);
+  if (message == WM_MENURBUTTONUP) toldOfRightClick_ = true;
+}
+
+void MainWindow::MakeUpForRightClick(POINT place) {
+  // By the time that this work runs, a system that tells of right clicks by itself has done so.
+  parts_.work.Post([this, window = window_, place] {
+    if (::IsWindow(window) == FALSE || std::exchange(toldOfRightClick_, false)) return;
+    const std::optional<UINT> entry = EntryAt(selectedMenu_, place);
+    if (entry) ::SendMessageW(window, WM_MENURBUTTONUP, *entry, reinterpret_cast<LPARAM>(selectedMenu_));
+    toldOfRightClick_ = false;
+  });
+}
+
 void MainWindow::FollowDpi(std::int32_t dpi) {
   if (dpi == lastDpi_) return;
   lastDpi_ = dpi;
@@ -160,6 +183,7 @@ void MainWindow::FollowDpi(std::int32_t dpi) {
 }
 
 void MainWindow::Unload() {
+  going_ = true;
   MainWindowEvents* events = std::exchange(events_, nullptr);
   if (events != nullptr) Tell(events->Unload);
 }

@@ -45,6 +45,8 @@ class MainWindow {
   std::optional<LRESULT> AskHook(UINT message, WPARAM wParam, LPARAM lParam);
   LRESULT Answer(UINT message, WPARAM wParam, LPARAM lParam);
   LRESULT AnswerLetter(wchar_t letter, HMENU menu);
+  void FollowMenu(UINT message, LPARAM lParam);
+  void MakeUpForRightClick(POINT place);
   void FollowDpi(std::int32_t dpi);
   void Unload();
   void LetTaskbarThrough() const;
@@ -56,6 +58,9 @@ class MainWindow {
   HWND window_ = nullptr;
   std::shared_ptr<const Hook> hook_;  // shared with a call that is running, which may take the hook away
   std::int32_t lastDpi_ = 0;
+  HMENU selectedMenu_ = nullptr;  // the popup that the user moved in last
+  bool toldOfRightClick_ = false;
+  bool going_ = false;
 };
 
 }  // namespace burrowmark

@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include "platform/win32/handles.h"
+#include "platform/win32/menu_right_click.h"
 #include "platform/win32/menu_style.h"
 
 namespace burrowmark {
@@ -112,6 +113,8 @@ void Win32Menus::TrackPopupMenu(MenuHandle menu, WindowHandle window) {
   measuredChanges_ = font_.Changes();
   POINT mouse = {};
   ::GetCursorPos(&mouse);
+  const RightClickWatch watch;
+  // The left button alone chooses: a right click is told to the window and chooses nothing.
   ::TrackPopupMenu(ToHmenu(menu), TPM_LEFTALIGN | TPM_TOPALIGN, mouse.x, mouse.y, 0, ToHwnd(window), nullptr);
 }
 

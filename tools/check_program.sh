@@ -1,0 +1,25 @@
+#!/usr/bin/env bash
+# Checks burrowmark.exe: at most 2 MB, the system's own libraries alone, hardening flags, a manifest. Usage: FILE
+set -euo pipefail
+exe=$1
+bad=0
+complain() { printf 'burrowmark.exe: %s\n' "$*"; bad=1; }
+
+most=$((2 * 1024 * 1024))
+size=$(stat -c %s "$exe")
+[ "$size" -le "$most" ] || complain "$size bytes, more than $most"
+
+facts=$(x86_64-w64-mingw32-objdump -p "$exe")
+system='^(ADVAPI32|COMCTL32|comdlg32|GDI32|KERNEL32|MPR|msvcrt|NETAPI32|ole32|OLEAUT32|SHELL32|SHLWAPI|USER32|WINMM|WS2_32)\.dll$'
+foreign=$(sed -n 's/.*DLL Name: //p' <<<"$facts" | grep -viE "$system" || true)
+[ -z "$foreign" ] || complain "needs $foreign"
+
+for flag in HIGH_ENTROPY_VA DYNAMIC_BASE NX_COMPAT; do
+  grep -q "$flag" <<<"$facts" || complain "without $flag"
+done
+
+for word in Microsoft.Windows.Common-Controls asInvoker PerMonitorV2 supportedOS; do
+  grep -qaF "$word" "$exe" || complain "its manifest doesn't say $word"
+done
+[ $bad -eq 0 ] && printf 'burrowmark.exe: %d bytes, system libraries alone, hardened, with its manifest\n' "$size"
+exit $bad
