@@ -12,6 +12,7 @@
 namespace burrowmark {
 namespace {
 
+constexpr std::size_t kHotKeys = 7;  // ADVC
 constexpr wchar_t kMainTitle[] = L"Burrowmark";
 
 // True if the drive or the share that a path stands on is there.
@@ -23,7 +24,7 @@ bool IsPlaceThere(FileSystem& files, const std::wstring& path) {
 
 }  // namespace
 
-frmMain::frmMain(Application& app) : app_(app), menu_(app), tray_(app, menu_) {
+frmMain::frmMain(Application& app) : app_(app), menu_(app), tray_(app, menu_), hook_(app) {
   events_.TrayMouse = [this](std::uint32_t mouseMessage) { tray_.Form_MouseMove(mouseMessage); };
   events_.TaskbarCreated = [this] { tray_.Add(); };
   events_.Unload = [this] { Form_Unload(); };
@@ -41,6 +42,7 @@ bool frmMain::Form_Load(std::uint32_t RegisteredMessage, const std::wstring& Com
   menu_.LoadMenuIcons();
   menu_.Build({});
   tray_.Add();
+  if (app_.ADVC[kHotKeys]) hook_.HookKeyboard();
   if (!CommandLine.empty()) ProcessCommand(app_, false, CommandLine);
   return true;
 }
@@ -79,6 +81,7 @@ void frmMain::Unload() {
 // Nothing is saved here: the file is written when it changes.
 void frmMain::Form_Unload() {
   menu_.UnhookMenuWindow();
+  hook_.UnhookKeyboard();
   tray_.Delete();
   app_.HotKeyItems.clear();
   app_.MainStore = std::make_shared<clsMenuCollection>(app_.platform.clock);

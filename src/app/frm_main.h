@@ -6,6 +6,7 @@
 #include "core/application.h"
 #include "menu/menu_system.h"
 #include "menu/system_tray.h"
+#include "options/keyboard_hook.h"
 
 namespace burrowmark {
 
@@ -28,6 +29,7 @@ class frmMain {
   Application& app_;
   MenuSystem menu_;
   SystemTray tray_;
+  KeyboardHook hook_;
   MainWindowEvents events_;
 };
 

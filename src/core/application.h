@@ -34,6 +34,13 @@ inline constexpr std::size_t kGeneralCount = 3;
 inline constexpr std::size_t kAppearanceCount = 7;
 inline constexpr std::size_t kAdvancedCount = 8;
 
+// A drive of the machine as the menu knows it.
+struct clsDrive {
+  std::wstring Name;       // the title of its entry
+  std::wstring LocalName;  // its root in upper case: "C:\\"
+  std::int32_t DriveType = 0;
+};
+
 // Texts that a configuration file carries about itself.
 struct ConfigSummary {
   std::wstring SummaryTitle;
@@ -69,6 +76,8 @@ struct Application {
 
   std::shared_ptr<clsMenuCollection> MainStore;  // the tree behind the menu
   std::vector<ItemRef> HotKeyItems;              // the items of a store that have a hot key, in its order
+  std::vector<clsDrive> DrivesCollection;        // the drives that the menu shows
+  bool DrivesRebuildNeeded = true;               // the next opening of the menu makes the Drives group anew
 
   std::wstring AppPath;        // the program's folder
   std::wstring WindowsFolder;  // folders without a trailing backslash, empty where the system has none

@@ -8,6 +8,7 @@
 #include "core/failure.h"
 #include "core/file_names.h"
 #include "groups/personal_group.h"
+#include "groups/system_folders.h"
 
 namespace burrowmark {
 namespace {
@@ -108,7 +109,7 @@ void AddFixedEntries(Application& app, clsMenuCollection& store, bool AddSystemG
   store.AddNewMenuItem(FixedEntry(MIT_HF_ORGANIZE, L"Organize Folders", {}));
   if (app.AC[2]) AddHelpEntries(store);
   if (app.AC[3]) AddOptionsEntry(store);
-  static_cast<void>(AddSystemGroup);
+  if (AddSystemGroup) SetupSystemFolders(app, store);
 }
 
 void AddHelpEntries(clsMenuCollection& store) {
@@ -159,7 +160,10 @@ void ClearMenu(Application& app) {
 
 void ResetToDefaults(Application& app) {
   app.MainStore = std::make_shared<clsMenuCollection>(app.platform.clock);
-  SetupPersonalGroup(app, *app.MainStore, PersonalContent::kSample);
+  SetupPersonalGroup(app, *app.MainStore, PersonalContent::kRecentFolders);
+  if (app.MainStore->ChildrenNumber(MIT_GROUP_USER) == 0) {
+    SetupPersonalGroup(app, *app.MainStore, PersonalContent::kDriveFolders);
+  }
   AddFixedEntries(app, *app.MainStore, app.AC[0]);
 }
 

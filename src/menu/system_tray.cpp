@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
+#include "groups/drives.h"
 #include "menu/menu_actions.h"
 
 namespace burrowmark {
@@ -10,6 +11,7 @@ namespace {
 
 constexpr std::uint32_t kTrayId = 1;
 constexpr std::int32_t kRetryAfter = 3000;  // milliseconds, while there is no task bar
+constexpr std::size_t kShowDrives = 1;      // AC
 constexpr wchar_t kTip[] = L"Burrowmark";
 
 // With the editor open the first of these that is open comes forward, and the editor itself if none is.
@@ -75,10 +77,27 @@ void SystemTray::FitToScreen() {
   menu_.HookMenuWindow();
 }
 
+// The Drives group comes into being at the first opening of the menu, and is made anew when the drives have changed.
+void SystemTray::BringDrivesUpToDate() {
+  clsMenuCollection& store = *app_.MainStore;
+  if (!app_.AC[kShowDrives]) {
+    RemoveDrives(app_, store, true);
+    return;
+  }
+  app_.platform.windows.DoEvents();
+  if (!app_.DrivesRebuildNeeded) app_.DrivesRebuildNeeded = DrivesChanged(app_);
+  if (!app_.DrivesRebuildNeeded) return;
+  if (DrivesGroupExists(app_)) RemoveDrives(app_, store, true);
+  SetupDrives(app_, store);
+  menu_.Build(MIT_PATHS_DRIVES);
+  app_.DrivesRebuildNeeded = false;
+}
+
 void SystemTray::ShowMainMenu() {
   if (app_.MenuShowing) return;
   app_.MenuShowing = true;
   FitToScreen();
+  BringDrivesUpToDate();
   app_.platform.windows.SetForegroundWindow(app_.MainWindow);
   Menus& menus = app_.platform.menus;
   menus.TrackPopupMenu(menus.GetSubMenu(menus.GetMenu(app_.MainWindow), 0), app_.MainWindow);

@@ -21,6 +21,7 @@ class SystemTray {
   TrayIcon Record(std::uint32_t flags) const;
   void BringOpenWindowForward();
   void FitToScreen();
+  void BringDrivesUpToDate();
 
   Application& app_;
   MenuSystem& menu_;
