@@ -16,6 +16,7 @@ inline constexpr std::uint32_t kFileHidden = 2;
 inline constexpr std::uint32_t kFileSystem = 4;
 inline constexpr std::uint32_t kFileDirectory = 16;
 inline constexpr std::uint32_t kFileArchive = 32;
+inline constexpr std::uint32_t kFileCompressed = 2048;
 
 // One entry of a folder.
 struct FolderEntry {

@@ -16,8 +16,7 @@ struct AttributeLetter {
 };
 
 constexpr AttributeLetter kLetters[] = {
-    {'R', kFileReadOnly}, {'H', kFileHidden}, {'S', kFileSystem}, {'A', kFileArchive}};
-constexpr std::size_t kPathColumn = 5;  // behind the four letters and a blank
+    {'R', kFileReadOnly}, {'H', kFileHidden}, {'S', kFileSystem}, {'A', kFileArchive}, {'C', kFileCompressed}};
 
 }  // namespace
 
@@ -54,12 +53,13 @@ void AttributeBook::Refresh() {
   attributes_.clear();
   std::istringstream lines(kept_.Text());
   for (std::string line; std::getline(lines, line);) {
-    if (line.size() <= kPathColumn) continue;
+    const std::size_t blank = line.find(' ');
+    if (blank == std::string::npos) continue;
     std::uint32_t bits = 0;
     for (const AttributeLetter& row : kLetters) {
-      if (line.find(row.letter) < kPathColumn) bits |= row.bit;
+      if (line.find(row.letter) < blank) bits |= row.bit;
     }
-    attributes_[Folded(FromUtf8(line.substr(kPathColumn)))] = bits;
+    attributes_[Folded(FromUtf8(line.substr(blank + 1)))] = bits;
   }
 }
 

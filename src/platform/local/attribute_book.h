@@ -11,14 +11,14 @@
 
 namespace burrowmark {
 
-// Kept in a text file, one line for each: four letters for read-only, hidden, system and archive, then the path. They
-// aren't kept as mode bits of the disk, which don't bind a privileged user and don't know all four.
+// Kept in a text file, one line for each: five letters for read-only, hidden, system, archive and compressed, then the
+// path. They aren't kept as mode bits of the disk, which don't bind a privileged user and don't know them all.
 // Paths are Windows paths in their shortest spelling; letter case doesn't count.
 class AttributeBook {
  public:
   explicit AttributeBook(std::filesystem::path file);
 
-  // The four bits; nothing if the path isn't in the book.
+  // The bits; nothing if the path isn't in the book.
   std::optional<std::uint32_t> Find(const std::wstring& path);
   bool Set(const std::wstring& path, std::uint32_t attributes);
   bool Forget(const std::wstring& path);

@@ -46,7 +46,7 @@ std::pair<std::wstring_view, std::wstring_view> ServerAndShare(std::wstring_view
 
 }  // namespace
 
-DriveFolders::DriveFolders(fs::path folder) : folder_(std::move(folder)) {}
+DriveFolders::DriveFolders(fs::path folder) : folder_(std::move(folder)), book_(folder_ / "drives.txt") {}
 
 bool DriveFolders::Shift(const char* from, const char* to, wchar_t letter) const {
   const fs::path name = DiskName(std::wstring_view(&letter, 1));
@@ -73,8 +73,11 @@ bool DriveFolders::TakeMediumOut(wchar_t letter) { return Shift(kPresent, kWitho
 bool DriveFolders::PutMediumIn(wchar_t letter) { return Shift(kWithoutMedium, kPresent, letter); }
 
 bool DriveFolders::Has(wchar_t letter) const {
-  const fs::path name = DiskName(std::wstring_view(&letter, 1));
-  return Exists(folder_ / kPresent / name) || Exists(folder_ / kWithoutMedium / name);
+  return HasMedium(letter) || Exists(folder_ / kWithoutMedium / DiskName(std::wstring_view(&letter, 1)));
+}
+
+bool DriveFolders::HasMedium(wchar_t letter) const {
+  return Exists(folder_ / kPresent / DiskName(std::wstring_view(&letter, 1)));
 }
 
 fs::path DriveFolders::Root(const WindowsPath& path) const {

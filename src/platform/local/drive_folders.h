@@ -1,10 +1,13 @@
 // The drives and network shares of the local machine: folders on the disk below it.
 #pragma once
 
+#include <cstddef>
 #include <filesystem>
+#include <map>
 #include <optional>
 #include <string_view>
 
+#include "platform/local/drive_book.h"
 #include "platform/local/windows_path.h"
 
 namespace burrowmark {
@@ -22,6 +25,17 @@ class DriveFolders {
   bool PutMediumIn(wchar_t letter);
   // With a medium in it or not.
   bool Has(wchar_t letter) const;
+  bool HasMedium(wchar_t letter) const;
+  // What the drive is; a fixed one without a label until it is told otherwise. Kept as its files are.
+  DriveFacts FactsOf(wchar_t letter) { return book_.Find(letter); }
+  bool SetFacts(wchar_t letter, const DriveFacts& facts) { return book_.Set(letter, facts); }
+
+  // Each time the program asks for what is on the drive, its medium or its server is touched.
+  void Touch(wchar_t letter) { ++touches_[letter]; }
+  std::size_t MediumTouches(wchar_t letter) const {
+    const auto found = touches_.find(letter);
+    return found == touches_.end() ? 0 : found->second;
+  }
 
   // The place on the disk of a file or folder that exists. Names are matched without regard to case.
   std::optional<std::filesystem::path> Find(const WindowsPath& path) const;
@@ -36,6 +50,8 @@ class DriveFolders {
   bool Shift(const char* from, const char* to, wchar_t letter) const;
 
   std::filesystem::path folder_;
+  DriveBook book_;
+  std::map<wchar_t, std::size_t> touches_;
 };
 
 }  // namespace burrowmark

@@ -4,6 +4,7 @@
 #include <system_error>
 #include <utility>
 
+#include "platform/drive_letter.h"
 #include "platform/local/disk.h"
 #include "platform/local/folded.h"
 
@@ -66,15 +67,20 @@ class LocalOutputFile final : public OutputFile {
 
 }  // namespace
 
-LocalFileSystem::LocalFileSystem(const fs::path& folder, const DriveFolders& drives, Faults& faults)
+LocalFileSystem::LocalFileSystem(const fs::path& folder, DriveFolders& drives, Faults& faults)
     : drives_(drives), faults_(faults), attributes_(folder / "attributes.txt") {}
 
 std::optional<LocalFileSystem::Entry> LocalFileSystem::Look(const std::wstring& path) {
   std::optional<WindowsPath> name = ParseWindowsPath(path);
   if (!name) return std::nullopt;
-  const std::optional<fs::path> place = drives_.Place(*name);
+  if (!name->OnShare()) drives_.Touch(name->root.front());
+  std::optional<fs::path> place = drives_.Place(*name);
   if (!place) return std::nullopt;
-  Entry entry{*std::move(name), *place};
+  return Examine(*std::move(name), *std::move(place));
+}
+
+LocalFileSystem::Entry LocalFileSystem::Examine(WindowsPath name, fs::path place) {
+  Entry entry{std::move(name), std::move(place)};
   std::error_code error;
   entry.isFolder = fs::is_directory(entry.place, error);
   entry.isFile = !entry.isFolder && !entry.name.folderOnly && fs::exists(entry.place, error);
@@ -114,18 +120,14 @@ bool LocalFileSystem::FolderExists(const std::wstring& path) {
 }
 
 bool LocalFileSystem::DriveExists(const std::wstring& path) {
-  if (faults_.Strikes("DriveExists", path) || path.empty()) return false;
-  const wchar_t letter = UpperCase(path.front());
-  const std::wstring root = {letter, L':', L'\\'};
-  return letter >= L'A' && letter <= L'Z' && path.size() <= root.size() &&
-         root.compare(1, path.size() - 1, path, 1) == 0 && drives_.Has(letter);
+  if (faults_.Strikes("DriveExists", path)) return false;
+  const std::optional<wchar_t> letter = DriveLetter(path);
+  return letter && drives_.Has(*letter);
 }
 
 std::optional<std::uint32_t> LocalFileSystem::GetFileAttributesA(const std::wstring& path) {
   if (faults_.Strikes("GetFileAttributesA", path)) return std::nullopt;
-  const std::optional<Entry> entry = Look(path);
-  if (!entry || !entry->Exists()) return std::nullopt;
-  return entry->attributes;
+  return AttributesOf(path);
 }
 
 bool LocalFileSystem::SetFileAttributesA(const std::wstring& path, std::uint32_t attributes) {
@@ -136,14 +138,17 @@ bool LocalFileSystem::SetFileAttributesA(const std::wstring& path, std::uint32_t
 }
 
 bool LocalFileSystem::Remember(const Entry& entry, std::uint32_t attributes) {
-  const std::uint32_t kept = attributes & kKeptAttributes;
+  const std::uint32_t kept = (attributes & kKeptAttributes) | (entry.attributes & kFileCompressed);
   const std::wstring name = entry.name.Text();
   return kept == (entry.isFolder ? 0 : kFileArchive) ? attributes_.Forget(name) : attributes_.Set(name, kept);
 }
 
 bool LocalFileSystem::ReadWholeFile(const std::wstring& path, std::string& bytes) {
   bytes.clear();
-  if (faults_.Strikes("ReadWholeFile", path)) return false;
+  return !faults_.Strikes("ReadWholeFile", path) && Load(path, bytes);
+}
+
+bool LocalFileSystem::Load(const std::wstring& path, std::string& bytes) {
   const std::optional<Entry> entry = LookForFile(path);
   return entry && !HeldByOther(*entry) && ReadDiskFile(entry->place, bytes);
 }
@@ -188,16 +193,25 @@ bool LocalFileSystem::CopyFileA(const std::wstring& from, const std::wstring& to
   const std::optional<Entry> source = LookForFile(from);
   const std::optional<Entry> target = Look(to);
   if (!source || !target || HeldByOther(*source) || source->IsSameAs(*target)) return false;
-  if (target->isFile ? failIfExists || Held(*target) : !MayMakeFileAt(*target)) return false;
-  if (target->isFolder || target->Has(kFileReadOnly) || target->Has(kFileHidden)) return false;
-  return CopyBytes(*source, *target) && Remember(*target, source->attributes);
+  if ((failIfExists && target->isFile) || !MayWriteAt(*target)) return false;
+  std::string bytes;
+  return ReadDiskFile(source->place, bytes) && PutBytes(bytes, *target) && Remember(*target, source->attributes);
+}
+
+bool LocalFileSystem::Store(const std::wstring& path, std::string_view bytes) {
+  const std::optional<Entry> target = Look(path);
+  if (!target || !MayWriteAt(*target)) return false;
+  return PutBytes(bytes, *target) && Remember(*target, target->attributes | kFileArchive);
+}
+
+bool LocalFileSystem::MayWriteAt(const Entry& entry) const {
+  if (entry.isFile) return !Held(entry) && !entry.Has(kFileReadOnly) && !entry.Has(kFileHidden);
+  return MayMakeFileAt(entry);
 }
 
 // A target that is there already is lost when its room on the disk turns out too small, as on the real system.
-bool LocalFileSystem::CopyBytes(const Entry& source, const Entry& target) {
-  std::string bytes;
+bool LocalFileSystem::PutBytes(std::string_view bytes, const Entry& target) {
   std::error_code error;
-  if (!ReadDiskFile(source.place, bytes)) return false;
   fs::remove(target.place, error);
   if (TakeRoom(faults_, bytes.size()) != bytes.size()) return false;
   DiskFile copy(target.place);
@@ -210,6 +224,73 @@ bool LocalFileSystem::CreateFolder(const std::wstring& path) {
   if (!entry || entry->name.IsRoot() || entry->Exists()) return false;
   std::error_code error;
   return fs::create_directory(entry->place, error) && attributes_.Forget(entry->name.Text());
+}
+
+bool LocalFileSystem::ListFolder(const std::wstring& path, std::vector<FolderEntry>& entries) {
+  entries.clear();
+  if (faults_.Strikes("ListFolder", path)) return false;
+  const std::optional<Entry> folder = Look(path);
+  if (!folder || !folder->isFolder) return false;
+  std::error_code error;
+  for (fs::directory_iterator it(folder->place, error); !error && it != fs::directory_iterator(); it.increment(error)) {
+    std::wstring name = NameFromDisk(it->path().filename());
+    std::optional<WindowsPath> inside = ParseWindowsPath(folder->name.Text() + L'\\' + name);
+    if (!inside || inside->names.empty() || inside->names.back() != name) continue;  // no name that Windows could have
+    const Entry entry = Examine(*std::move(inside), it->path());
+    if (entry.Exists()) entries.push_back({std::move(name), entry.attributes});
+  }
+  std::sort(entries.begin(), entries.end(),
+            [](const FolderEntry& a, const FolderEntry& b) { return Folded(a.name) < Folded(b.name); });
+  if (error) entries.clear();
+  return !error;
+}
+
+std::vector<std::wstring> LocalFileSystem::DriveList() {
+  std::vector<std::wstring> list;
+  if (faults_.Strikes("DriveList", {})) return list;
+  for (wchar_t letter = L'A'; letter <= L'Z'; ++letter) {
+    if (!drives_.Has(letter)) continue;
+    const DriveFacts facts = drives_.FactsOf(letter);
+    std::wstring note;
+    if (facts.type == kDriveTypeRemote) note = facts.share;
+    if (facts.type == kDriveTypeFixed) ReadLabel(letter, note);
+    list.push_back({LowerCase(letter), L':'});
+    if (!note.empty()) list.back() += L" [" + note + L"]";
+  }
+  return list;
+}
+
+std::int32_t LocalFileSystem::GetDriveTypeA(const std::wstring& drive) {
+  if (faults_.Strikes("GetDriveTypeA", drive)) return kDriveTypeUnknown;
+  const std::optional<wchar_t> letter = DriveLetter(drive);
+  return letter && drive.size() > 1 && drives_.Has(*letter) ? drives_.FactsOf(*letter).type : kDriveTypeNone;
+}
+
+bool LocalFileSystem::GetVolumeInformationA(const std::wstring& drive, std::wstring& label) {
+  label.clear();
+  if (faults_.Strikes("GetVolumeInformationA", drive)) return false;
+  const std::optional<wchar_t> letter = DriveLetter(drive);
+  return letter && drive.size() > 1 && ReadLabel(*letter, label);
+}
+
+bool LocalFileSystem::ReadLabel(wchar_t letter, std::wstring& label) {
+  if (!drives_.Has(letter)) return false;
+  drives_.Touch(letter);
+  if (!drives_.HasMedium(letter)) return false;
+  label = drives_.FactsOf(letter).label;
+  return true;
+}
+
+std::optional<std::uint32_t> LocalFileSystem::AttributesOf(const std::wstring& path) {
+  const std::optional<Entry> entry = Look(path);
+  if (!entry || !entry->Exists()) return std::nullopt;
+  return entry->attributes;
+}
+
+bool LocalFileSystem::MarkCompressed(const std::wstring& path) {
+  const std::optional<Entry> entry = Look(path);
+  if (!entry || !entry->Exists()) return false;
+  return attributes_.Set(entry->name.Text(), (entry->attributes & kKeptAttributes) | kFileCompressed);
 }
 
 }  // namespace burrowmark

@@ -18,7 +18,7 @@ namespace burrowmark {
 class LocalFileSystem final : public FileSystem {
  public:
   // `folder` is the machine's; the drives and the faults must outlive this object.
-  LocalFileSystem(const std::filesystem::path& folder, const DriveFolders& drives, Faults& faults);
+  LocalFileSystem(const std::filesystem::path& folder, DriveFolders& drives, Faults& faults);
 
   bool FileExists(const std::wstring& path) override;
   bool FolderExists(const std::wstring& path) override;
@@ -31,6 +31,24 @@ class LocalFileSystem final : public FileSystem {
   bool DeleteFileA(const std::wstring& path) override;
   bool CopyFileA(const std::wstring& from, const std::wstring& to, bool failIfExists) override;
   bool CreateFolder(const std::wstring& path) override;
+  bool ListFolder(const std::wstring& path, std::vector<FolderEntry>& entries) override;
+  std::vector<std::wstring> DriveList() override;
+  std::int32_t GetDriveTypeA(const std::wstring& drive) override;
+  bool GetVolumeInformationA(const std::wstring& drive, std::wstring& label) override;
+
+  // For the families of the machine that keep their things in files. These aren't counted and no fault of a call
+  // strikes them; the standing conditions hold.
+  bool Load(const std::wstring& path, std::string& bytes);
+  // In place of a file that is there.
+  bool Store(const std::wstring& path, std::string_view bytes);
+  std::optional<std::uint32_t> AttributesOf(const std::wstring& path);
+  // The drive that a path is on; a share isn't one.
+  DriveFacts FactsOf(const WindowsPath& path) {
+    return path.OnShare() ? DriveFacts{kDriveTypeRemote, {}, path.root} : drives_.FactsOf(path.root.front());
+  }
+
+  // For tests: the bit that SetFileAttributesA can't set. False if there is nothing at the path.
+  bool MarkCompressed(const std::wstring& path);
 
  private:
   // What stands at a path, or would stand there.
@@ -46,16 +64,21 @@ class LocalFileSystem final : public FileSystem {
     bool IsSameAs(const Entry& other) const { return EqualIgnoringCase(name.Text(), other.name.Text()); }
   };
 
+  // What stands at a path that was taken apart, without a touch of its drive being counted.
+  Entry Examine(WindowsPath name, std::filesystem::path place);
   // Nothing if the path can't be or the folder that it stands in doesn't exist.
   std::optional<Entry> Look(const std::wstring& path);
   std::optional<Entry> LookForFile(const std::wstring& path);
   bool HeldByOther(const Entry& entry) const;
   bool Held(const Entry& entry) const;
   bool MayMakeFileAt(const Entry& entry) const;
+  bool MayWriteAt(const Entry& entry) const;
   bool Remember(const Entry& entry, std::uint32_t attributes);
-  bool CopyBytes(const Entry& source, const Entry& target);
+  bool PutBytes(std::string_view bytes, const Entry& target);
+  // The label of a drive with a medium.
+  bool ReadLabel(wchar_t letter, std::wstring& label);
 
-  const DriveFolders& drives_;
+  DriveFolders& drives_;
   Faults& faults_;
   AttributeBook attributes_;
   std::set<std::wstring> written_;  // files that are being written now, folded paths

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "platform/local/link_file.h"
+
 namespace burrowmark {
 namespace {
 
@@ -52,6 +54,20 @@ void LocalShell::LoseTaskBar() {
 bool LocalShell::HtmlHelpA(const std::wstring& path, std::int32_t command) {
   HelpCalls.push_back({path, command});
   return HelpOpens;
+}
+
+bool LocalShell::ReadShellLink(const std::wstring& path, ShellLink& link) {
+  std::string bytes;
+  return !faults_.Strikes("ReadShellLink", path) && files_.Load(path, bytes) && ReadLinkFile(bytes, facts_, link);
+}
+
+bool LocalShell::WriteShellLink(const std::wstring& path, const ShellLink& link) {
+  if (faults_.Strikes("WriteShellLink", path)) return false;
+  const std::optional<WindowsPath> target = ParseWindowsPath(link.target);
+  if (!target) return false;
+  const DriveFacts drive = files_.FactsOf(*target);
+  const std::uint32_t attributes = files_.AttributesOf(link.target).value_or(0);
+  return files_.Store(path, BuildLinkFile(link, *target, attributes, {drive.type, drive.label}, facts_));
 }
 
 std::int32_t LocalShell::mciSendStringA(const std::wstring& command) {

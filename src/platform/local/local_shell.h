@@ -5,7 +5,9 @@
 #include <vector>
 
 #include "platform/local/faults.h"
+#include "platform/local/local_file_system.h"
 #include "platform/shell.h"
+#include "platform/system_facts.h"
 
 namespace burrowmark {
 
@@ -25,7 +27,9 @@ struct HelpCall {
 
 class LocalShell final : public Shell {
  public:
-  explicit LocalShell(Faults& faults) : faults_(faults) {}
+  // All must outlive this object.
+  LocalShell(LocalFileSystem& files, const SystemFacts& facts, Faults& faults)
+      : files_(files), facts_(facts), faults_(faults) {}
 
   // What was asked for, in order, also if it failed.
   std::vector<Launch> Launches;
@@ -47,9 +51,13 @@ class LocalShell final : public Shell {
                              const std::wstring& directory, std::int32_t show) override;
   bool Shell_NotifyIconA(std::uint32_t message, const TrayIcon& icon) override;
   bool HtmlHelpA(const std::wstring& path, std::int32_t command) override;
+  bool ReadShellLink(const std::wstring& path, ShellLink& link) override;
+  bool WriteShellLink(const std::wstring& path, const ShellLink& link) override;
   std::int32_t mciSendStringA(const std::wstring& command) override;
 
  private:
+  LocalFileSystem& files_;
+  const SystemFacts& facts_;
   Faults& faults_;
   std::vector<TrayIcon> icons_;
 };

@@ -44,11 +44,12 @@ LocalMachine::LocalMachine(fs::path folder, std::shared_ptr<LocalSession> sessio
       drives(folder_),
       files(folder_, drives, faults),
       registry(folder_, faults),
-      shell(uiFaults),
+      shell(files, facts, uiFaults),
       windows(menuTree_, session_, uiFaults),
       user(windows, shell),
       menus(menuTree_, windows, drawing, facts, user, uiFaults),
-      dialogs(user, windows) {
+      dialogs(user, windows),
+      keyboard(uiFaults) {
   if (fs::exists(folder_ / "drives")) return;
   fs::create_directories(folder_);
   Furnish();

@@ -13,6 +13,7 @@
 #include "platform/local/local_drawing.h"
 #include "platform/local/local_facts.h"
 #include "platform/local/local_file_system.h"
+#include "platform/local/local_keyboard.h"
 #include "platform/local/local_menus.h"
 #include "platform/local/local_registry.h"
 #include "platform/local/local_session.h"
@@ -34,7 +35,7 @@ class LocalMachine {
   LocalMachine(const LocalMachine&) = delete;
   LocalMachine& operator=(const LocalMachine&) = delete;
 
-  Platform platform() { return {registry, files, facts, clock, windows, menus, drawing, shell, dialogs}; }
+  Platform platform() { return {registry, files, facts, clock, windows, menus, drawing, shell, dialogs, keyboard}; }
 
   // Another process on this machine: the two find each other's windows and claimed names.
   std::unique_ptr<LocalMachine> AnotherProcess();
@@ -72,6 +73,7 @@ class LocalMachine {
   LocalUser user;
   LocalMenus menus;
   LocalDialogs dialogs;
+  LocalKeyboard keyboard;
 };
 
 }  // namespace burrowmark

@@ -7,7 +7,10 @@
 #include <stdexcept>
 
 #include "platform/characters.h"
+#include "platform/drive_letter.h"
+#include "platform/win32/drive_facts.h"
 #include "platform/win32/file_handle.h"
+#include "platform/win32/folder_listing.h"
 #include "platform/win32/quiet_drives.h"
 #include "platform/win32/system_path.h"
 
@@ -82,12 +85,8 @@ bool Win32FileSystem::FolderExists(const std::wstring& path) {
 }
 
 bool Win32FileSystem::DriveExists(const std::wstring& path) {
-  if (path.empty()) return false;
-  const wchar_t letter = UpperCase(path.front());
-  const std::wstring root = {letter, L':', L'\\'};
-  if (letter < L'A' || letter > L'Z' || path.size() > root.size()) return false;
-  if (root.compare(1, path.size() - 1, path, 1) != 0) return false;
-  return ((::GetLogicalDrives() >> (letter - L'A')) & 1U) != 0;
+  const std::optional<wchar_t> letter = DriveLetter(path);
+  return letter && ((::GetLogicalDrives() >> (*letter - L'A')) & 1U) != 0;
 }
 
 bool Win32FileSystem::SetFileAttributesA(const std::wstring& path, std::uint32_t attributes) {
@@ -150,6 +149,23 @@ bool Win32FileSystem::CreateFolder(const std::wstring& path) {
   const std::optional<std::wstring> name = SystemPath(path);
   const QuietDrives quiet;
   return name && ::CreateDirectoryW(name->c_str(), nullptr) != 0;
+}
+
+bool Win32FileSystem::ListFolder(const std::wstring& path, std::vector<FolderEntry>& entries) {
+  return ReadFolder(path, entries);
+}
+
+std::vector<std::wstring> Win32FileSystem::DriveList() { return ListDrives(); }
+
+std::int32_t Win32FileSystem::GetDriveTypeA(const std::wstring& drive) {
+  const std::optional<wchar_t> letter = DriveLetter(drive);
+  return letter && drive.size() > 1 ? DriveType(*letter) : kDriveTypeNone;
+}
+
+bool Win32FileSystem::GetVolumeInformationA(const std::wstring& drive, std::wstring& label) {
+  label.clear();
+  const std::optional<wchar_t> letter = DriveLetter(drive);
+  return letter && drive.size() > 1 && VolumeLabel(*letter, label);
 }
 
 }  // namespace burrowmark

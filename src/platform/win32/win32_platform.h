@@ -9,6 +9,7 @@
 #include "platform/win32/win32_drawing.h"
 #include "platform/win32/win32_facts.h"
 #include "platform/win32/win32_file_system.h"
+#include "platform/win32/win32_keyboard.h"
 #include "platform/win32/win32_menus.h"
 #include "platform/win32/win32_registry.h"
 #include "platform/win32/win32_shell.h"
@@ -19,7 +20,9 @@ namespace burrowmark {
 // All windows and menus belong to the thread that makes this.
 class Win32Platform {
  public:
-  Platform platform() { return {registry_, files_, facts_, clock_, windows_, menus_, drawing_, shell_, dialogs_}; }
+  Platform platform() {
+    return {registry_, files_, facts_, clock_, windows_, menus_, drawing_, shell_, dialogs_, keyboard_};
+  }
 
  private:
   std::uint32_t MajorVersion() const {
@@ -39,6 +42,7 @@ class Win32Platform {
   Win32Menus menus_{screenDpi_, menuFont_};
   Win32Windows windows_{menuFont_, screenDpi_, MajorVersion()};
   Win32Dialogs dialogs_;
+  Win32Keyboard keyboard_;
 };
 
 }  // namespace burrowmark

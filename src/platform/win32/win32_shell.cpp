@@ -10,6 +10,7 @@
 #include <iterator>
 
 #include "platform/win32/handles.h"
+#include "platform/win32/link_object.h"
 #include "platform/win32/quiet_drives.h"
 #include "platform/win32/system_path.h"
 
@@ -108,6 +109,10 @@ bool Win32Shell::HtmlHelpA(const std::wstring& path, std::int32_t command) {
   if (help_ == nullptr) help_ = std::make_unique<Help>();
   return help_->Show(path, command);
 }
+
+bool Win32Shell::ReadShellLink(const std::wstring& path, ShellLink& link) { return LoadLink(path, link); }
+
+bool Win32Shell::WriteShellLink(const std::wstring& path, const ShellLink& link) { return SaveLink(path, link); }
 
 std::int32_t Win32Shell::mciSendStringA(const std::wstring& command) {
   wchar_t answer[kMediaAnswer] = {};

@@ -19,6 +19,8 @@ class Win32Shell final : public Shell {
                              const std::wstring& directory, std::int32_t show) override;
   bool Shell_NotifyIconA(std::uint32_t message, const TrayIcon& icon) override;
   bool HtmlHelpA(const std::wstring& path, std::int32_t command) override;
+  bool ReadShellLink(const std::wstring& path, ShellLink& link) override;
+  bool WriteShellLink(const std::wstring& path, const ShellLink& link) override;
   std::int32_t mciSendStringA(const std::wstring& command) override;
 
  private:

@@ -1,0 +1,56 @@
+#include "platform/win32/folder_listing.h"
+
+#include <windows.h>
+
+#include <optional>
+
+#include "platform/win32/quiet_drives.h"
+#include "platform/win32/system_path.h"
+
+namespace burrowmark {
+namespace {
+
+// A running search, with the entry that it stands at.
+class Search {
+ public:
+  explicit Search(const std::wstring& pattern)
+      : handle_(::FindFirstFileExW(pattern.c_str(), FindExInfoBasic, &found_, FindExSearchNameMatch, nullptr,
+                                   FIND_FIRST_EX_LARGE_FETCH)) {}
+  ~Search() {
+    if (IsOpen()) ::FindClose(handle_);
+  }
+  Search(const Search&) = delete;
+  Search& operator=(const Search&) = delete;
+
+  bool IsOpen() const { return handle_ != INVALID_HANDLE_VALUE; }
+  bool Next() { return ::FindNextFileW(handle_, &found_) != 0; }
+  FolderEntry Entry() const { return {found_.cFileName, found_.dwFileAttributes}; }
+
+ private:
+  WIN32_FIND_DATAW found_ = {};
+  HANDLE handle_;
+};
+
+bool IsItselfOrParent(const std::wstring& name) { return name == L"." || name == L".."; }
+
+}  // namespace
+
+bool ReadFolder(const std::wstring& path, std::vector<FolderEntry>& entries) {
+  entries.clear();
+  std::optional<std::wstring> pattern = SystemPath(path);
+  if (!pattern) return false;
+  pattern->append(pattern->ends_with(L'\\') || pattern->ends_with(L'/') ? L"*" : L"\\*");
+  const QuietDrives quiet;
+  Search search(*pattern);
+  // Only a root can be without any entry.
+  if (!search.IsOpen()) return ::GetLastError() == ERROR_FILE_NOT_FOUND;
+  do {
+    FolderEntry entry = search.Entry();
+    if (!IsItselfOrParent(entry.name)) entries.push_back(std::move(entry));
+  } while (search.Next());
+  if (::GetLastError() == ERROR_NO_MORE_FILES) return true;
+  entries.clear();
+  return false;
+}
+
+}  // namespace burrowmark

@@ -1,0 +1,74 @@
+#include "platform/win32/link_object.h"
+
+#include <windows.h>
+// These want windows.h ahead of them.
+#include <shlguid.h>
+#include <shlobj.h>
+
+#include <optional>
+
+#include "platform/win32/com_object.h"
+#include "platform/win32/quiet_drives.h"
+#include "platform/win32/system_path.h"
+
+namespace burrowmark {
+namespace {
+
+constexpr int kLongestTarget = 32768;
+
+// The object with its two faces.
+struct LinkObject {
+  ComObject<IShellLinkW> link{CLSID_ShellLink, IID_IShellLinkW};
+  ComObject<IPersistFile> file{link.Get(), IID_IPersistFile};
+
+  bool IsThere() const { return link && file; }
+};
+
+// Names of environment variables stand for their values.
+std::wstring Expanded(const std::wstring& text) {
+  const DWORD room = ::ExpandEnvironmentStringsW(text.c_str(), nullptr, 0);
+  std::wstring expanded(room, L'\0');
+  const DWORD length = ::ExpandEnvironmentStringsW(text.c_str(), expanded.data(), room);
+  if (length == 0 || length > room) return text;
+  expanded.resize(length - 1);
+  return expanded;
+}
+
+std::wstring PathIn(const LinkObject& object, DWORD form) {
+  std::wstring path(kLongestTarget, L'\0');
+  if (FAILED(object.link->GetPath(path.data(), kLongestTarget, nullptr, form))) return {};
+  path.resize(path.find(L'\0') == std::wstring::npos ? 0 : path.find(L'\0'));
+  return path;
+}
+
+}  // namespace
+
+bool LoadLink(const std::wstring& path, ShellLink& link) {
+  const std::optional<std::wstring> name = SystemPath(path);
+  const LinkObject object;
+  if (!name || !object.IsThere()) return false;
+  const QuietDrives quiet;
+  if (FAILED(object.file->Load(name->c_str(), STGM_READ | STGM_SHARE_DENY_NONE))) return false;
+  // As it was written first: the other form may be a place where the system believes the target to be now.
+  std::wstring target = Expanded(PathIn(object, SLGP_RAWPATH));
+  if (target.empty()) target = PathIn(object, 0);
+  if (target.empty()) return false;
+  wchar_t description[INFOTIPSIZE] = {};
+  int show = kShowNormal;
+  object.link->GetDescription(description, INFOTIPSIZE);
+  object.link->GetShowCmd(&show);
+  link = {target, description, show};
+  return true;
+}
+
+bool SaveLink(const std::wstring& path, const ShellLink& link) {
+  const std::optional<std::wstring> name = SystemPath(path);
+  const LinkObject object;
+  if (!name || !SystemPath(link.target) || !object.IsThere()) return false;
+  const QuietDrives quiet;
+  return SUCCEEDED(object.link->SetPath(link.target.c_str())) &&
+         SUCCEEDED(object.link->SetDescription(link.description.c_str())) &&
+         SUCCEEDED(object.link->SetShowCmd(link.showCommand)) && SUCCEEDED(object.file->Save(name->c_str(), TRUE));
+}
+
+}  // namespace burrowmark
