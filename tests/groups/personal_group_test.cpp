@@ -1,0 +1,132 @@
+#include "groups/personal_group.h"
+
+#include <gtest/gtest.h>
+
+#include "core/numbers.h"
+#include "tests/support/menu_scene.h"
+
+namespace burrowmark {
+namespace {
+
+using test::TitlesUnder;
+
+class PersonalGroup : public testing::Test {
+ protected:
+  PersonalGroup() { app_.RecentFolder = L"C:\\Users\\User\\AppData\\Roaming\\Microsoft\\Windows\\Recent"; }
+  void MakeDrive(wchar_t letter, int folders, const std::wstring& label = {}) {
+    machine_.drives.Add(letter);
+    machine_.drives.SetFacts(letter, {3, label, {}});
+    for (int i = 10; i < 10 + folders; ++i) machine_.AddFolders(std::wstring(1, letter) + L":\\f" + DecimalText(i));
+  }
+  void MakeLink(const std::wstring& name, const std::wstring& target) {
+    machine_.shell.WriteShellLink(app_.RecentFolder + L"\\" + name + L".lnk", {target, {}, 1});
+  }
+  std::int32_t Fill(PersonalContent content) {
+    SetupPersonalGroup(app_, store_, content);
+    return store_.ChildrenNumber(MIT_GROUP_USER);
+  }
+
+  test::MenuScene scene_;
+  LocalMachine& machine_ = scene_.machine;
+  Application& app_ = scene_.app;
+  clsMenuCollection& store_ = *app_.MainStore;
+};
+
+TEST_F(PersonalGroup, BlankAndBehindTheHelpEntries) {
+  AddFixedEntries(app_, store_, false);
+  EXPECT_EQ(Fill(PersonalContent::kBlank), 0);
+  EXPECT_EQ(TitlesUnder(store_, kRootOwner), L"Help  Personal  Options Organize Folders");
+}
+
+TEST_F(PersonalGroup, TwentyFiveFoldersOfAllDrives) {
+  MakeDrive(L'D', 20);
+  MakeDrive(L'E', 20);
+  const std::int32_t ofDriveC = 3;  // Program Files, Users, Windows
+  EXPECT_EQ(Fill(PersonalContent::kDriveFolders), 25);
+  EXPECT_TRUE(store_.CaptionExists(L"C_Windows", MIT_GROUP_USER, false, L""));
+  EXPECT_TRUE(store_.CaptionExists(L"D_f29", MIT_GROUP_USER, false, L""));
+  EXPECT_TRUE(store_.CaptionExists(L"E_f11", MIT_GROUP_USER, false, L""));
+  EXPECT_FALSE(store_.CaptionExists(L"E_f12", MIT_GROUP_USER, false, L"")) << ofDriveC;
+}
+
+TEST_F(PersonalGroup, TwentyFourGroupsOfTwentyFourFolders) {
+  MakeDrive(L'D', 30, L"Data");
+  EXPECT_EQ(Fill(PersonalContent::kDriveGroups), 2);
+  EXPECT_EQ(store_.GetMenuItemFromName(L"M2")->Caption(), L"C");
+  EXPECT_EQ(store_.GetMenuItemFromName(L"M3")->Caption(), L"D (Data)");
+  EXPECT_EQ(store_.ChildrenNumber(L"M2"), 3);
+  EXPECT_EQ(store_.ChildrenNumber(L"M3"), 24);
+  EXPECT_EQ(store_.CaptionExists2(L"f33", L"M3", false, L"")->FolderPath, L"D:\\f33");
+  EXPECT_EQ(test::OwnersAheadIn(store_), "");
+}
+
+TEST_F(PersonalGroup, MoreThanTwentyFourDrives) {
+  for (wchar_t letter = L'A'; letter <= L'Z'; ++letter) {
+    if (letter != L'C') MakeDrive(letter, 1);
+  }
+  EXPECT_EQ(Fill(PersonalContent::kDriveGroups), 24);
+  EXPECT_TRUE(store_.ItemExists(L"M25"));
+  EXPECT_FALSE(store_.ItemExists(L"M26"));
+}
+
+TEST_F(PersonalGroup, HiddenSystemAndCompressedFoldersAndOtherDrivesTakeNoPlace) {
+  MakeDrive(L'D', 30);
+  machine_.files.SetFileAttributesA(L"D:\\f10", kFileHidden);
+  machine_.files.SetFileAttributesA(L"D:\\f11", kFileSystem);
+  machine_.files.MarkCompressed(L"D:\\f12");
+  machine_.AddFile(L"D:\\a file");
+  machine_.drives.Add(L'U');
+  machine_.drives.SetFacts(L'U', {2, {}, {}});
+  machine_.AddFolders(L"U:\\x");
+  machine_.drives.Add(L'E');
+  machine_.drives.TakeMediumOut(L'E');
+  EXPECT_EQ(Fill(PersonalContent::kDriveGroups), 3);
+  EXPECT_FALSE(store_.CaptionExists(L"f12", L"M3", false, L""));
+  EXPECT_TRUE(store_.CaptionExists(L"f36", L"M3", false, L""));
+  EXPECT_EQ(store_.ChildrenNumber(L"M3"), 24);
+  EXPECT_EQ(store_.ChildrenNumber(L"M4"), 0);          // a drive that can't be read keeps its empty group
+  EXPECT_EQ(machine_.drives.MediumTouches(L'U'), 1U);  // by this test alone
+}
+
+TEST_F(PersonalGroup, RecentDocumentsBecomeTheFoldersThatHoldThem) {
+  machine_.AddFile(L"C:\\one\\Docs\\a.txt");
+  machine_.AddFile(L"C:\\one\\Docs\\b.txt");
+  machine_.AddFolders(L"C:\\two\\Docs");
+  MakeLink(L"1", L"C:\\one\\Docs\\a.txt");
+  MakeLink(L"2", L"C:\\ONE\\docs\\b.txt");
+  MakeLink(L"3", L"C:\\two\\Docs");
+  MakeLink(L"4", L"C:\\gone\\x.txt");
+  machine_.AddFile(app_.RecentFolder + L"\\5.lnk", "no link");
+  machine_.AddFile(app_.RecentFolder + L"\\6.txt", "x");
+  machine_.AddFile(L"C:\\root.txt");
+  MakeLink(L"7", L"C:\\root.txt");
+  EXPECT_EQ(Fill(PersonalContent::kRecentFolders), 3);
+  EXPECT_EQ(store_.CaptionExists2(L"Docs", MIT_GROUP_USER, false, L"")->FolderPath, L"C:\\one\\Docs");
+  EXPECT_EQ(store_.CaptionExists2(L"Docs2", MIT_GROUP_USER, false, L"")->FolderPath, L"C:\\two\\Docs");
+  EXPECT_EQ(store_.CaptionExists2(L"C", MIT_GROUP_USER, false, L"")->FolderPath, L"C:\\");
+}
+
+TEST_F(PersonalGroup, TwentyFiveRecentFoldersEachOnce) {
+  for (int i = 10; i < 50; ++i) {
+    const std::wstring folder = L"C:\\r\\" + DecimalText(i);
+    machine_.AddFolders(folder);
+    MakeLink(DecimalText(i) + L" a", folder);
+    MakeLink(DecimalText(i) + L" b", folder);
+  }
+  const std::vector<std::wstring> folders = BuildRecentFolders(app_);
+  ASSERT_EQ(folders.size(), 25U);
+  EXPECT_EQ(folders.front(), L"C:\\r\\10");
+  EXPECT_EQ(folders.back(), L"C:\\r\\34");
+}
+
+TEST_F(PersonalGroup, WithoutRecentFoldersTheFirstStartMapsTheDrives) {
+  ResetToDefaults(app_);
+  EXPECT_EQ(TitlesUnder(*app_.MainStore, MIT_GROUP_USER), L"C_Program Files C_Users C_Windows");
+  EXPECT_TRUE(app_.MainStore->ItemExists(MIT_PATHS_SYSTEM));
+  MakeLink(L"1", L"C:\\Windows");
+  ResetToDefaults(app_);
+  EXPECT_EQ(TitlesUnder(*app_.MainStore, MIT_GROUP_USER), L"Windows");
+}
+
+}  // namespace
+}  // namespace burrowmark
