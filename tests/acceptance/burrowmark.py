@@ -95,6 +95,10 @@ class Menu:
         rest = range(left + width + 2, min(left + width + 12, self.window.rectangle[2] - 4))
         return all(picture.pixel(x, top + y) == ground for x in rest for y in range(height))
 
+    def wait_text(self, entry, text):
+        """Waits for it: the tip of the tray icon may lie over the menu for a moment."""
+        wait_for(lambda: self.shows_text(entry, text), "an entry with the text %r" % text, 10)
+
     def click(self, entry, button="left"):
         self.program.desktop.click((entry.left + self._scaled(60), entry.top + self._scaled(9)), button)
 
@@ -146,7 +150,11 @@ class Program:
         return self.desktop.start(EXE, *words)
 
     def wait_tray_icon(self):
-        return wait_for(self.desktop.find_tray_icon, "the icon in the task bar", 20)
+        def icon():
+            if not self.runs():
+                raise AssertionError("the program ended with %d before its icon came" % self.process.returncode)
+            return self.desktop.find_tray_icon()
+        return wait_for(icon, "the icon in the task bar", 20)
 
     def runs(self):
         return self.process is not None and self.process.poll() is None

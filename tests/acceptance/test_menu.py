@@ -59,6 +59,11 @@ class DrawnMenu(MenuTest):
     def test_a_right_click_on_the_tray_icon_opens_the_menu(self):
         self.check_opens("right")
 
+    def test_the_tray_icon_tells_the_name_of_the_program(self):
+        tray = self.start_with()
+        self.desktop.driver("move", *tray)
+        self.desktop.wait_window("tooltips_class32", "Burrowmark")
+
     def test_the_root_level_has_its_entries_at_their_heights(self):
         tray = self.start_with()
         menu = self.program.open_menu(tray)
@@ -73,7 +78,7 @@ class DrawnMenu(MenuTest):
         self.assertEqual(tops[0] - menu.window.rectangle[1],
                          menu.window.rectangle[3] - (tops[-1] + ENTRY_HEIGHT))
         for entry, text in zip(entries, ("Help", "Personal", "Options", "Organize Folders")):
-            self.assertTrue(menu.shows_text(entry, text), text)
+            menu.wait_text(entry, text)
         self.assertFalse(menu.shows_text(entries[0], "Hepl"))
 
     def test_a_group_shows_the_entries_of_the_file_in_their_order(self):
@@ -86,9 +91,9 @@ class DrawnMenu(MenuTest):
         self.assertEqual([top - tops[0] for top in tops], [0, ENTRY_HEIGHT, 2 * ENTRY_HEIGHT, 3 * ENTRY_HEIGHT])
         for entry, text in zip(entries, ("Nested", "Open-All", "Single", "Double café")):
             if not entry.selected:
-                self.assertTrue(level.shows_text(entry, text), text)
+                level.wait_text(entry, text)
         nested = level.open_level(entries[0])
-        self.assertTrue(nested.shows_text(nested.wait_entries([DOUBLE])[0], "Deep"))
+        nested.wait_text(nested.wait_entries([DOUBLE])[0], "Deep")
 
 
 class HighResolution(MenuTest):
@@ -150,7 +155,7 @@ class Actions(MenuTest):
             self.desktop.press(box, answer)
             self.desktop.wait_gone(box)
         level = self.open_personal(tray)
-        self.assertTrue(level.shows_text(level.wait_entries([SINGLE, SINGLE])[1], "Other"))
+        level.wait_text(level.wait_entries([SINGLE, SINGLE])[1], "Other")
         self.assertEqual(self.program.file.read_bytes(), before)
         self.assertEqual(self.program.folder_commands(), [])
 

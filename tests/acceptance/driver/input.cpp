@@ -1,9 +1,7 @@
 // Verbs that act as the user's hand: pointer and keyboard by SendInput.
 #include <algorithm>
-#include <cstdio>
 #include <cwctype>
 #include <optional>
-#include <utility>
 
 #include "driver.h"
 
@@ -28,16 +26,7 @@ const Button& ButtonNamed(const std::wstring& name) {
   throw BadCall("no such button: " + Utf8(name));
 }
 
-// Said once, ahead of the first input: a caller that saw no such line knows that nothing was sent.
-void SayThatInputBegins() {
-  static bool said = false;
-  if (std::exchange(said, true)) return;
-  Line().Add("input", true);
-  std::fflush(stdout);
-}
-
 void Send(INPUT input) {
-  SayThatInputBegins();
   if (SendInput(1, &input, sizeof input) != 1) throw Failure("the input was refused");
 }
 

@@ -42,6 +42,9 @@ int Usage() {
 int Run(const std::wstring& name, Words words) {
   for (const Verb& verb : kVerbs) {
     if (name != verb.name) continue;
+    // Ahead of all a verb does: a caller that saw no such line knows that nothing was done.
+    Line().Add("verb", name);
+    std::fflush(stdout);
     verb.run(words);
     return 0;
   }
