@@ -77,7 +77,7 @@ class Start : public testing::Test {
 
 TEST_F(Start, TheFirstStartWritesTheDefaultFile) {
   Run({[&] {
-    EXPECT_EQ(Menu(), L"Help;-;Personal;-;Options;Organize Folders;");
+    EXPECT_EQ(Menu(), L"Help;-;Personal;System Folders;-;Options;Organize Folders;");
     ASSERT_NE(machine_.shell.Tray(), nullptr);
     EXPECT_EQ(machine_.shell.Tray()->tip, L"Burrowmark");
     EXPECT_EQ(Registered(kMainKey, kWindowValue), DecimalText(machine_.windows.Main()));
@@ -86,7 +86,7 @@ TEST_F(Start, TheFirstStartWritesTheDefaultFile) {
   bool missing = false;
   bool ignored = false;
   ASSERT_TRUE(ConfigFileRead(app, *app.MainStore, kBeside, missing, ignored));
-  EXPECT_TRUE(app.MainStore->ItemExists(L"M2"));
+  EXPECT_TRUE(app.MainStore->CaptionExists(L"C_Windows", MIT_GROUP_USER, false, L""));
   EXPECT_EQ(Registered(kSettingsKey, kConfigFileValue), L"");
 }
 
@@ -94,7 +94,7 @@ TEST_F(Start, AFileBesideTheProgramIsReadAndRegistered) {
   machine_.AddFile(kBeside, FileWith(L"Found"));
   const std::string before = machine_.BytesOf(kBeside);
   Run({[&] {
-    EXPECT_EQ(Menu(), L"Help;-;Mine;-;Options;Organize Folders;");
+    EXPECT_EQ(Menu(), L"Help;-;Mine;System Folders;-;Options;Organize Folders;");
     machine_.user.NextMenu({L"Mine", L"Found"});
     machine_.user.ClickTray(LocalUser::Button::kLeft);
     ASSERT_EQ(machine_.shell.Launches.size(), 1U);
@@ -107,7 +107,7 @@ TEST_F(Start, AFileBesideTheProgramIsReadAndRegistered) {
 TEST_F(Start, ARegisteredFileOnADriveThatIsAwayStaysRegistered) {
   machine_.AddFile(kBeside, FileWith(L"Found"));
   Register(L"Q:\\away.bwmk");
-  Run({[&] { EXPECT_EQ(Menu(), L"Help;-;Mine;-;Options;Organize Folders;"); }});
+  Run({[&] { EXPECT_EQ(Menu(), L"Help;-;Mine;System Folders;-;Options;Organize Folders;"); }});
   EXPECT_EQ(Registered(kSettingsKey, kConfigFileValue), L"Q:\\away.bwmk");
   Register(L"C:\\gone.bwmk");
   Run({});
@@ -118,9 +118,11 @@ TEST_F(Start, AFileThatCannotBeReadIsNotOverwritten) {
   const std::string damaged = FileWith(L"Found").substr(0, 40);
   for (const std::string& bytes : {damaged + std::string("\0x\0", 3), std::string("no file of ours")}) {
     machine_.AddFile(kBeside, bytes);
+    machine_.AddFolders(L"C:\\Doomed");
     Run({[&] {
-      EXPECT_EQ(Menu(), L"Help;-;Personal;-;Options;Organize Folders;");
-      machine_.user.NextMenu({L"Personal", L"My Group", L"Start Menu"});  // dead here: the offer to delete it
+      EXPECT_EQ(Menu(), L"Help;-;Personal;System Folders;-;Options;Organize Folders;");
+      std::filesystem::remove(machine_.RealPath(L"C:\\Doomed"));
+      machine_.user.NextMenu({L"Personal", L"C_Doomed"});
       machine_.user.NextBox(L"does not exist", kAnswerYes);
       machine_.user.ClickTray(LocalUser::Button::kLeft);
     }});
@@ -132,7 +134,7 @@ TEST_F(Start, AFileThatIsHeldOpenIsLeftAloneAndAnEmptyOneIsReplaced) {
   const std::string bytes = FileWith(L"Found");
   machine_.AddFile(kBeside, bytes);
   machine_.faults.HeldOpen.insert(L"C:\\PROGRAM FILES\\BURROWMARK\\DEFAULT.BWMK");
-  Run({[&] { EXPECT_EQ(Menu(), L"Help;-;Personal;-;Options;Organize Folders;"); }});
+  Run({[&] { EXPECT_EQ(Menu(), L"Help;-;Personal;System Folders;-;Options;Organize Folders;"); }});
   machine_.faults.HeldOpen.clear();
   EXPECT_EQ(machine_.BytesOf(kBeside), bytes);
   machine_.AddFile(kBeside, "");
@@ -166,7 +168,7 @@ TEST_F(Start, WhatTheMachineRefusesDoesNotStopTheStart) {
   machine_.faults.RefusedKeys.insert(L"HKEY_CURRENT_USER\\SOFTWARE\\KESTRELAN");
   machine_.faults.FoldersWithoutNewFiles.insert(L"C:\\PROGRAM FILES\\BURROWMARK");
   steps_ = {[&] {
-    EXPECT_EQ(Menu(), L"Help;-;Personal;-;Options;Organize Folders;");
+    EXPECT_EQ(Menu(), L"Help;-;Personal;System Folders;-;Options;Organize Folders;");
     machine_.windows.DestroyMainWindow(machine_.windows.Main());
   }};
   RunBurrowmark(machine_.platform(), {});

@@ -68,26 +68,25 @@ TEST_F(Drives, TheGroupComesAtTheFirstOpeningAndFollowsTheMachine) {
   AddDrive(L'D', 5, L"DATA");
   AddDrive(L'X', 4, L"", L"\\\\server\\share");
   scene_.Start();
-  EXPECT_EQ(scene_.NativeTexts(), L"Help - Personal - Options Organize Folders");
+  EXPECT_EQ(scene_.NativeTexts(), L"Help - Personal[] - Options Organize Folders");
   OpenMenu();
   EXPECT_EQ(scene_.NativeTexts(),
-            L"Help - Personal Drives[C: D: (DATA) X: (\\\\server\\share)] - Options Organize Folders");
+            L"Help - Personal[] Drives[C: D: (DATA) X: (\\\\server\\share)] - Options Organize Folders");
   EXPECT_EQ(scene_.WrongNumbers(), "");
   AddDrive(L'U', 2);
   OpenMenu();
   EXPECT_EQ(scene_.NativeTexts(),
-            L"Help - Personal Drives[C: D: (DATA) U: (Removable Disk) X: (\\\\server\\share)] - "
+            L"Help - Personal[] Drives[C: D: (DATA) U: (Removable Disk) X: (\\\\server\\share)] - "
             L"Options Organize Folders");
   machine_.drives.Remove(L'X');
   machine_.drives.TakeMediumOut(L'D');
   OpenMenu();
   EXPECT_EQ(scene_.NativeTexts(),
-            L"Help - Personal Drives[C: D: (Compact Disc) U: (Removable Disk)] - Options Organize Folders");
+            L"Help - Personal[] Drives[C: D: (Compact Disc) U: (Removable Disk)] - Options Organize Folders");
   EXPECT_EQ(scene_.WrongNumbers(), "");
-  const ItemRef disc = app_.MainStore->Item(app_.MainStore->Count());
   app_.AC[1] = false;
   OpenMenu();
-  EXPECT_EQ(scene_.NativeTexts(), L"Help - Personal - Options Organize Folders");
+  EXPECT_EQ(scene_.NativeTexts(), L"Help - Personal[] - Options Organize Folders");
 }
 
 TEST_F(Drives, ItemsHoldWhatOpensThem) {
@@ -116,6 +115,22 @@ TEST_F(Drives, OpeningTheMenuTouchesNoServerAndNoRemovableMedium) {
   OpenMenu();
   OpenMenu();
   for (const wchar_t letter : {L'A', L'U', L'X'}) EXPECT_EQ(machine_.drives.MediumTouches(letter), 0U);
+}
+
+TEST_F(Drives, ACheckAtAnOpeningTouchesTheMediumOfADiscWithoutALabelAlone) {
+  AddDrive(L'D', 5, L"DATA");
+  scene_.Start();
+  OpenMenu();
+  const std::size_t once = machine_.drives.MediumTouches(L'D');
+  EXPECT_GE(once, 1U);
+  machine_.faults.Clear();
+  OpenMenu();
+  EXPECT_EQ(machine_.drives.MediumTouches(L'D'), once + 1);
+  for (const std::string& call : machine_.faults.Record()) {
+    EXPECT_TRUE(call.starts_with("DriveList") || call.starts_with("GetDriveTypeA") ||
+                call == "GetVolumeInformationA D:")
+        << call;
+  }
 }
 
 TEST_F(Drives, AnotherStoreMarksTheMenuAndUnchangedDrivesLeaveItAlone) {

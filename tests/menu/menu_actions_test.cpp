@@ -21,6 +21,7 @@ class MenuInUse : public testing::Test {
       commands_ += (FromMenu ? L"menu:" : L"text:") + Command + L";";
     };
     app_.MainStoreFromConfigFile = true;
+    app_.AC[1] = false;  // the drives have a test of their own
     scene_.AddPersonal();
     scene_.AddShortcut(L"live", L"Live", L"C:\\live");
     scene_.AddShortcut(L"dead", L"Dead", L"")->FolderPath = L"C:\\gone";

@@ -143,16 +143,6 @@ TEST_F(MenuSetup, ACloneHasEverythingAndADrivesTitleKeepsItsColon) {
   EXPECT_EQ(clone.Caption(), L"C (x)");
 }
 
-TEST_F(MenuSetup, TheDefaultTreeIsTheSample) {
-  ResetToDefaults(app_);
-  EXPECT_EQ(
-      NamesOf(*app_.MainStore),
-      L"MIT_HF_HELP MIT_HF_HELP_SEP MIT_GROUP_USER M1 M2 M3 M4 M5 MIT_HF_DRIVES_SEP MIT_HF_SETTINGS MIT_HF_ORGANIZE");
-  EXPECT_EQ(app_.MainStore->GetMenuItemFromName(L"M3")->FolderPath, L"C:\\Users\\User\\Desktop");
-  EXPECT_EQ(app_.MainStore->GetMenuItemFromName(L"M5")->Caption(), L"Open-All");
-  EXPECT_EQ(test::OwnersAheadIn(*app_.MainStore), "");
-}
-
 TEST_F(MenuSetup, BadCharactersAndNames) {
   EXPECT_TRUE(HasBadFileChars(L"a:b"));
   EXPECT_FALSE(HasBadFileChars(L"a b."));
