@@ -89,7 +89,7 @@ exchange_files() {
 unless_passed exchange build/native/tests/contract_tests build/windows/tests/contract_tests.exe -- exchange_files
 
 build fuzz
-for target in date reader; do
+for target in date reader link; do
   fuzz=build/fuzz/tests/fuzz/fuzz_$target
   mkdir -p "build/fuzz/corpus/$target"
   unless_passed "fuzz-$target" "$fuzz" tests/fuzz/seeds/"$target"/* -- \
