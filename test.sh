@@ -114,7 +114,7 @@ unless_passed acceptance build/windows/src/app/burrowmark.exe "${acceptance_file
   build/windows/tests/acceptance/driver/acceptance_driver.exe -- acceptance_tests
 
 build fuzz
-for target in date reader; do
+for target in date reader link; do
   fuzz=build/fuzz/tests/fuzz/fuzz_$target
   mkdir -p "build/fuzz/corpus/$target"
   unless_passed "fuzz-$target" "$fuzz" tests/fuzz/seeds/"$target"/* -- \

@@ -41,6 +41,10 @@ class LocalSystem final : public SystemUnderTest {
     machine_.faults.HeldOpen.insert(held);
     return {nullptr, [this, held](void*) { machine_.faults.HeldOpen.erase(held); }};
   }
+  void PressKeys(const std::vector<std::int32_t>& keys) override {
+    for (const std::int32_t key : keys) machine_.keyboard.Down(key);
+    for (auto key = keys.rbegin(); key != keys.rend(); ++key) machine_.keyboard.Up(*key);
+  }
 
  private:
   fs::path folder_ = fs::temp_directory_path() / UniqueName();
@@ -71,6 +75,17 @@ void RemoveFolder(const std::wstring& folder) {
   ::RemoveDirectoryW(folder.c_str());
 }
 
+// Sends one event as the keyboard does, and takes what comes of it off this thread's queue.
+void SendKey(std::int32_t key, DWORD flags) {
+  INPUT input = {};
+  input.type = INPUT_KEYBOARD;
+  input.ki.wVk = static_cast<WORD>(key);
+  input.ki.dwFlags = flags;
+  ::SendInput(1, &input, sizeof(input));
+  MSG message = {};
+  while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != FALSE) ::DispatchMessageW(&message);
+}
+
 class Win32System final : public SystemUnderTest {
  public:
   Win32System() {
@@ -92,6 +107,16 @@ class Win32System final : public SystemUnderTest {
   std::shared_ptr<void> HoldOpen(const std::wstring& path) override {
     return std::make_shared<FileHandle>(
         ::CreateFileW(path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+  }
+  void PressKeys(const std::vector<std::int32_t>& keys) override {
+    for (const std::int32_t key : keys) SendKey(key, 0);
+    for (auto key = keys.rbegin(); key != keys.rend(); ++key) SendKey(*key, KEYEVENTF_KEYUP);
+  }
+  bool TakesKeys() override {
+    SendKey(VK_F24, 0);
+    const bool isDown = ::GetAsyncKeyState(VK_F24) < 0;
+    SendKey(VK_F24, KEYEVENTF_KEYUP);
+    return isDown;
   }
   bool IsWine() const override {
     return ::GetProcAddress(::GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;

@@ -23,6 +23,10 @@ class SystemUnderTest {
   virtual std::wstring Key() const = 0;
   // Holds a file open as another program does that shares it with nobody, until the object goes.
   virtual std::shared_ptr<void> HoldOpen(const std::wstring& path) = 0;
+  // Presses keys one after the other, and lets go of them in reverse.
+  virtual void PressKeys(const std::vector<std::int32_t>& keys) = 0;
+  // False where there is no desktop that keys could be pressed on.
+  virtual bool TakesKeys() { return true; }
   // Wine stands in for Windows and does some things otherwise.
   virtual bool IsWine() const { return false; }
   virtual bool HasPage1252() const { return true; }

@@ -30,6 +30,8 @@ TEST_F(FaultsTest, EveryCallOfTheFileSystemCanBeMadeToFail) {
   const std::unique_ptr<OutputFile> file = files_.CreateNewFile(L"C:\\open");
   ASSERT_TRUE(file);
   std::string bytes;
+  std::vector<FolderEntry> entries;
+  std::wstring label;
   faults_.FailFrom(1);
   EXPECT_FALSE(files_.FileExists(L"C:\\a"));
   EXPECT_FALSE(files_.FolderExists(L"C:\\"));
@@ -42,14 +44,31 @@ TEST_F(FaultsTest, EveryCallOfTheFileSystemCanBeMadeToFail) {
   EXPECT_FALSE(files_.CopyFileA(L"C:\\a", L"C:\\b", false));
   EXPECT_FALSE(files_.DeleteFileA(L"C:\\a"));
   EXPECT_FALSE(files_.CreateFolder(L"C:\\c"));
+  EXPECT_FALSE(files_.ListFolder(L"C:\\", entries));
+  EXPECT_TRUE(files_.DriveList().empty());
+  EXPECT_EQ(files_.GetDriveTypeA(L"c:"), kDriveTypeUnknown);
+  EXPECT_FALSE(files_.GetVolumeInformationA(L"C:", label));
   EXPECT_FALSE(file->Write("lost"));
   EXPECT_FALSE(file->Flush());
   EXPECT_FALSE(file->Close());
-  const std::vector<std::string> expected = {
-      "FileExists C:\\a",         "FolderExists C:\\",   "DriveExists C:",      "GetFileAttributesA C:\\a",
-      "SetFileAttributesA C:\\a", "ReadWholeFile C:\\a", "CreateNewFile C:\\b", "MoveFileExA C:\\a",
-      "CopyFileA C:\\a",          "DeleteFileA C:\\a",   "CreateFolder C:\\c",  "Write C:\\open",
-      "Flush C:\\open",           "Close C:\\open"};
+  const std::vector<std::string> expected = {"FileExists C:\\a",
+                                             "FolderExists C:\\",
+                                             "DriveExists C:",
+                                             "GetFileAttributesA C:\\a",
+                                             "SetFileAttributesA C:\\a",
+                                             "ReadWholeFile C:\\a",
+                                             "CreateNewFile C:\\b",
+                                             "MoveFileExA C:\\a",
+                                             "CopyFileA C:\\a",
+                                             "DeleteFileA C:\\a",
+                                             "CreateFolder C:\\c",
+                                             "ListFolder C:\\",
+                                             "DriveList ",
+                                             "GetDriveTypeA c:",
+                                             "GetVolumeInformationA C:",
+                                             "Write C:\\open",
+                                             "Flush C:\\open",
+                                             "Close C:\\open"};
   EXPECT_EQ(faults_.Record(), expected);
   EXPECT_EQ(faults_.Failed(), expected.size());
 

@@ -26,6 +26,41 @@ TEST_F(ShellTest, LaunchesAreKeptAlsoThoseThatFail) {
   EXPECT_EQ(shell_.Launches[2].result, 5);
 }
 
+TEST_F(ShellTest, ALinkIsOneCallThatCanFail) {
+  const ShellLink link{L"C:\\Windows", L"", kShowNormal};
+  ASSERT_TRUE(shell_.WriteShellLink(L"C:\\a.lnk", link));
+  machine_.uiFaults.FailFrom(1);
+  machine_.faults.FailFrom(1);
+  ShellLink read;
+  EXPECT_FALSE(shell_.WriteShellLink(L"C:\\b.lnk", link));
+  EXPECT_FALSE(shell_.ReadShellLink(L"C:\\a.lnk", read));
+  const std::vector<std::string> expected = {"WriteShellLink C:\\b.lnk", "ReadShellLink C:\\a.lnk"};
+  EXPECT_EQ(machine_.uiFaults.Record(), expected);
+  machine_.uiFaults.Clear();
+  EXPECT_TRUE(shell_.ReadShellLink(L"C:\\a.lnk", read));
+  EXPECT_EQ(machine_.faults.Calls(), 0U) << "its file isn't read by calls of the program's";
+  machine_.faults.Clear();
+  EXPECT_FALSE(machine_.files.FileExists(L"C:\\b.lnk"));
+}
+
+TEST_F(ShellTest, TheDiskHoldsForLinksToo) {
+  const ShellLink link{L"C:\\Windows", L"", kShowNormal};
+  ASSERT_TRUE(shell_.WriteShellLink(L"C:\\a.lnk", link) && shell_.WriteShellLink(L"C:\\b.lnk", link));
+  ASSERT_TRUE(machine_.files.SetFileAttributesA(L"C:\\a.lnk", kFileReadOnly));
+  machine_.faults.HeldOpen.insert(L"C:\\B.LNK");
+  machine_.faults.FoldersWithoutNewFiles.insert(L"C:\\");
+  ShellLink read;
+  EXPECT_FALSE(shell_.WriteShellLink(L"C:\\a.lnk", link));
+  EXPECT_FALSE(shell_.WriteShellLink(L"C:\\b.lnk", link));
+  EXPECT_FALSE(shell_.WriteShellLink(L"C:\\c.lnk", link));
+  EXPECT_TRUE(shell_.ReadShellLink(L"C:\\a.lnk", read));
+  EXPECT_FALSE(shell_.ReadShellLink(L"C:\\b.lnk", read));
+  machine_.faults.HeldOpen.clear();
+  EXPECT_TRUE(shell_.WriteShellLink(L"C:\\b.lnk", link)) << "writing into a file makes none";
+  machine_.faults.DiskRoom = 10;
+  EXPECT_FALSE(shell_.WriteShellLink(L"C:\\b.lnk", link));
+}
+
 TEST_F(ShellTest, TheTrayHoldsAnIconUntilItIsDeleted) {
   EXPECT_FALSE(shell_.Shell_NotifyIconA(kTrayModify, Icon(kAll, L"Tip")));
   EXPECT_FALSE(shell_.Shell_NotifyIconA(kTrayDelete, Icon(0, L"")));

@@ -28,7 +28,8 @@ inline constexpr std::uint32_t kKindShare = 0x40;
 inline constexpr std::uint32_t kUnicodeName = 4;  // a bit of the kind of a file's item
 inline constexpr std::size_t kRootIdAt = 4;
 inline constexpr std::string_view kMyComputer{"\xE0\x4F\xD0\x20\xEA\x3A\x69\x10\xA2\xD8\x08\0\x2B\x30\x30\x9D", 16};
-inline constexpr std::string_view kNetwork{"\x60\x2C\x8D\x20\xEA\x3A\x69\x10\xA2\xD7\x08\0\x2B\x30\x30\x9D", 16};
+inline constexpr std::string_view kNetwork{"\x0D\x1A\x2C\xF0\x21\xBE\x50\x43\x88\xB0\x73\x67\xFC\x96\xEF\x3C", 16};
+inline constexpr std::string_view kOldNetwork{"\x60\x2C\x8D\x20\xEA\x3A\x69\x10\xA2\xD7\x08\0\x2B\x30\x30\x9D", 16};
 inline constexpr std::size_t kDriveNameAt = 3;
 inline constexpr std::size_t kDriveItemBytes = 25;
 inline constexpr std::size_t kShareNameAt = 5;

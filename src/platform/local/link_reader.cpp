@@ -50,9 +50,13 @@ std::wstring TargetInInfo(std::string_view info, const SystemFacts& facts) {
 }
 
 std::wstring NameInItem(std::string_view item, const SystemFacts& facts) {
-  const std::string_view extension = From(item, item.size() < 2 ? 0 : NumberAt(item, item.size() - 2, 2));
-  if (NumberAt(extension, kExtensionMarkAt, 4) == kExtension) {
-    const std::wstring name = WideText(From(extension, NumberAt(extension, kLongNameOffsetAt, 2)));
+  const std::size_t extensionAt = item.size() < kFileNameAt ? 0 : NumberAt(item, item.size() - 2, 2);
+  const std::string_view extension = extensionAt > kFileNameAt ? From(item, extensionAt) : std::string_view();
+  // Not every system puts the mark and the name's place in; without them the name is at its first place.
+  const std::uint32_t mark = NumberAt(extension, kExtensionMarkAt, 4);
+  if (mark == kExtension || mark == 0) {
+    const std::wstring name =
+        WideText(From(extension, std::max(NumberAt(extension, kLongNameOffsetAt, 2), kLongNameAt)));
     if (!name.empty()) return name;
   }
   const std::string_view name = From(item, kFileNameAt);
@@ -64,7 +68,7 @@ std::optional<std::wstring> StepOf(std::string_view item, bool first, const Syst
   const std::uint32_t kind = NumberAt(item, kKindAt, 1) & kKindMask;
   if (kind == kKindRoot && first) {
     const std::string_view id = From(item, kRootIdAt).substr(0, kMyComputer.size());
-    return id == kMyComputer || id == kNetwork ? std::optional<std::wstring>(L"") : std::nullopt;
+    return id == kMyComputer || id == kNetwork || id == kOldNetwork ? std::optional<std::wstring>(L"") : std::nullopt;
   }
   if (first) return std::nullopt;
   if (kind == kKindDrive) return AnsiText(From(item, kDriveNameAt), facts);
@@ -86,10 +90,12 @@ std::wstring TargetInIdList(std::string_view list, const SystemFacts& facts) {
   return {};
 }
 
+// Some writers count the NUL.
 std::wstring TakeText(LinkCursor& file, bool wide, const SystemFacts& facts) {
   const std::size_t count = file.Number(2);
   const std::string_view bytes = file.Take(wide ? count * 2 : count);
-  return wide ? FromUtf16Bytes(bytes) : facts.FromAnsi(bytes);
+  const std::wstring text = wide ? FromUtf16Bytes(bytes) : facts.FromAnsi(bytes);
+  return text.substr(0, text.find(L'\0'));
 }
 
 }  // namespace
@@ -105,8 +111,9 @@ bool ReadLinkFile(std::string_view bytes, const SystemFacts& facts, ShellLink& l
   ShellLink read;
   if ((flags & kHasName) != 0) read.description = TakeText(file, (flags & kIsUnicode) != 0, facts);
   if (!file.IsWhole()) return false;
-  read.target = TargetInInfo(info, facts);
-  if (read.target.empty()) read.target = TargetInIdList(list, facts);
+  // The list has every character; the other text may have a question mark for one, which no path has.
+  read.target = TargetInIdList(list, facts);
+  if (!ParseWindowsPath(read.target)) read.target = TargetInInfo(info, facts);
   if (!ParseWindowsPath(read.target)) return false;
   const auto show = static_cast<std::int32_t>(NumberAt(header, kShowCommandAt, 4));
   read.showCommand = show == kShowMaximized || show == kShowMinimized ? show : kShowNormal;

@@ -5,6 +5,7 @@
 #include <shlguid.h>
 #include <shlobj.h>
 
+#include <memory>
 #include <optional>
 
 #include "platform/win32/com_object.h"
@@ -34,12 +35,25 @@ std::wstring Expanded(const std::wstring& text) {
   return expanded;
 }
 
+std::wstring UpToNul(const std::wstring& text) { return text.substr(0, text.find(L'\0')); }
+
 std::wstring PathIn(const LinkObject& object, DWORD form) {
   std::wstring path(kLongestTarget, L'\0');
-  if (FAILED(object.link->GetPath(path.data(), kLongestTarget, nullptr, form))) return {};
-  path.resize(path.find(L'\0') == std::wstring::npos ? 0 : path.find(L'\0'));
-  return path;
+  return FAILED(object.link->GetPath(path.data(), kLongestTarget, nullptr, form)) ? std::wstring() : UpToNul(path);
 }
+
+// The list of items that lead from the desktop to the target has characters that the link's other texts may lack.
+std::wstring PathOfItems(const LinkObject& object) {
+  PIDLIST_ABSOLUTE items = nullptr;
+  if (object.link->GetIDList(&items) != S_OK || items == nullptr) return {};
+  const std::unique_ptr<ITEMIDLIST, void (*)(void*)> owner(items, ::CoTaskMemFree);
+  std::wstring path(kLongestTarget, L'\0');
+  const bool isPath = ::SHGetPathFromIDListEx(items, path.data(), kLongestTarget, GPFIDL_DEFAULT) != FALSE;
+  return isPath ? UpToNul(path) : std::wstring();
+}
+
+// No file's name has one: it stands where a character was lost.
+bool LacksCharacters(const std::wstring& path) { return path.find(L'?') != std::wstring::npos; }
 
 }  // namespace
 
@@ -52,6 +66,7 @@ bool LoadLink(const std::wstring& path, ShellLink& link) {
   // As it was written first: the other form may be a place where the system believes the target to be now.
   std::wstring target = Expanded(PathIn(object, SLGP_RAWPATH));
   if (target.empty()) target = PathIn(object, 0);
+  if (LacksCharacters(target)) target = PathOfItems(object);
   if (target.empty()) return false;
   wchar_t description[INFOTIPSIZE] = {};
   int show = kShowNormal;
