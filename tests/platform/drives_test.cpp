@@ -92,6 +92,7 @@ TEST_F(LocalDrivesTest, EntriesComeInTheOrderOfTheDisk) {
   std::vector<FolderEntry> entries;
   ASSERT_TRUE(files_.ListFolder(L"e:", entries));
   std::vector<std::wstring> names;
+  names.reserve(entries.size());
   for (const FolderEntry& entry : entries) names.push_back(entry.name);
   EXPECT_EQ(names, std::vector<std::wstring>({L"Alpha", L"alpha 2", L"beta", L"GAMMA", L"_x", L"\u00E9"}));
 }

@@ -43,6 +43,16 @@ TEST_F(ShellTest, ALinkIsOneCallThatCanFail) {
   EXPECT_FALSE(machine_.files.FileExists(L"C:\\b.lnk"));
 }
 
+TEST_F(ShellTest, ALinkIsReadWithoutALookAtItsTarget) {
+  ASSERT_TRUE(machine_.drives.Add(L'D'));
+  ASSERT_TRUE(shell_.WriteShellLink(L"C:\\a.lnk", {L"D:\\Folder", L"", kShowNormal}));
+  const std::size_t before = machine_.drives.MediumTouches(L'D');
+  ShellLink read;
+  EXPECT_TRUE(shell_.ReadShellLink(L"C:\\a.lnk", read));
+  EXPECT_EQ(read.target, L"D:\\Folder");
+  EXPECT_EQ(machine_.drives.MediumTouches(L'D'), before);
+}
+
 TEST_F(ShellTest, TheDiskHoldsForLinksToo) {
   const ShellLink link{L"C:\\Windows", L"", kShowNormal};
   ASSERT_TRUE(shell_.WriteShellLink(L"C:\\a.lnk", link) && shell_.WriteShellLink(L"C:\\b.lnk", link));

@@ -55,8 +55,7 @@ std::wstring NameInItem(std::string_view item, const SystemFacts& facts) {
   // Not every system puts the mark and the name's place in; without them the name is at its first place.
   const std::uint32_t mark = NumberAt(extension, kExtensionMarkAt, 4);
   if (mark == kExtension || mark == 0) {
-    const std::wstring name =
-        WideText(From(extension, std::max(NumberAt(extension, kLongNameOffsetAt, 2), kLongNameAt)));
+    std::wstring name = WideText(From(extension, std::max(NumberAt(extension, kLongNameOffsetAt, 2), kLongNameAt)));
     if (!name.empty()) return name;
   }
   const std::string_view name = From(item, kFileNameAt);

@@ -31,19 +31,24 @@ class Search {
   HANDLE handle_;
 };
 
+bool IsFolder(const std::wstring& name) {
+  const DWORD attributes = ::GetFileAttributesW(name.c_str());
+  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+}
+
 bool IsItselfOrParent(const std::wstring& name) { return name == L"." || name == L".."; }
 
 }  // namespace
 
 bool ReadFolder(const std::wstring& path, std::vector<FolderEntry>& entries) {
   entries.clear();
-  std::optional<std::wstring> pattern = SystemPath(path);
-  if (!pattern) return false;
-  pattern->append(pattern->ends_with(L'\\') || pattern->ends_with(L'/') ? L"*" : L"\\*");
+  const std::optional<std::wstring> name = SystemPath(path);
+  if (!name) return false;
+  const bool isClosed = name->ends_with(L'\\') || name->ends_with(L'/');
   const QuietDrives quiet;
-  Search search(*pattern);
-  // Only a root can be without any entry.
-  if (!search.IsOpen()) return ::GetLastError() == ERROR_FILE_NOT_FOUND;
+  Search search(*name + (isClosed ? L"*" : L"\\*"));
+  // Only a root can be without any entry, itself included.
+  if (!search.IsOpen()) return ::GetLastError() == ERROR_FILE_NOT_FOUND && IsFolder(*name);
   do {
     FolderEntry entry = search.Entry();
     if (!IsItselfOrParent(entry.name)) entries.push_back(std::move(entry));
