@@ -8,12 +8,14 @@
 #include "core/services.h"
 #include "menu/menu_actions.h"
 #include "menu/menu_setup.h"
+#include "tools/progress.h"
 
 namespace burrowmark {
 namespace {
 
 constexpr std::size_t kHotKeys = 7;  // ADVC
 constexpr wchar_t kMainTitle[] = L"Burrowmark";
+constexpr wchar_t kStartTitle[] = L"Starting Burrowmark...";
 
 // True if the drive or the share that a path stands on is there.
 bool IsPlaceThere(FileSystem& files, const std::wstring& path) {
@@ -59,7 +61,9 @@ void frmMain::LoadTree() {
     if (registers) SaveConfigFileName(app_, beside);
     ReadTree();
   } else {
+    ShowProgress(app_, app_.MainWindow, kStartTitle, L"Building recent folders list");
     ResetToDefaults(app_);
+    HideProgress(app_);
   }
   if (FileExists(files, app_.ConfigFile)) return;
   app_.MainStoreFromConfigFile = ConfigFileWrite(app_, *app_.MainStore, {}, false);

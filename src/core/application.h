@@ -14,6 +14,8 @@
 
 namespace burrowmark {
 
+class frmPause;
+
 // Windows of which there is never more than one; the order is that of WindowOpenFlags.
 enum class SingleWindow {
   kOptions,
@@ -89,6 +91,8 @@ struct Application {
   std::wstring CopyAddressCommand;  // and the one that puts an address on the clipboard
   std::wstring HelpFile;
 
+  std::shared_ptr<frmPause> Progress;  // the one progress window, made when it is first needed
+
   WindowHandle MainWindow = 0;  // the hidden one behind the tray icon
   UpwardCalls Calls;
 
@@ -103,6 +107,7 @@ struct Application {
   bool ExitRequested = false;
   bool WalkRunning = false;  // several shortcuts are being opened one after the other
   bool MenuShowing = false;  // the popup menu is up
+  bool AlwaysOnTop = false;  // the editor's window stays above others, and so do those that come up meanwhile
   OsDetection Os;
   std::array<bool, static_cast<std::size_t>(SingleWindow::kCount)> WindowOpenFlags{};
 

@@ -7,6 +7,7 @@
 
 #include "platform/drawing.h"
 #include "platform/menus.h"
+#include "platform/ui_peers.h"
 #include "platform/window_handle.h"
 
 namespace burrowmark {
@@ -102,6 +103,11 @@ class WindowSystem {
   virtual void DoEvents() = 0;
   // Runs messages until the main window and all others are gone.
   virtual void RunLoop() = 0;
+  // Runs messages for a window that nothing of the program goes on without, as long as `open` says so. Returns earlier
+  // if the whole program shall end.
+  virtual void RunModal(WindowHandle window, const std::function<bool()>& open) = 0;
+  // What forms and their controls are shown with.
+  virtual Peers& peers() = 0;
   // Runs `work` from the loop, after the message that is being handled.
   virtual void Post(std::function<void()> work) = 0;
   // Runs `work` once after that many milliseconds.

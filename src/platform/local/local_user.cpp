@@ -18,6 +18,10 @@ std::uint32_t DownMessage(LocalUser::Button button) { return UpMessage(button) -
 
 }  // namespace
 
+LocalUser::LocalUser(LocalWindows& windows, LocalShell& shell) : windows_(windows), shell_(shell) {
+  windows_.Person = [this](ShownWindow& window, const std::function<bool()>& open) { return MeetWindow(window, open); };
+}
+
 void LocalUser::LetItRun() {
   if (!windows_.IsBusy()) windows_.DoEvents();
 }
@@ -73,6 +77,9 @@ void LocalUser::EndSession() {
 std::string LocalUser::Complaints() const {
   std::string all = complaints_;
   if (!menus_.empty()) all += "menus that never came: " + std::to_string(menus_.size()) + "\n";
+  for (const WindowScript& window : windowScripts_) {
+    all += "a window that never came: " + ToUtf8(window.caption) + "\n";
+  }
   for (const BoxAnswer& box : boxes_) all += "a box that never came: " + ToUtf8(box.part) + "\n";
   return all;
 }
@@ -82,6 +89,7 @@ std::string LocalUser::TakeComplaints() {
   complaints_.clear();
   menus_.clear();
   boxes_.clear();
+  windowScripts_.clear();
   return all;
 }
 
@@ -104,6 +112,29 @@ BoxAnswer LocalUser::TakeBox(const std::wstring& text) {
   BoxAnswer answer = std::move(boxes_.front());
   boxes_.pop_front();
   return answer;
+}
+
+ShownWindow& LocalUser::Window(const std::wstring& caption) const {
+  const std::shared_ptr<ShownWindow> window = windows_.Desktop.WithCaption(caption);
+  if (!window) throw std::logic_error("there is no window " + ToUtf8(caption));
+  return *window;  // the desktop keeps it
+}
+
+bool LocalUser::MeetWindow(ShownWindow& window, const std::function<bool()>& open) {
+  if (windowScripts_.empty() && windows_.Input) return false;
+  if (windowScripts_.empty() || windowScripts_.front().caption != window.caption) {
+    Complain("a window that nobody expected: " + ToUtf8(window.caption));
+  }
+  const WindowScript next = std::move(windowScripts_.front());
+  windowScripts_.pop_front();
+  try {
+    next.script(window);
+  } catch (const std::exception& failure) {
+    Complain("in the window " + ToUtf8(next.caption) + ": " + failure.what());
+  }
+  windows_.DoEvents();
+  if (open()) Complain("a window that is still open: " + ToUtf8(next.caption));
+  return true;
 }
 
 }  // namespace burrowmark

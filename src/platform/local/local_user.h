@@ -25,7 +25,9 @@ struct BoxAnswer {
 class LocalUser {
  public:
   // Both must outlive this object.
-  LocalUser(LocalWindows& windows, LocalShell& shell) : windows_(windows), shell_(shell) {}
+  LocalUser(LocalWindows& windows, LocalShell& shell);
+  LocalUser(const LocalUser&) = delete;
+  LocalUser& operator=(const LocalUser&) = delete;
 
   enum class Button : std::uint8_t { kLeft, kRight };
   void MoveOverTray();
@@ -47,6 +49,13 @@ class LocalUser {
     boxes_.push_back({part, answer, std::move(meanwhile)});
   }
 
+  // What is done in the next modal window, which must have this caption. It must be gone after that. In order.
+  void NextWindow(const std::wstring& caption, std::function<void(ShownWindow&)> script) {
+    windowScripts_.push_back({caption, std::move(script)});
+  }
+  // The topmost window on the screen with that caption.
+  ShownWindow& Window(const std::wstring& caption) const;
+
   // Everything that wasn't as expected, and everything that was expected and didn't come; empty if all is well.
   std::string Complaints() const;
   // The same, and they are forgotten.
@@ -61,11 +70,18 @@ class LocalUser {
   void SendTray(const std::vector<std::uint32_t>& mouseMessages);
   void Send(std::uint32_t message, std::int64_t wParam);
   void LetItRun();
+  bool MeetWindow(ShownWindow& window, const std::function<bool()>& open);
+
+  struct WindowScript {
+    std::wstring caption;
+    std::function<void(ShownWindow&)> script;
+  };
 
   LocalWindows& windows_;
   LocalShell& shell_;
   std::deque<MenuActions> menus_;
   std::deque<BoxAnswer> boxes_;
+  std::deque<WindowScript> windowScripts_;
   std::string complaints_;
 };
 

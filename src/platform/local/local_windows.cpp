@@ -23,6 +23,19 @@ class Inside {
   int& depth_;
 };
 
+// The program waits for somebody at the machine while it lives.
+class Idle {
+ public:
+  explicit Idle(int& depth) : depth_(depth), before_(std::exchange(depth, 0)) {}
+  ~Idle() { depth_ = before_; }
+  Idle(const Idle&) = delete;
+  Idle& operator=(const Idle&) = delete;
+
+ private:
+  int& depth_;
+  int before_;
+};
+
 // By value: what is called may take the original away.
 template <typename... Arguments>
 void Call(std::function<void(Arguments...)> handler, Arguments... arguments) {
@@ -41,7 +54,7 @@ WindowMessage MessageTo(WindowHandle window, std::uint32_t number, std::int64_t 
 }
 
 LocalWindows::LocalWindows(MenuTree& menus, std::shared_ptr<LocalSession> session, Faults& faults)
-    : menus_(menus), session_(std::move(session)), faults_(faults) {}
+    : menus_(menus), session_(std::move(session)), faults_(faults), peers_(*this, *session_) {}
 
 LocalWindows::~LocalWindows() { session_->Leave(*this); }
 
@@ -63,6 +76,7 @@ WindowHandle LocalWindows::CreateMainWindow(const std::wstring& title, MainWindo
 void LocalWindows::DestroyMainWindow(WindowHandle window) {
   if (window == 0 || window != Main() || main_->going) return;
   main_->going = true;
+  Desktop.LoseOwned(window);
   Call(main_->events->Unload);
   menus_.Destroy(main_->bar);
   session_->RemoveWindow(window);
@@ -171,8 +185,20 @@ void LocalWindows::Advance(std::int64_t milliseconds) {
 }
 
 void LocalWindows::RunLoop() {
+  RunWhile([this] { return main_.has_value(); });
+}
+
+void LocalWindows::RunModal(WindowHandle window, const std::function<bool()>& open) {
+  const Idle idle(depth_);
+  DoEvents();
+  const std::shared_ptr<ShownWindow> shown = Desktop.Find(window);
+  if (!open() || !shown || (Person && Person(*shown, open))) return;
+  RunWhile(open);
+}
+
+void LocalWindows::RunWhile(const std::function<bool()>& going) {
   const std::int64_t start = now_;
-  while (main_) {
+  while (going()) {
     if (RunOne()) continue;
     if (Input && Input()) continue;
     if (later_.empty()) throw std::logic_error("the loop waits and nothing can ever come");

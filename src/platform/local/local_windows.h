@@ -10,6 +10,8 @@
 #include <string>
 
 #include "platform/local/faults.h"
+#include "platform/local/local_desktop.h"
+#include "platform/local/local_peers.h"
 #include "platform/local/local_session.h"
 #include "platform/local/menu_tree.h"
 #include "platform/window_system.h"
@@ -41,6 +43,12 @@ class LocalWindows final : public WindowSystem {
   // come any more.
   std::function<bool()> Input;
 
+  LocalDesktop Desktop;
+  // Meets a modal window as long as it is open. False: nobody was told to, and Input goes on.
+  std::function<bool(ShownWindow& window, const std::function<bool()>& open)> Person;
+  // Whether there is such a file for an animation to play.
+  std::function<bool(const std::wstring& path)> HasFile;
+
   // Lets time pass, with all that falls due in it.
   void Advance(std::int64_t milliseconds);
   // 0 without a main window.
@@ -69,6 +77,8 @@ class LocalWindows final : public WindowSystem {
   bool ClaimInstance(const std::wstring& name) override { return session_->Claim(name, *this); }
   void DoEvents() override;
   void RunLoop() override;
+  void RunModal(WindowHandle window, const std::function<bool()>& open) override;
+  Peers& peers() override { return peers_; }
   void Post(std::function<void()> work) override;
   void PostLater(std::int32_t milliseconds, std::function<void()> work) override;
   void Beep() override { ++beeps_; }
@@ -86,6 +96,7 @@ class LocalWindows final : public WindowSystem {
   std::int64_t Deliver(LocalWindows* process, WindowMessage& message);
   std::int64_t OwnProcedure(const WindowMessage& message);
   bool RunOne();
+  void RunWhile(const std::function<bool()>& going);
   void RunNextLater();
 
   MenuTree& menus_;
@@ -93,6 +104,7 @@ class LocalWindows final : public WindowSystem {
   Faults& faults_;
   std::optional<MainWindow> main_;
   std::wstring title_;
+  LocalPeers peers_;
   std::deque<std::function<void()>> queue_;
   std::multimap<std::int64_t, std::function<void()>> later_;  // by the time when it falls due
   std::int64_t now_ = 0;

@@ -50,6 +50,7 @@ LocalMachine::LocalMachine(fs::path folder, std::shared_ptr<LocalSession> sessio
       menus(menuTree_, windows, drawing, facts, user, uiFaults),
       dialogs(user, windows),
       keyboard(uiFaults) {
+  windows.HasFile = [this](const std::wstring& path) { return HasFile(path); };
   if (fs::exists(folder_ / "drives")) return;
   fs::create_directories(folder_);
   Furnish();
@@ -97,6 +98,11 @@ std::string LocalMachine::BytesOf(const std::wstring& path) const {
 fs::path LocalMachine::RealPath(const std::wstring& path) const {
   const std::optional<WindowsPath> name = ParseWindowsPath(path);
   return name ? drives.Place(*name).value_or(fs::path()) : fs::path();
+}
+
+bool LocalMachine::HasFile(const std::wstring& path) const {
+  const fs::path real = RealPath(path);
+  return !real.empty() && fs::is_regular_file(real);
 }
 
 }  // namespace burrowmark

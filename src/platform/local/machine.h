@@ -54,6 +54,7 @@ class LocalMachine {
  private:
   LocalMachine(std::filesystem::path folder, std::shared_ptr<LocalSession> session);
   void Furnish();
+  bool HasFile(const std::wstring& path) const;
 
   std::filesystem::path folder_;
   std::shared_ptr<LocalSession> session_;

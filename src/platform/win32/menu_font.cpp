@@ -1,11 +1,8 @@
 #include "platform/win32/menu_font.h"
 
+#include "platform/win32/non_client_metrics.h"
+
 namespace burrowmark {
-namespace {
-
-using ParametersForDpiCall = BOOL(WINAPI*)(UINT, UINT, void*, UINT, UINT);
-
-}  // namespace
 
 MenuFont::~MenuFont() {
   if (fontBefore_ != nullptr) ::SelectObject(context_, fontBefore_);
@@ -35,18 +32,6 @@ void MenuFont::Forget() {
   ++changes_;
 }
 
-LOGFONTW MenuFont::Description(std::int32_t dpi) const {
-  NONCLIENTMETRICSW metrics = {};
-  metrics.cbSize = sizeof(metrics);
-  const auto forDpi = user_.Find<ParametersForDpiCall>("SystemParametersInfoForDpi");
-  if (forDpi != nullptr &&
-      forDpi(SPI_GETNONCLIENTMETRICS, sizeof(metrics), &metrics, 0, static_cast<UINT>(dpi)) != FALSE) {
-    return metrics.lfMenuFont;
-  }
-  ::SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof(metrics), &metrics, 0);
-  const int systemDpi = context_ == nullptr ? 0 : ::GetDeviceCaps(context_, LOGPIXELSX);
-  if (systemDpi > 0) metrics.lfMenuFont.lfHeight = ::MulDiv(metrics.lfMenuFont.lfHeight, dpi, systemDpi);
-  return metrics.lfMenuFont;
-}
+LOGFONTW MenuFont::Description(std::int32_t dpi) const { return NonClientMetrics(user_, dpi).lfMenuFont; }
 
 }  // namespace burrowmark

@@ -8,14 +8,6 @@ namespace {
 using GetDpiForMonitorCall = HRESULT(WINAPI*)(HMONITOR, int, UINT*, UINT*);
 constexpr int kEffectiveDpi = 0;
 
-std::int32_t OfAllScreens() {
-  const HDC screen = ::GetDC(nullptr);
-  if (screen == nullptr) return kDesignDpi;
-  const int dpi = ::GetDeviceCaps(screen, LOGPIXELSX);
-  ::ReleaseDC(nullptr, screen);
-  return dpi > 0 ? dpi : kDesignDpi;
-}
-
 }  // namespace
 
 std::int32_t ScreenDpi::AtMouse() const {
@@ -33,7 +25,15 @@ std::int32_t ScreenDpi::OfMonitor(HMONITOR monitor) const {
   UINT x = 0;
   UINT y = 0;
   if (call != nullptr && SUCCEEDED(call(monitor, kEffectiveDpi, &x, &y)) && x > 0) return static_cast<std::int32_t>(x);
-  return OfAllScreens();
+  return OfSystem();
+}
+
+std::int32_t ScreenDpi::OfSystem() {
+  const HDC screen = ::GetDC(nullptr);
+  if (screen == nullptr) return kDesignDpi;
+  const int dpi = ::GetDeviceCaps(screen, LOGPIXELSX);
+  ::ReleaseDC(nullptr, screen);
+  return dpi > 0 ? dpi : kDesignDpi;
 }
 
 }  // namespace burrowmark

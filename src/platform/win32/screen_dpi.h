@@ -14,10 +14,11 @@ class ScreenDpi {
  public:
   std::int32_t AtMouse() const;
   std::int32_t OfWindow(HWND window) const;
+  std::int32_t OfMonitor(HMONITOR monitor) const;
+  // The one scale of the system.
+  static std::int32_t OfSystem();
 
  private:
-  std::int32_t OfMonitor(HMONITOR monitor) const;
-
   SystemLibrary shcore_{L"shcore.dll"};
 };
 

@@ -10,11 +10,6 @@ namespace {
 constexpr UINT kLongestWait = 5000;  // milliseconds for an answer of another process
 constexpr std::uint32_t kVersionWithCues = 5;
 
-void Dispatch(const MSG& message) {
-  ::TranslateMessage(&message);
-  ::DispatchMessageW(&message);
-}
-
 std::int64_t SendAndWait(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
   DWORD_PTR result = 0;
   const LRESULT answered =
@@ -46,7 +41,8 @@ class Win32Windows::Claim {
 Win32Windows::Win32Windows(MenuFont& font, const ScreenDpi& dpi, std::uint32_t majorVersion)
     : font_(font),
       dpi_(dpi),
-      selectedState_(majorVersion >= kVersionWithCues ? ODS_SELECTED | ODS_NOACCEL : ODS_SELECTED) {}
+      selectedState_(majorVersion >= kVersionWithCues ? ODS_SELECTED | ODS_NOACCEL : ODS_SELECTED),
+      peers_(dpi) {}
 
 Win32Windows::~Win32Windows() = default;
 
@@ -101,6 +97,12 @@ bool Win32Windows::ClaimInstance(const std::wstring& name) {
   return true;
 }
 
+void Win32Windows::Dispatch(MSG& message) {
+  if (peers_.Translate(message)) return;
+  ::TranslateMessage(&message);
+  ::DispatchMessageW(&message);
+}
+
 void Win32Windows::DoEvents() {
   MSG message = {};
   while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != FALSE) {
@@ -115,6 +117,17 @@ void Win32Windows::DoEvents() {
 void Win32Windows::RunLoop() {
   MSG message = {};
   while (AnyWindow() && ::GetMessageW(&message, nullptr, 0, 0) > 0) Dispatch(message);
+}
+
+void Win32Windows::RunModal(WindowHandle, const std::function<bool()>& open) {
+  MSG message = {};
+  while (open()) {
+    if (::GetMessageW(&message, nullptr, 0, 0) <= 0) {
+      ::PostQuitMessage(static_cast<int>(message.wParam));  // it is meant for the program's own loop
+      return;
+    }
+    Dispatch(message);
+  }
 }
 
 void Win32Windows::Post(std::function<void()> work) { work_.Post(std::move(work)); }

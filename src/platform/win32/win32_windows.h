@@ -7,6 +7,7 @@
 #include <memory>
 
 #include "platform/win32/main_window.h"
+#include "platform/win32/win32_peers.h"
 #include "platform/win32/work_queue.h"
 #include "platform/window_system.h"
 
@@ -36,6 +37,8 @@ class Win32Windows final : public WindowSystem {
 
   void DoEvents() override;
   void RunLoop() override;
+  void RunModal(WindowHandle window, const std::function<bool()>& open) override;
+  Peers& peers() override { return peers_; }
   void Post(std::function<void()> work) override;
   void PostLater(std::int32_t milliseconds, std::function<void()> work) override;
   void Beep() override;
@@ -43,13 +46,15 @@ class Win32Windows final : public WindowSystem {
  private:
   class Claim;
 
+  void Dispatch(MSG& message);
   bool IsMainWindow(WindowHandle window) const;
   bool AnyWindow() const { return main_ != nullptr && main_->Handle() != nullptr; }
 
   MenuFont& font_;
   const ScreenDpi& dpi_;
   UINT selectedState_;
-  WorkQueue work_;
+  Win32Peers peers_;
+  WorkQueue work_;  // may hold windows of forms that wait for their end
   std::unique_ptr<MainWindow> main_;
   std::map<std::wstring, std::unique_ptr<Claim>> claims_;
 };

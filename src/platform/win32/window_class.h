@@ -9,11 +9,14 @@ namespace burrowmark {
 // which then takes it away.
 class WindowClass {
  public:
-  WindowClass(const wchar_t* name, WNDPROC procedure) : name_(name) {
+  WindowClass(const wchar_t* name, WNDPROC procedure, HBRUSH background = nullptr, HCURSOR cursor = nullptr)
+      : name_(name) {
     WNDCLASSEXW description = {};
     description.cbSize = sizeof(description);
     description.lpfnWndProc = procedure;
     description.hInstance = Module();
+    description.hbrBackground = background;
+    description.hCursor = cursor;
     description.lpszClassName = name;
     registered_ = ::RegisterClassExW(&description) != 0;
   }

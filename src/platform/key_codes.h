@@ -1,0 +1,17 @@
+// Keys by their code, and what is held down with them (winuser.h).
+#pragma once
+
+#include <cstdint>
+
+namespace burrowmark {
+
+inline constexpr std::int32_t kKeyCodeTab = 9;
+inline constexpr std::int32_t kKeyCodeReturn = 13;
+inline constexpr std::int32_t kKeyCodeEscape = 27;
+inline constexpr std::int32_t kKeyCodeSpace = 32;
+
+inline constexpr std::int32_t kShiftMask = 1;
+inline constexpr std::int32_t kCtrlMask = 2;
+inline constexpr std::int32_t kAltMask = 4;
+
+}  // namespace burrowmark

@@ -1,0 +1,227 @@
+#include "platform/local/local_peers.h"
+
+#include <algorithm>
+#include <stdexcept>
+
+#include "platform/local/local_windows.h"
+
+namespace burrowmark {
+namespace {
+
+// What a window of a system's own would be: it shows what its control's state says.
+template <typename KindPeer, typename State>
+class LocalControl : public KindPeer {
+ public:
+  LocalControl(LocalWindows& windows, LocalSession& session, WindowHandle parent, ShownKind kind, State& state)
+      : windows_(windows), session_(session), form_(windows.Desktop.Find(parent)), state_(&state) {
+    if (!form_) throw std::runtime_error("a control without a form's window");
+    shown_->kind = kind;
+    shown_->window = session_.AddWindow(windows);
+    shown_->enabled = state.Enabled();
+    shown_->visible = state.Visible();
+    shown_->tabStop = state.TabStop();
+    shown_->UserFocus = [&state](bool has) { state.UserFocus(has); };
+    PlaceChanged();
+    form_->controls.push_back(shown_);
+  }
+  ~LocalControl() override {
+    Retire();
+    session_.RemoveWindow(shown_->window);
+    std::erase(form_->controls, shown_);
+  }
+  LocalControl(const LocalControl&) = delete;
+  LocalControl& operator=(const LocalControl&) = delete;
+
+  void Retire() final {
+    shown_->UserFocus = nullptr;
+    shown_->UserClick = nullptr;
+  }
+  WindowHandle Window() const final { return shown_->window; }
+  void PlaceChanged() final { shown_->place = ToPixels(state_->Place(), form_->dpi); }
+  void VisibleChanged() final {
+    shown_->visible = state_->Visible();
+    LeaveIfUnusable();
+  }
+  void EnabledChanged() final {
+    shown_->enabled = state_->Enabled();
+    LeaveIfUnusable();
+  }
+  void TabStopChanged() final { shown_->tabStop = state_->TabStop(); }
+  void ScaleChanged() final { PlaceChanged(); }
+  void TakeFocus() final {
+    if (windows_.Desktop.Active() == form_) form_->SetFocus(shown_.get());
+  }
+
+ protected:
+  ShownControl& Shown() { return *shown_; }
+  State& Control() const { return *state_; }
+  LocalWindows& Windows() const { return windows_; }
+
+ private:
+  void LeaveIfUnusable() {
+    if (shown_->focused && !(shown_->visible && shown_->enabled)) form_->SetFocus(nullptr);
+  }
+
+  LocalWindows& windows_;
+  LocalSession& session_;
+  std::shared_ptr<ShownWindow> form_;
+  State* state_;
+  std::shared_ptr<ShownControl> shown_ = std::make_shared<ShownControl>();
+};
+
+class LocalLabel final : public LocalControl<LabelPeer, LabelState> {
+ public:
+  LocalLabel(LocalWindows& windows, LocalSession& session, WindowHandle parent, LabelState& label)
+      : LocalControl(windows, session, parent, ShownKind::kLabel, label) {
+    ShowAll();
+  }
+  void CaptionChanged() override { ShowAll(); }
+  void StyleChanged() override { ShowAll(); }
+
+ private:
+  void ShowAll() {
+    Shown().text = Control().Caption();
+    Shown().alignment = Control().TextAlignment();
+    Shown().useMnemonic = Control().UseMnemonic();
+  }
+};
+
+class LocalButton final : public LocalControl<ButtonPeer, ButtonState> {
+ public:
+  LocalButton(LocalWindows& windows, LocalSession& session, WindowHandle parent, ButtonState& button)
+      : LocalControl(windows, session, parent, ShownKind::kButton, button) {
+    Shown().UserClick = [&button] { button.UserClick(); };
+    ShowAll();
+  }
+  void CaptionChanged() override { ShowAll(); }
+  void DefaultChanged() override { ShowAll(); }
+
+ private:
+  void ShowAll() {
+    Shown().text = Control().Caption();
+    Shown().isDefault = Control().ShowsDefault();
+  }
+};
+
+class LocalAnimation final : public LocalControl<AnimationPeer, AnimationState> {
+ public:
+  LocalAnimation(LocalWindows& windows, LocalSession& session, WindowHandle parent, AnimationState& animation)
+      : LocalControl(windows, session, parent, ShownKind::kAnimation, animation) {
+    ShowAll();
+  }
+  void FileChanged() override { ShowAll(); }
+  void PlayingChanged() override { ShowAll(); }
+
+ private:
+  void ShowAll() {
+    const bool there = Windows().HasFile && Windows().HasFile(Control().File());
+    Shown().text = there ? Control().File() : L"";
+    Shown().playing = there && Control().Playing();
+  }
+};
+
+class LocalForm final : public FormPeer {
+ public:
+  LocalForm(LocalWindows& windows, LocalSession& session, FormState& form)
+      : windows_(windows),
+        session_(session),
+        form_(form),
+        shown_(std::make_shared<ShownWindow>(windows, form)),
+        handle_(session.AddWindow(windows)) {
+    shown_->window = handle_;
+    shown_->owner = form.OwnerWindow();
+    shown_->dpi = windows.Dpi;
+    shown_->border = form.Border();
+    shown_->caption = form.Caption();
+    shown_->enabled = form.TakesInput();
+    shown_->topMost = form.TopMost();
+    shown_->pointer = form.MousePointer();
+    shown_->icon = form.Icon();
+    windows_.Desktop.Add(shown_);
+    PlaceChanged();
+  }
+  ~LocalForm() override {
+    Retire();
+    windows_.Desktop.LoseOwned(handle_);
+    session_.RemoveWindow(handle_);
+  }
+  LocalForm(const LocalForm&) = delete;
+  LocalForm& operator=(const LocalForm&) = delete;
+
+  void Retire() override {
+    if (!shown_->IsOpen()) return;
+    BlockOwner(false);
+    shown_->Retire();
+  }
+  WindowHandle Window() const override { return handle_; }
+  void CaptionChanged() override { shown_->caption = form_.Caption(); }
+  void PlaceChanged() override {
+    const std::shared_ptr<ShownWindow> owner = windows_.Desktop.Find(form_.OwnerWindow());
+    const bool over = owner && owner->visible && owner->state != FormWindowState::kMinimized;
+    shown_->Put(over ? owner->place : LocalDesktop::kScreen);
+    shown_->Report();
+  }
+  void OwnerChanged() override {
+    shown_->owner = form_.OwnerWindow();
+    if (form_.StartUp() == StartUpPosition::kCenterOwner && !form_.Visible()) PlaceChanged();
+  }
+  void VisibleChanged() override {
+    shown_->visible = form_.Visible();
+    if (!shown_->visible) return windows_.Desktop.Deactivate(*shown_);
+    WindowStateChanged();
+    BringToFront();
+  }
+  void TakesInputChanged() override {
+    shown_->enabled = form_.TakesInput();
+    if (!shown_->enabled) windows_.Desktop.Deactivate(*shown_);
+  }
+  void WindowStateChanged() override {
+    if (!shown_->visible) return;
+    shown_->TakeState(form_.WindowState());
+    shown_->Report();
+  }
+  void TopMostChanged() override { shown_->topMost = form_.TopMost(); }
+  void MousePointerChanged() override { shown_->pointer = form_.MousePointer(); }
+  void IconChanged() override { shown_->icon = form_.Icon(); }
+  void BringToFront() override {
+    windows_.Desktop.Raise(handle_);
+    if (shown_->IsOpen() && shown_->visible && shown_->enabled) windows_.Desktop.Activate(shown_);
+  }
+  void BlockOwner(bool block) override {
+    if (!block) {
+      windows_.Desktop.Unblock(blocked_);
+      blocked_ = 0;
+    } else if (windows_.Desktop.Block(form_.OwnerWindow())) {
+      blocked_ = form_.OwnerWindow();
+    }
+  }
+  std::int32_t Dpi() const override { return shown_->dpi; }
+
+ private:
+  LocalWindows& windows_;
+  LocalSession& session_;
+  FormState& form_;
+  std::shared_ptr<ShownWindow> shown_;
+  WindowHandle handle_;
+  WindowHandle blocked_ = 0;
+};
+
+}  // namespace
+
+std::unique_ptr<FormPeer> LocalPeers::MakePeer(FormState& form) {
+  return std::make_unique<LocalForm>(windows_, session_, form);
+}
+
+std::unique_ptr<LabelPeer> LocalPeers::MakePeer(WindowHandle parent, LabelState& label) {
+  return std::make_unique<LocalLabel>(windows_, session_, parent, label);
+}
+
+std::unique_ptr<ButtonPeer> LocalPeers::MakePeer(WindowHandle parent, ButtonState& button) {
+  return std::make_unique<LocalButton>(windows_, session_, parent, button);
+}
+
+std::unique_ptr<AnimationPeer> LocalPeers::MakePeer(WindowHandle parent, AnimationState& animation) {
+  return std::make_unique<LocalAnimation>(windows_, session_, parent, animation);
+}
+
+}  // namespace burrowmark

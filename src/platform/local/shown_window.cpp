@@ -1,0 +1,298 @@
+#include "platform/local/shown_window.h"
+
+#include <algorithm>
+#include <cwctype>
+#include <stdexcept>
+
+#include "platform/characters.h"
+#include "platform/key_codes.h"
+#include "platform/local/local_windows.h"
+
+namespace burrowmark {
+namespace {
+
+constexpr wchar_t kMark = L'&';
+
+// Without the marks; two of them are one that shows.
+std::wstring WithoutMarks(const std::wstring& text) {
+  std::wstring plain;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (text[i] == kMark && ++i == text.size()) break;
+    plain += text[i];
+  }
+  return plain;
+}
+
+wchar_t MnemonicOf(const ShownControl& control) {
+  if (!control.useMnemonic || control.kind == ShownKind::kAnimation) return L'\0';
+  for (std::size_t i = 0; i + 1 < control.text.size(); ++i) {
+    if (control.text[i] != kMark) continue;
+    if (control.text[++i] != kMark) return control.text[i];
+  }
+  return L'\0';
+}
+
+bool SameLetter(wchar_t one, wchar_t other) {
+  return std::towlower(static_cast<std::wint_t>(one)) == std::towlower(static_cast<std::wint_t>(other));
+}
+
+bool CanBeUsed(const ShownControl& control) { return control.visible && control.enabled; }
+
+void ClickOn(const ShownControl* control) {
+  if (control == nullptr || !CanBeUsed(*control)) return;
+  const std::function<void()> door = control->UserClick;
+  if (door) door();
+}
+
+}  // namespace
+
+// --- what can be read
+
+ShownControl* ShownWindow::Find(const std::wstring& text) const {
+  const auto found = std::find_if(controls.begin(), controls.end(), [&text](const auto& control) {
+    return control->text == text || WithoutMarks(control->text) == text;
+  });
+  return found == controls.end() ? nullptr : found->get();
+}
+
+ShownControl* ShownWindow::WithWindow(WindowHandle handle) const {
+  const auto found = std::find_if(controls.begin(), controls.end(),
+                                  [handle](const auto& control) { return control->window == handle; });
+  return found == controls.end() ? nullptr : found->get();
+}
+
+ShownControl* ShownWindow::Focused() const {
+  const auto found =
+      std::find_if(controls.begin(), controls.end(), [](const auto& control) { return control->focused; });
+  return found == controls.end() ? nullptr : found->get();
+}
+
+std::wstring ShownWindow::LabelTexts() const {
+  std::wstring texts;
+  for (const auto& control : controls) {
+    if (control->kind == ShownKind::kLabel && control->visible) texts += control->text + L"\n";
+  }
+  return texts;
+}
+
+// --- gestures
+
+void ShownWindow::Do(const std::function<void()>& gesture) {
+  if (!IsOpen() || !visible) throw std::logic_error("the window isn't on the screen: " + ToUtf8(caption));
+  if (!enabled) throw std::logic_error("a modal window is in front of this one: " + ToUtf8(caption));
+  windows_.Post([window = windows_.Desktop.Find(window), gesture] {
+    if (!window || !window->visible || !window->enabled) return;
+    window->windows_.Desktop.Raise(window->window);
+    window->windows_.Desktop.Activate(window);
+    if (window->IsOpen()) gesture();
+  });
+  if (!windows_.IsBusy()) windows_.DoEvents();
+}
+
+void ShownWindow::Click(const std::wstring& button) {
+  const ShownControl* control = Find(button);
+  if (control == nullptr || !control->UserClick) throw std::logic_error("there is no button " + ToUtf8(button));
+  if (!CanBeUsed(*control)) throw std::logic_error("the button can't be clicked: " + ToUtf8(button));
+  Do([this, handle = control->window] {
+    ShownControl* clicked = WithWindow(handle);
+    SetFocus(clicked);
+    ClickOn(clicked);
+  });
+}
+
+void ShownWindow::Press(std::int32_t keyCode, std::int32_t shift) {
+  Do([this, keyCode, shift] { RunKey(keyCode, shift); });
+}
+
+void ShownWindow::PressAlt(wchar_t character) {
+  Do([this, character] {
+    const auto key = static_cast<std::int32_t>(std::towupper(static_cast<std::wint_t>(character)));
+    if (!form_->UserKey(key, kAltMask)) RunMnemonic(character);
+  });
+}
+
+void ShownWindow::Close() {
+  Do([this] { form_->UserClose(); });
+}
+
+void ShownWindow::MoveTo(std::int32_t left, std::int32_t top) {
+  Do([this, left, top] {
+    place = {left, top, left + place.right - place.left, top + place.bottom - place.top};
+    Report();
+  });
+}
+
+void ShownWindow::Resize(std::int32_t width, std::int32_t height) {
+  Do([this, width, height] {
+    place.right = place.left + width;
+    place.bottom = place.top + height;
+    FitClient();
+    Report();
+  });
+}
+
+void ShownWindow::SetState(FormWindowState newState) {
+  Do([this, newState] {
+    TakeState(newState);
+    Report();
+  });
+}
+
+void ShownWindow::ChangeScale(std::int32_t newDpi) {
+  Do([this, newDpi] {
+    dpi = newDpi;
+    place.right = place.left + ToPixels(form_->Place().width, dpi);
+    place.bottom = place.top + ToPixels(form_->Place().height, dpi);
+    FitClient();
+    Report();
+    if (form_ != nullptr) form_->UserScale();
+  });
+}
+
+// --- place
+
+Rect ShownWindow::PlacedRect() const {
+  const Box& box = form_->Place();
+  const std::int32_t left = ToPixels(box.left, LocalDesktop::kSystemDpi);
+  const std::int32_t top = ToPixels(box.top, LocalDesktop::kSystemDpi);
+  if (box.width > 0) return {left, top, left + ToPixels(box.width, dpi), top + ToPixels(box.height, dpi)};
+  const Size design = form_->DesignClient();
+  const std::int32_t width = ToPixels(design.width, dpi) + Scaled(kFrame.left + kFrame.right, dpi, kDesignDpi);
+  const std::int32_t height = ToPixels(design.height, dpi) + Scaled(kFrame.top + kFrame.bottom, dpi, kDesignDpi);
+  return {left, top, left + width, top + height};
+}
+
+void ShownWindow::Put(const Rect& around) {
+  place = PlacedRect();
+  if (form_->StartUp() == StartUpPosition::kCenterOwner) {
+    const std::int32_t right = (around.left + around.right - (place.right - place.left)) / 2 - place.left;
+    const std::int32_t down = (around.top + around.bottom - (place.bottom - place.top)) / 2 - place.top;
+    place = {place.left + right, place.top + down, place.right + right, place.bottom + down};
+  }
+  FitClient();
+}
+
+void ShownWindow::TakeState(FormWindowState newState) {
+  state = newState;
+  FitClient();
+}
+
+void ShownWindow::FitClient() {
+  const auto frame = [this](std::int32_t length) { return Scaled(length, dpi, kDesignDpi); };
+  const Rect& screen = LocalDesktop::kScreen;
+  switch (state) {
+    case FormWindowState::kNormal:
+      client = {0, 0, place.right - place.left - frame(kFrame.left + kFrame.right),
+                place.bottom - place.top - frame(kFrame.top + kFrame.bottom)};
+      return;
+    case FormWindowState::kMaximized:
+      client = {0, 0, screen.right, screen.bottom - frame(kFrame.top)};
+      return;
+    case FormWindowState::kMinimized:
+      client = {};
+      return;
+  }
+}
+
+void ShownWindow::Report() {
+  FormGeometry geometry{form_->Place(), {ToTwips(client.right, dpi), ToTwips(client.bottom, dpi)}, state};
+  // What was set in twips stays as it was set, as long as it comes to the pixels that are there.
+  if (geometry.place.width <= 0 || place != PlacedRect()) {
+    geometry.place = {ToTwips(place.left, LocalDesktop::kSystemDpi), ToTwips(place.top, LocalDesktop::kSystemDpi),
+                      ToTwips(place.right - place.left, dpi), ToTwips(place.bottom - place.top, dpi)};
+  }
+  // A hidden window takes on its state when it shows.
+  if (!form_->Visible()) geometry.state = form_->WindowState();
+  form_->UserMove(geometry);
+}
+
+// --- keys
+
+void ShownWindow::RunKey(std::int32_t keyCode, std::int32_t shift) {
+  if (form_->UserKey(keyCode, shift)) return;
+  switch (keyCode) {
+    case kKeyCodeTab:
+      return MoveFocus((shift & kShiftMask) != 0);
+    case kKeyCodeReturn:
+      return PressEnter();
+    case kKeyCodeEscape:
+      return form_->UserEscape();
+    case kKeyCodeSpace:
+      return ClickOn(Focused());
+    default:
+      return;
+  }
+}
+
+void ShownWindow::PressEnter() { ClickOn(WithWindow(form_->EnterButton())); }
+
+std::vector<ShownControl*> ShownWindow::TabStops() const {
+  std::vector<ShownControl*> stops;
+  for (const auto& control : controls) {
+    if (control->tabStop && CanBeUsed(*control)) stops.push_back(control.get());
+  }
+  return stops;
+}
+
+void ShownWindow::MoveFocus(bool backwards) {
+  const std::vector<ShownControl*> stops = TabStops();
+  if (stops.empty()) return;
+  const auto now = std::find(stops.begin(), stops.end(), Focused());
+  const std::size_t count = stops.size();
+  if (now == stops.end()) return SetFocus(backwards ? stops.back() : stops.front());
+  const auto at = static_cast<std::size_t>(now - stops.begin());
+  SetFocus(stops[(at + (backwards ? count - 1 : 1)) % count]);
+}
+
+void ShownWindow::RunMnemonic(wchar_t character) {
+  const auto marked = std::find_if(controls.begin(), controls.end(), [character](const auto& control) {
+    return control->visible && control->enabled && SameLetter(MnemonicOf(*control), character);
+  });
+  if (marked == controls.end()) return;
+  if ((*marked)->UserClick) {
+    const std::shared_ptr<ShownControl> button = *marked;
+    SetFocus(button.get());
+    return ClickOn(button.get());
+  }
+  // A text has no use for the focus itself: it goes to what the text stands in front of.
+  const auto next =
+      std::find_if(marked, controls.end(), [](const auto& control) { return control->tabStop && CanBeUsed(*control); });
+  if (next != controls.end()) SetFocus(next->get());
+}
+
+// --- focus
+
+void ShownWindow::SetFocus(ShownControl* control) {
+  ShownControl* before = Focused();
+  if (before == control) return;
+  if (before != nullptr) {
+    before->focused = false;
+    if (const auto door = before->UserFocus) door(false);
+  }
+  if (control == nullptr || !IsOpen() || Focused() != nullptr) return;
+  control->focused = true;
+  if (const auto door = control->UserFocus) door(true);
+}
+
+void ShownWindow::Activate(bool active) {
+  if (!active) {
+    ShownControl* focused = Focused();
+    const auto kept = std::find_if(controls.begin(), controls.end(),
+                                   [focused](const auto& control) { return control.get() == focused; });
+    if (kept != controls.end()) focusBefore_ = *kept;
+    SetFocus(nullptr);
+  } else if (const auto before = focusBefore_.lock(); before && CanBeUsed(*before)) {
+    SetFocus(before.get());
+  } else if (const auto stops = TabStops(); !stops.empty()) {
+    SetFocus(stops.front());
+  }
+  if (form_ != nullptr) form_->UserActivate(active);
+}
+
+void ShownWindow::Retire() {
+  form_ = nullptr;
+  visible = false;
+  windows_.Desktop.Deactivate(*this);
+}
+
+}  // namespace burrowmark

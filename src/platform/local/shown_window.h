@@ -1,0 +1,108 @@
+// What stands on the screen of the local machine.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "platform/ui_peers.h"
+
+namespace burrowmark {
+
+class LocalWindows;
+
+enum class ShownKind : std::uint8_t { kLabel, kButton, kAnimation };
+
+struct ShownControl {
+  ShownKind kind = ShownKind::kLabel;
+  WindowHandle window = 0;
+  std::wstring text;  // of an animation: its file
+  Rect place;         // pixels within the client area
+  bool visible = true;
+  bool enabled = true;
+  bool tabStop = true;
+  bool focused = false;
+  bool isDefault = false;   // the button that Enter presses
+  bool useMnemonic = true;  // "&" of the text marks a character
+  bool playing = false;     // an animation whose file is there
+  Alignment alignment = Alignment::kLeft;
+
+  std::function<void(bool)> UserFocus;  // doors; empty where there is none, and once the control has gone
+  std::function<void()> UserClick;
+};
+
+// Gestures reach the program by its message queue, and run at once unless the program is busy. One that can't be made
+// throws std::logic_error.
+class ShownWindow {
+ public:
+  ShownWindow(LocalWindows& windows, FormState& form) : windows_(windows), form_(&form) {}
+  ShownWindow(const ShownWindow&) = delete;
+  ShownWindow& operator=(const ShownWindow&) = delete;
+
+  WindowHandle window = 0;
+  WindowHandle owner = 0;
+  std::wstring caption;
+  Rect place;   // of the whole window, in pixels
+  Rect client;  // its client area, from 0, 0
+  std::int32_t dpi = kDesignDpi;
+  bool visible = false;
+  bool enabled = true;
+  bool topMost = false;
+  FormBorder border = FormBorder::kFixedDialog;
+  FormWindowState state = FormWindowState::kNormal;
+  std::int32_t pointer = kPointerDefault;
+  std::int32_t icon = 0;
+  std::vector<std::shared_ptr<ShownControl>> controls;  // in tab order
+
+  // Pixels around the client area of a normal window at 96 dots per inch.
+  static constexpr Rect kFrame{8, 31, 8, 8};
+
+  // False once the program has taken it away; what it showed last stays to be read.
+  bool IsOpen() const { return form_ != nullptr; }
+  // None if there is no control with such a text; "&" doesn't count.
+  ShownControl* Find(const std::wstring& text) const;
+  ShownControl* WithWindow(WindowHandle handle) const;
+  ShownControl* Focused() const;
+  // Texts of the visible labels, one below the other.
+  std::wstring LabelTexts() const;
+
+  // What the person does.
+  void Click(const std::wstring& button);
+  void Press(std::int32_t keyCode, std::int32_t shift = 0);
+  // Alt and a character.
+  void PressAlt(wchar_t character);
+  void Close();
+  void MoveTo(std::int32_t left, std::int32_t top);
+  void Resize(std::int32_t width, std::int32_t height);
+  void SetState(FormWindowState newState);
+  void ChangeScale(std::int32_t newDpi);
+
+  // For the peers.
+  void Retire();
+  void SetFocus(ShownControl* control);
+  void Activate(bool active);
+  // Takes on the place of the form's state; its centre is that of `around` if nobody has placed it.
+  void Put(const Rect& around);
+  // Takes on a state of the window, and the size of the client area that comes of it.
+  void TakeState(FormWindowState newState);
+  void Report();
+  FormState* Form() const { return form_; }
+
+ private:
+  void Do(const std::function<void()>& gesture);
+  void RunKey(std::int32_t keyCode, std::int32_t shift);
+  void RunMnemonic(wchar_t character);
+  void MoveFocus(bool backwards);
+  void PressEnter();
+  Rect PlacedRect() const;
+  void FitClient();
+  std::vector<ShownControl*> TabStops() const;
+
+  LocalWindows& windows_;
+  FormState* form_;
+  std::weak_ptr<ShownControl> focusBefore_;
+};
+
+}  // namespace burrowmark

@@ -1,0 +1,87 @@
+#include "platform/win32/child_window.h"
+
+#include <commctrl.h>
+
+#include "platform/from_system.h"
+#include "platform/win32/window_class.h"
+
+namespace burrowmark {
+namespace {
+
+constexpr UINT_PTR kSubclass = 1;
+
+}  // namespace
+
+ChildWindow::ChildWindow(const wchar_t* className, const std::wstring& text, DWORD style, FormWindow& form,
+                         ControlState& control)
+    : form_(form), control_(&control) {
+  const DWORD state = (control.Visible() ? WS_VISIBLE : 0) | (control.Enabled() ? 0 : WS_DISABLED) |
+                      (control.TabStop() ? WS_TABSTOP : 0);
+  const Rect at = ToPixels(control.Place(), form.Dpi());
+  window_ =
+      ::CreateWindowExW(0, className, text.c_str(), WS_CHILD | style | state, at.left, at.top, at.right - at.left,
+                        at.bottom - at.top, ToHwnd(form.Window()),
+                        reinterpret_cast<HMENU>(static_cast<INT_PTR>(form.NextId())), WindowClass::Module(), nullptr);
+  if (window_ == nullptr) return;
+  ::SendMessageW(window_, WM_SETFONT, reinterpret_cast<WPARAM>(form.Font()), FALSE);
+  ::SetWindowSubclass(window_, Procedure, kSubclass, reinterpret_cast<DWORD_PTR>(this));
+}
+
+ChildWindow::~ChildWindow() {
+  Retire();
+  if (window_ != nullptr) ::DestroyWindow(window_);
+}
+
+void ChildWindow::Command(UINT) {}
+
+void ChildWindow::Place() const {
+  const Rect at = ToPixels(control_->Place(), form_.Dpi());
+  ::SetWindowPos(window_, nullptr, at.left, at.top, at.right - at.left, at.bottom - at.top,
+                 SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void ChildWindow::ShowOrHide() const { ::ShowWindow(window_, control_->Visible() ? SW_SHOWNA : SW_HIDE); }
+
+void ChildWindow::EnableOrDisable() const { ::EnableWindow(window_, control_->Enabled() ? TRUE : FALSE); }
+
+void ChildWindow::SetStyle(DWORD bits, bool on) const {
+  const auto style = static_cast<DWORD>(::GetWindowLongPtrW(window_, GWL_STYLE));
+  ::SetWindowLongPtrW(window_, GWL_STYLE, static_cast<LONG_PTR>(on ? style | bits : style & ~bits));
+}
+
+void ChildWindow::FollowScale() const {
+  ::SendMessageW(window_, WM_SETFONT, reinterpret_cast<WPARAM>(form_.Font()), TRUE);
+  Place();
+}
+
+LRESULT CALLBACK ChildWindow::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                                        DWORD_PTR data) {
+  auto* self = reinterpret_cast<ChildWindow*>(data);
+  if (message == WM_NCDESTROY) {
+    ::RemoveWindowSubclass(window, Procedure, kSubclass);
+    self->window_ = nullptr;
+  } else if (!self->IsRetired()) {
+    const auto result = FromSystem([&] { return self->Receive(message, wParam, lParam); }, std::optional<LRESULT>());
+    if (result) return *result;
+  }
+  return ::DefSubclassProc(window, message, wParam, lParam);
+}
+
+std::optional<LRESULT> ChildWindow::Receive(UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
+    case kReflectedCommand:
+      Command(HIWORD(wParam));
+      return 0;
+    case WM_SETFOCUS:
+    case WM_KILLFOCUS: {
+      // The control draws itself first: what hears of the focus may unload the form.
+      const LRESULT result = ::DefSubclassProc(window_, message, wParam, lParam);
+      if (control_ != nullptr) control_->UserFocus(message == WM_SETFOCUS);
+      return result;
+    }
+    default:
+      return std::nullopt;
+  }
+}
+
+}  // namespace burrowmark

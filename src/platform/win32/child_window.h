@@ -1,0 +1,67 @@
+// The native window of a control.
+#pragma once
+
+#include <windows.h>
+
+#include <optional>
+#include <string>
+
+#include "platform/ui_peers.h"
+#include "platform/win32/form_window.h"
+#include "platform/win32/handles.h"
+
+namespace burrowmark {
+
+// A form sends what it hears of its controls back to them: the command's message with this on top.
+inline constexpr UINT kReflectedCommand = WM_APP + WM_COMMAND;
+
+class ChildWindow {
+ public:
+  ChildWindow(const wchar_t* className, const std::wstring& text, DWORD style, FormWindow& form, ControlState& control);
+  virtual ~ChildWindow();
+  ChildWindow(const ChildWindow&) = delete;
+  ChildWindow& operator=(const ChildWindow&) = delete;
+
+  HWND Handle() const { return window_; }
+  void Retire() { control_ = nullptr; }
+  bool IsRetired() const { return control_ == nullptr; }
+
+  void Place() const;
+  void ShowOrHide() const;
+  void EnableOrDisable() const;
+  void SetStyle(DWORD bits, bool on) const;
+  void FollowTabStop() const { SetStyle(WS_TABSTOP, control_->TabStop()); }
+  void FollowScale() const;
+  void SetText(const std::wstring& text) const { ::SetWindowTextW(window_, text.c_str()); }
+
+ protected:
+  // A command's notification from the control to its form, until the retirement.
+  virtual void Command(UINT notification);
+
+ private:
+  static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
+                                    DWORD_PTR data);
+  std::optional<LRESULT> Receive(UINT message, WPARAM wParam, LPARAM lParam);
+
+  FormWindow& form_;
+  ControlState* control_;  // none after the retirement
+  HWND window_ = nullptr;
+};
+
+// The peer of a control whose window is a system's own.
+template <typename KindPeer>
+class ChildPeer : public KindPeer, protected ChildWindow {
+ public:
+  using ChildWindow::ChildWindow;
+
+  void Retire() final { ChildWindow::Retire(); }
+  WindowHandle Window() const final { return FromHwnd(Handle()); }
+  void PlaceChanged() final { Place(); }
+  void VisibleChanged() final { ShowOrHide(); }
+  void EnabledChanged() final { EnableOrDisable(); }
+  void TabStopChanged() final { FollowTabStop(); }
+  void ScaleChanged() final { FollowScale(); }
+  void TakeFocus() final { ::SetFocus(Handle()); }
+};
+
+}  // namespace burrowmark

@@ -1,0 +1,67 @@
+#include "platform/win32/control_peers.h"
+
+#include <commctrl.h>
+
+namespace burrowmark {
+namespace {
+
+constexpr DWORD kLabelStyles = SS_TYPEMASK | SS_NOPREFIX;
+
+DWORD StyleOf(const LabelState& label) {
+  const DWORD prefix = label.UseMnemonic() ? 0 : SS_NOPREFIX;
+  switch (label.TextAlignment()) {
+    case Alignment::kRight:
+      return prefix | SS_RIGHT;
+    case Alignment::kCenter:
+      return prefix | SS_CENTER;
+    case Alignment::kLeft:
+      break;
+  }
+  return prefix | SS_LEFT;
+}
+
+DWORD StyleOf(const ButtonState& button) { return button.ShowsDefault() ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON; }
+
+}  // namespace
+
+Win32Label::Win32Label(FormWindow& form, LabelState& label)
+    : ChildPeer(WC_STATICW, label.Caption(), StyleOf(label), form, label), label_(label) {}
+
+void Win32Label::StyleChanged() {
+  SetStyle(kLabelStyles, false);
+  SetStyle(StyleOf(label_), true);
+  ::InvalidateRect(Handle(), nullptr, TRUE);
+}
+
+Win32Button::Win32Button(FormWindow& form, ButtonState& button)
+    : ChildPeer(WC_BUTTONW, button.Caption(), StyleOf(button), form, button), button_(button) {}
+
+void Win32Button::DefaultChanged() { ::SendMessageW(Handle(), BM_SETSTYLE, StyleOf(button_), TRUE); }
+
+void Win32Button::Command(UINT notification) {
+  if (notification == BN_CLICKED) button_.UserClick();
+}
+
+// Transparent: what has the colour of the film's first pixel lets the form through.
+Win32Animation::Win32Animation(FormWindow& form, AnimationState& animation)
+    : ChildPeer(ANIMATE_CLASSW, L"", ACS_CENTER | ACS_TRANSPARENT, form, animation), animation_(animation) {
+  if (!animation.File().empty()) FileChanged();
+  if (animation.Playing()) PlayingChanged();
+}
+
+void Win32Animation::FileChanged() {
+  ::SendMessageW(Handle(), ACM_OPENW, 0, 0);
+  if (animation_.File().empty()) return;
+  ::SendMessageW(Handle(), ACM_OPENW, 0, reinterpret_cast<LPARAM>(animation_.File().c_str()));
+}
+
+void Win32Animation::PlayingChanged() {
+  if (animation_.Playing()) {
+    constexpr WORD kToTheEnd = 0xFFFF;
+    ::SendMessageW(Handle(), ACM_PLAY, static_cast<WPARAM>(-1), MAKELPARAM(0, kToTheEnd));
+  } else {
+    ::SendMessageW(Handle(), ACM_STOP, 0, 0);
+  }
+}
+
+}  // namespace burrowmark

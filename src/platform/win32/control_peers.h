@@ -1,0 +1,40 @@
+// Controls as the system has them.
+#pragma once
+
+#include "platform/win32/child_window.h"
+
+namespace burrowmark {
+
+class Win32Label final : public ChildPeer<LabelPeer> {
+ public:
+  Win32Label(FormWindow& form, LabelState& label);
+  void CaptionChanged() override { SetText(label_.Caption()); }
+  void StyleChanged() override;
+
+ private:
+  LabelState& label_;
+};
+
+class Win32Button final : public ChildPeer<ButtonPeer> {
+ public:
+  Win32Button(FormWindow& form, ButtonState& button);
+  void CaptionChanged() override { SetText(button_.Caption()); }
+  void DefaultChanged() override;
+
+ private:
+  void Command(UINT notification) override;
+
+  ButtonState& button_;
+};
+
+class Win32Animation final : public ChildPeer<AnimationPeer> {
+ public:
+  Win32Animation(FormWindow& form, AnimationState& animation);
+  void FileChanged() override;
+  void PlayingChanged() override;
+
+ private:
+  AnimationState& animation_;
+};
+
+}  // namespace burrowmark

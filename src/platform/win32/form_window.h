@@ -1,0 +1,97 @@
+// The native window of a form.
+#pragma once
+
+#include <windows.h>
+
+#include <cstdint>
+#include <map>
+#include <memory>
+
+#include "platform/ui_peers.h"
+#include "platform/win32/control_fonts.h"
+#include "platform/win32/screen_dpi.h"
+#include "platform/win32/system_library.h"
+
+namespace burrowmark {
+
+class FormWindow;
+
+// What the windows of forms share; all of it outlives them.
+struct FormWindowParts {
+  const ScreenDpi& dpi;
+  ControlFonts& fonts;
+  std::map<HWND, FormWindow*>& all;
+};
+
+class FormWindow final : public FormPeer {
+ public:
+  static constexpr wchar_t kClassName[] = L"BurrowmarkForm";
+  static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+
+  FormWindow(FormState& form, const FormWindowParts& parts);
+  ~FormWindow() override;
+
+  // Keys that move about between controls, and press buttons. True if the message is done with.
+  bool Translate(MSG& message);
+  HFONT Font() const { return parts_.fonts.At(dpi_); }
+  // A number that no other control of the form has.
+  int NextId() { return ++lastId_; }
+
+  void Retire() override;
+  WindowHandle Window() const override;
+  void CaptionChanged() override;
+  void PlaceChanged() override;
+  void OwnerChanged() override;
+  void VisibleChanged() override;
+  void TakesInputChanged() override;
+  void WindowStateChanged() override;
+  void TopMostChanged() override;
+  void MousePointerChanged() override;
+  void IconChanged() override;
+  void BringToFront() override;
+  void BlockOwner(bool block) override;
+  std::int32_t Dpi() const override { return dpi_; }
+
+ private:
+  struct DestroyIconImage {
+    void operator()(HICON icon) const { ::DestroyIcon(icon); }
+  };
+  using IconImage = std::unique_ptr<std::remove_pointer_t<HICON>, DestroyIconImage>;
+
+  LRESULT Receive(UINT message, WPARAM wParam, LPARAM lParam);
+  LRESULT Answer(UINT message, WPARAM wParam, LPARAM lParam);
+  void Command(WPARAM wParam, LPARAM lParam);
+  LRESULT EnterButtonId() const;
+  LRESULT BackgroundOf(HDC context) const;
+  void Lost();
+
+  bool IsCentred() const;
+  RECT CentredRect();
+  RECT PlacedRect() const;
+  SIZE OuterSize() const;
+  void Put(const RECT& rect);
+  void PutUnderneath(const RECT& rect);
+  void Report();
+  FormGeometry Measure() const;
+  void FollowScale(std::int32_t dpi, const RECT& suggested);
+
+  void Activate(bool active);
+  void FocusSomething();
+  void MoveToControl(WPARAM wParam, LPARAM lParam);
+  bool ShowPointer() const;
+  IconImage LoadIconImage(int designSize) const;
+
+  FormState* form_;  // none after the retirement
+  FormWindowParts parts_;
+  SystemLibrary user_{L"user32.dll"};
+  HWND window_ = nullptr;
+  std::int32_t dpi_ = kDesignDpi;
+  int lastId_ = 100;  // the low numbers are those of Enter and Esc
+  bool making_ = true;
+  HWND focusBefore_ = nullptr;  // had it when the window was left
+  HWND blockedOwner_ = nullptr;
+  IconImage bigIcon_;
+  IconImage smallIcon_;
+};
+
+}  // namespace burrowmark

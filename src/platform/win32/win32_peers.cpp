@@ -1,0 +1,54 @@
+#include "platform/win32/win32_peers.h"
+
+#include <commctrl.h>
+
+#include <stdexcept>
+
+#include "platform/win32/control_peers.h"
+#include "platform/win32/handles.h"
+
+namespace burrowmark {
+namespace {
+
+HBRUSH BackgroundOfForms() { return reinterpret_cast<HBRUSH>(static_cast<INT_PTR>(COLOR_BTNFACE + 1)); }
+
+}  // namespace
+
+Win32Peers::Win32Peers(const ScreenDpi& dpi)
+    : dpi_(dpi),
+      class_(FormWindow::kClassName, FormWindow::Procedure, BackgroundOfForms(), ::LoadCursorW(nullptr, IDC_ARROW)) {
+  INITCOMMONCONTROLSEX classes = {};
+  classes.dwSize = sizeof(classes);
+  classes.dwICC = ICC_STANDARD_CLASSES | ICC_ANIMATE_CLASS;
+  ::InitCommonControlsEx(&classes);
+}
+
+bool Win32Peers::Translate(MSG& message) {
+  if (message.hwnd == nullptr) return false;
+  const auto form = forms_.find(::GetAncestor(message.hwnd, GA_ROOT));
+  return form != forms_.end() && form->second->Translate(message);
+}
+
+FormWindow& Win32Peers::FormOf(WindowHandle window) const {
+  const auto form = forms_.find(ToHwnd(window));
+  if (form == forms_.end()) throw std::runtime_error("a control without a form's window");
+  return *form->second;
+}
+
+std::unique_ptr<FormPeer> Win32Peers::MakePeer(FormState& form) {
+  return std::make_unique<FormWindow>(form, FormWindowParts{dpi_, fonts_, forms_});
+}
+
+std::unique_ptr<LabelPeer> Win32Peers::MakePeer(WindowHandle parent, LabelState& label) {
+  return std::make_unique<Win32Label>(FormOf(parent), label);
+}
+
+std::unique_ptr<ButtonPeer> Win32Peers::MakePeer(WindowHandle parent, ButtonState& button) {
+  return std::make_unique<Win32Button>(FormOf(parent), button);
+}
+
+std::unique_ptr<AnimationPeer> Win32Peers::MakePeer(WindowHandle parent, AnimationState& animation) {
+  return std::make_unique<Win32Animation>(FormOf(parent), animation);
+}
+
+}  // namespace burrowmark

@@ -1,0 +1,40 @@
+// Peers of the real system.
+#pragma once
+
+#include <windows.h>
+
+#include <map>
+
+#include "platform/ui_peers.h"
+#include "platform/win32/control_fonts.h"
+#include "platform/win32/form_window.h"
+#include "platform/win32/screen_dpi.h"
+#include "platform/win32/window_class.h"
+
+namespace burrowmark {
+
+class Win32Peers final : public Peers {
+ public:
+  // `dpi` must outlive this object, and this object all peers.
+  explicit Win32Peers(const ScreenDpi& dpi);
+  Win32Peers(const Win32Peers&) = delete;
+  Win32Peers& operator=(const Win32Peers&) = delete;
+
+  // The keys of forms; for every message that a loop takes. True if the message is done with.
+  bool Translate(MSG& message);
+
+  std::unique_ptr<FormPeer> MakePeer(FormState& form) override;
+  std::unique_ptr<LabelPeer> MakePeer(WindowHandle parent, LabelState& label) override;
+  std::unique_ptr<ButtonPeer> MakePeer(WindowHandle parent, ButtonState& button) override;
+  std::unique_ptr<AnimationPeer> MakePeer(WindowHandle parent, AnimationState& animation) override;
+
+ private:
+  FormWindow& FormOf(WindowHandle window) const;
+
+  const ScreenDpi& dpi_;
+  ControlFonts fonts_;
+  WindowClass class_;
+  std::map<HWND, FormWindow*> forms_;
+};
+
+}  // namespace burrowmark

@@ -1,0 +1,24 @@
+#include "ui/animation.h"
+
+namespace burrowmark {
+
+Animation::Animation(Form& form, std::wstring name, const Box& place) : ControlOf(form, std::move(name), place) {
+  StartWithoutTabStop();
+}
+
+void Animation::Open(std::wstring file) {
+  if (file == file_) return;
+  Stop();
+  file_ = std::move(file);
+  Tell(&AnimationPeer::FileChanged);
+}
+
+void Animation::Play() { SetPlaying(true); }
+
+void Animation::Stop() { SetPlaying(false); }
+
+void Animation::SetPlaying(bool playing) {
+  if (Assign(playing_, playing)) Tell(&AnimationPeer::PlayingChanged);
+}
+
+}  // namespace burrowmark

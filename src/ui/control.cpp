@@ -1,0 +1,52 @@
+#include "ui/control.h"
+
+#include "ui/form.h"
+
+namespace burrowmark {
+
+Control::Control(Form& form, std::wstring name, const Box& place) : form_(form), name_(std::move(name)), place_(place) {
+  form_.Enter(*this);
+}
+
+void Control::LeaveForm() { form_.Leave(*this); }
+
+WindowHandle Control::Window() const {
+  const ControlPeer* peer = ThePeer();
+  return peer == nullptr ? 0 : peer->Window();
+}
+
+void Control::SetPlace(const Box& place) {
+  if (!Assign(place_, place)) return;
+  if (ControlPeer* peer = ThePeer()) peer->PlaceChanged();
+}
+
+void Control::SetVisible(bool visible) {
+  if (!Assign(visible_, visible)) return;
+  if (ControlPeer* peer = ThePeer()) peer->VisibleChanged();
+}
+
+void Control::SetEnabled(bool enabled) {
+  if (!Assign(enabled_, enabled)) return;
+  if (ControlPeer* peer = ThePeer()) peer->EnabledChanged();
+}
+
+void Control::SetTabStop(bool tabStop) {
+  if (!Assign(tabStop_, tabStop)) return;
+  if (ControlPeer* peer = ThePeer()) peer->TabStopChanged();
+}
+
+bool Control::HasFocus() const { return form_.focused_ == this; }
+
+void Control::SetFocus() {
+  if (ControlPeer* peer = ThePeer(); peer != nullptr && IsReachable()) peer->TakeFocus();
+}
+
+void Control::UserFocus(bool has) {
+  if (has == HasFocus()) return;
+  const Form::Inside inside(form_);
+  form_.MoveFocus(has ? this : nullptr);
+}
+
+bool Control::IsReachable() const { return visible_ && enabled_ && form_.IsReachable(); }
+
+}  // namespace burrowmark

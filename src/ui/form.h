@@ -1,0 +1,203 @@
+// A window of the program.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "platform/window_system.h"
+#include "ui/control.h"
+
+namespace burrowmark {
+
+class CommandButton;
+class Form;
+
+enum class ShowMode : std::uint8_t { Modeless, Modal };
+using enum ShowMode;
+
+// Why a form shall unload.
+enum class UnloadMode : std::uint8_t { kUser, kCode };
+
+// Whom a form stands in front of: another form, a window of which nothing but the handle is known, or nobody.
+class FormOwner {
+ public:
+  FormOwner() = default;
+  FormOwner(Form& form) : form_(&form) {}
+  FormOwner(WindowHandle window) : window_(window) {}
+
+  Form* TheForm() const { return form_; }
+  WindowHandle Window() const;
+  friend bool operator==(const FormOwner&, const FormOwner&) = default;
+
+ private:
+  Form* form_ = nullptr;
+  WindowHandle window_ = 0;
+};
+
+// A form is loaded when it has a window. It can be unloaded and loaded again; its state and that of its controls stays.
+class Form : public FormState {
+ public:
+  // `client` is the size of what is within the frame.
+  Form(WindowSystem& windows, std::wstring name, const Size& client);
+  // Nothing of the form may be running.
+  virtual ~Form();
+  Form(const Form&) = delete;
+  Form& operator=(const Form&) = delete;
+
+  const std::wstring& Name() const { return name_; }
+  bool Loaded() const { return peer_ != nullptr; }
+  WindowHandle Window() const;  // 0 while it isn't loaded
+
+  // Makes the window, which stays hidden. Nothing happens if it is there.
+  void Load();
+  // Loads and shows. Modal: returns when the form is hidden or unloaded, and the owner takes no input until then; its
+  // owner takes it again before this window goes. A form that shows already isn't shown again.
+  void Show(ShowMode mode = Modeless);
+  void Show(ShowMode mode, const FormOwner& owner);
+  void Hide();
+  // First unloads the forms that this one owns, the last one shown first. False if one of them, or this one, refused.
+  bool Unload(UnloadMode mode = UnloadMode::kCode);
+  // Throws the window away and makes it anew from the state, without events.
+  void Realise();
+  // Above the program's other windows, with the focus; a minimised form becomes a normal one.
+  void BringToFront();
+
+  const std::wstring& Caption() const final { return caption_; }
+  void SetCaption(std::wstring caption);
+  FormBorder Border() const final { return border_; }
+  void SetBorder(FormBorder border);
+  const Box& Place() const final { return geometry_.place; }
+  void SetPlace(const Box& place);
+  // Inside the frame, as it was told last.
+  const Size& Client() const { return geometry_.client; }
+  Size DesignClient() const final { return design_; }
+  StartUpPosition StartUp() const final { return placed_ ? StartUpPosition::kManual : startUp_; }
+  void SetStartUp(StartUpPosition position) { startUp_ = position; }
+  void SetOwner(const FormOwner& owner);
+  WindowHandle OwnerWindow() const final { return owner_.Window(); }
+  bool Visible() const final { return visible_; }
+  bool IsModal() const { return modal_; }
+  bool Enabled() const { return enabled_; }
+  void SetEnabled(bool enabled);
+  bool TakesInput() const final { return enabled_ && modalChildren_ == 0; }
+  FormWindowState WindowState() const final { return geometry_.state; }
+  void SetWindowState(FormWindowState state);
+  bool TopMost() const final { return topMost_; }
+  void SetTopMost(bool topMost);
+  std::int32_t MousePointer() const final { return mousePointer_; }
+  void SetMousePointer(std::int32_t pointer);
+  std::int32_t Icon() const final { return icon_; }
+  void SetIcon(std::int32_t number);
+  // Form_KeyDown sees every key ahead of the control with the focus.
+  bool KeyPreview() const { return keyPreview_; }
+  void SetKeyPreview(bool on) { keyPreview_ = on; }
+  // The control with the focus; none while that is elsewhere.
+  Control* ActiveControl() const { return focused_; }
+
+  WindowHandle EnterButton() const final;
+
+  void UserClose() final;
+  void UserMove(const FormGeometry& geometry) final;
+  void UserActivate(bool active) final;
+  bool UserKey(std::int32_t keyCode, std::int32_t shift) final;
+  void UserEscape() final;
+  void UserScale() final;
+  void WindowLost() final;
+
+ protected:
+  virtual void Form_Load() {}
+  virtual void Form_QueryUnload(bool& Cancel, UnloadMode mode);
+  virtual void Form_Unload(bool& Cancel);
+  // The client area has another size; once after the loading too.
+  virtual void Form_Resize() {}
+  virtual void Form_Activate() {}
+  virtual void Form_Deactivate() {}
+  // A key code of 0 keeps the key from everybody else.
+  virtual void Form_KeyDown(std::int32_t& KeyCode, std::int32_t Shift);
+
+ private:
+  friend class Control;
+  friend class CommandButton;
+
+  // While it lives something of the form is running, and no window of the form goes for good.
+  class Inside {
+   public:
+    explicit Inside(Form& form) : form_(form) { ++form_.running_; }
+    ~Inside();
+    Inside(const Inside&) = delete;
+    Inside& operator=(const Inside&) = delete;
+
+   private:
+    Form& form_;
+  };
+  class Modality;
+  // Peers of a window that has gone from the screen; controls go ahead of their form.
+  struct Remains {
+    std::unique_ptr<FormPeer> form;
+    std::vector<std::unique_ptr<ControlPeer>> controls;
+  };
+
+  void Enter(Control& control) { controls_.push_back(&control); }
+  void Leave(Control& control);
+  bool IsReachable() const { return peer_ && visible_ && TakesInput(); }
+
+  void MakePeers();
+  void RetirePeers();
+  void DropPeers();
+  void TellOwned() const;
+  void BuryRemains();
+  bool MayUnload(UnloadMode mode);
+  bool UnloadOwned(UnloadMode mode);
+  void LetGo();
+
+  void MakeVisible();
+  void ShowModal();
+  void EnterModal();
+  void LeaveModal();
+  void Block(int forms);
+
+  void MoveFocus(Control* control);
+  void SetDefaultButton(CommandButton* button);
+  Control* ButtonOfEnter() const;
+  void TellDefaultMoved(Control* before);
+
+  template <typename Change>
+  void Tell(Change change) {
+    if (peer_) (peer_.get()->*change)();
+  }
+
+  WindowSystem& windows_;
+  std::wstring name_;
+  Size design_;
+  std::wstring caption_;
+  FormBorder border_ = FormBorder::kFixedDialog;
+  StartUpPosition startUp_ = StartUpPosition::kCenterOwner;
+  FormGeometry geometry_;
+  FormOwner owner_;
+  std::vector<Form*> owned_;  // in the order in which they took this form as their owner
+  bool visible_ = false;
+  bool placed_ = false;  // by code or by its showing, since it was loaded
+  bool enabled_ = true;
+  bool topMost_ = false;
+  bool keyPreview_ = false;
+  std::int32_t mousePointer_ = kPointerDefault;
+  std::int32_t icon_ = 0;
+
+  bool modal_ = false;
+  FormOwner blocked_;  // by this form while it is modal
+  int modalChildren_ = 0;
+
+  std::vector<Control*> controls_;  // in tab order
+  Control* focused_ = nullptr;
+  CommandButton* default_ = nullptr;
+  CommandButton* cancel_ = nullptr;
+
+  std::unique_ptr<FormPeer> peer_;
+  std::vector<Remains> remains_;
+  int running_ = 0;
+  bool loading_ = false;
+  bool unloading_ = false;
+};
+
+}  // namespace burrowmark

@@ -1,0 +1,25 @@
+// A text that the user can't change.
+#pragma once
+
+#include "ui/control.h"
+
+namespace burrowmark {
+
+class Label final : public ControlOf<LabelState, LabelPeer> {
+ public:
+  Label(Form& form, std::wstring name, const Box& place, std::wstring caption = {});
+
+  const std::wstring& Caption() const override { return caption_; }
+  void SetCaption(std::wstring caption);
+  Alignment TextAlignment() const override { return alignment_; }
+  void SetTextAlignment(Alignment alignment);
+  bool UseMnemonic() const override { return useMnemonic_; }
+  void SetUseMnemonic(bool use);
+
+ private:
+  std::wstring caption_;
+  Alignment alignment_ = Alignment::kLeft;
+  bool useMnemonic_ = true;
+};
+
+}  // namespace burrowmark
