@@ -87,6 +87,7 @@ void frmMain::Form_Unload() {
   menu_.UnhookMenuWindow();
   hook_.UnhookKeyboard();
   tray_.Delete();
+  app_.Progress.reset();
   app_.HotKeyItems.clear();
   app_.MainStore = std::make_shared<clsMenuCollection>(app_.platform.clock);
   app_.MainWindow = 0;

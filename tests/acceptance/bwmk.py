@@ -50,14 +50,15 @@ class Entry:
     folder: str = ""
     open_type: str = SINGLE_PANE
     children: List["Entry"] = field(default_factory=list)
+    hot_key: Optional[int] = None
 
 
 def group(caption, *children):
     return Entry(caption, GROUP, children=list(children))
 
 
-def folder(caption, path, double_pane=False):
-    return Entry(caption, FOLDER, path, DOUBLE_PANE if double_pane else SINGLE_PANE)
+def folder(caption, path, double_pane=False, hot_key=None):
+    return Entry(caption, FOLDER, path, DOUBLE_PANE if double_pane else SINGLE_PANE, hot_key=hot_key)
 
 
 def open_all():
@@ -74,7 +75,7 @@ def _records_of(children, owner, path, location, counter):
         records.append(Record(
             position=str(position), name=name, caption=entry.caption, owner=owner, icon=icon,
             sub_menu=str(is_group), item_type=entry.item_type, open_type=entry.open_type, folder=entry.folder,
-            item_path=path, location=location))
+            item_path=path, location=location, keyboard_code=str(entry.hot_key or "")))
         if is_group:
             records += _records_of(
                 entry.children, name, path + entry.caption + "\\", location + "\\" + entry.caption, counter)

@@ -476,12 +476,13 @@ class DesktopTest(unittest.TestCase):
 
     size = (1024, 768)
     dpi = 96
+    prepare = None  # what is done to the prefix before the desktop starts
     desktop: Desktop
 
     @classmethod
     def setUpClass(cls):
         cls.settings = Settings.from_environment()
-        cls.desktop = Desktop(cls.settings, cls.size, cls.dpi)
+        cls.desktop = Desktop(cls.settings, cls.size, cls.dpi, cls.prepare)
         cls.desktop.start_desktop()
         cls.addClassCleanup(cls.desktop.stop)
 
