@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "platform/platform.h"
+#include "tests/contract/screen_under_test.h"
 
 namespace burrowmark {
 
@@ -23,6 +24,7 @@ class SystemUnderTest {
   virtual std::wstring Key() const = 0;
   // Holds a file open as another program does that shares it with nobody, until the object goes.
   virtual std::shared_ptr<void> HoldOpen(const std::wstring& path) = 0;
+  virtual ScreenUnderTest& screen() = 0;
   // Wine stands in for Windows and does some things otherwise.
   virtual bool IsWine() const { return false; }
   virtual bool HasPage1252() const { return true; }
