@@ -3,7 +3,7 @@
 namespace burrowmark {
 namespace {
 
-constexpr Size kClient{5160, 2145};
+constexpr Size kClient{5160, 2190};
 constexpr wchar_t kFilm[] = L"\\filecopy.avi";
 
 frmPause& Window(Application& app) {

@@ -21,8 +21,8 @@ class frmPause final : public Form {
 
   Application& app_;
   Animation Animation1{*this, L"Animation1", Box{180, 120, 4800, 900}};
-  Label lblStatus{*this, L"lblStatus", Box{180, 1110, 4800, 450}};
-  CommandButton cmdClose{*this, L"cmdClose", Box{3765, 1650, 1215, 375}, L"Close"};
+  Label lblStatus{*this, L"lblStatus", Box{180, 1170, 4800, 450}};
+  CommandButton cmdClose{*this, L"cmdClose", Box{3765, 1695, 1215, 375}, L"Close"};
 };
 
 // There is one such window, whoever shows it. Each of these also lets messages run, so that the window can draw itself.

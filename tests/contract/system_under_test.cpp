@@ -5,12 +5,14 @@
 
 #include "platform/local/folded.h"
 #include "platform/local/machine.h"
+#include "tests/contract/local_screen.h"
 
 #ifdef _WIN32
 #include <windows.h>
 
 #include "platform/win32/file_handle.h"
 #include "platform/win32/win32_platform.h"
+#include "tests/contract/win32_screen.h"
 #endif
 
 namespace burrowmark {
@@ -36,6 +38,7 @@ class LocalSystem final : public SystemUnderTest {
   Platform platform() override { return machine_.platform(); }
   std::wstring Folder() const override { return L"C:\\Scratch"; }
   std::wstring Key() const override { return L"Software\\Scratch"; }
+  ScreenUnderTest& screen() override { return screen_; }
   std::shared_ptr<void> HoldOpen(const std::wstring& path) override {
     const std::wstring held = Folded(path);
     machine_.faults.HeldOpen.insert(held);
@@ -49,6 +52,7 @@ class LocalSystem final : public SystemUnderTest {
  private:
   fs::path folder_ = fs::temp_directory_path() / UniqueName();
   LocalMachine machine_{folder_};
+  LocalScreen screen_{machine_};
 };
 
 #ifdef _WIN32
@@ -104,6 +108,7 @@ class Win32System final : public SystemUnderTest {
   Platform platform() override { return platform_.platform(); }
   std::wstring Folder() const override { return folder_; }
   std::wstring Key() const override { return key_; }
+  ScreenUnderTest& screen() override { return screen_; }
   std::shared_ptr<void> HoldOpen(const std::wstring& path) override {
     return std::make_shared<FileHandle>(
         ::CreateFileW(path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
@@ -127,6 +132,7 @@ class Win32System final : public SystemUnderTest {
   std::wstring folder_;
   std::wstring key_;
   Win32Platform platform_;
+  Win32Screen screen_{platform_.platform().windows};
 };
 
 #endif

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "platform/platform.h"
+#include "tests/contract/screen_under_test.h"
 
 namespace burrowmark {
 
@@ -27,6 +28,7 @@ class SystemUnderTest {
   virtual void PressKeys(const std::vector<std::int32_t>& keys) = 0;
   // False where there is no desktop that keys could be pressed on.
   virtual bool TakesKeys() { return true; }
+  virtual ScreenUnderTest& screen() = 0;
   // Wine stands in for Windows and does some things otherwise.
   virtual bool IsWine() const { return false; }
   virtual bool HasPage1252() const { return true; }

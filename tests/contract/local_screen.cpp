@@ -1,0 +1,75 @@
+#include "tests/contract/local_screen.h"
+
+namespace burrowmark {
+
+ShownWindow* LocalScreen::Form(WindowHandle form) const { return machine_.windows.Desktop.Find(form).get(); }
+
+ShownControl* LocalScreen::Control(WindowHandle control) const {
+  for (const auto& window : machine_.windows.Desktop.History()) {
+    ShownControl* found = window->IsOpen() ? window->WithWindow(control) : nullptr;
+    if (found != nullptr) return found;
+  }
+  return nullptr;
+}
+
+bool LocalScreen::Exists(WindowHandle window) { return Form(window) != nullptr || Control(window) != nullptr; }
+
+std::wstring LocalScreen::TextOf(WindowHandle window) {
+  if (const ShownWindow* form = Form(window)) return form->caption;
+  const ShownControl* control = Control(window);
+  return control == nullptr ? L"" : control->text;
+}
+
+bool LocalScreen::IsShown(WindowHandle window) {
+  if (const ShownWindow* form = Form(window)) return form->visible;
+  const ShownControl* control = Control(window);
+  return control != nullptr && control->visible;
+}
+
+bool LocalScreen::IsEnabled(WindowHandle window) {
+  if (const ShownWindow* form = Form(window)) return form->enabled;
+  if (const ShownControl* control = Control(window)) return control->enabled;
+  return !machine_.windows.Desktop.IsBlocked(window);
+}
+
+bool LocalScreen::HasFocus(WindowHandle control) {
+  const ShownControl* shown = Control(control);
+  return shown != nullptr && shown->focused;
+}
+
+bool LocalScreen::IsActive(WindowHandle form) {
+  const auto active = machine_.windows.Desktop.Active();
+  return active && active.get() == Form(form);
+}
+
+bool LocalScreen::IsTopMost(WindowHandle form) { return Form(form)->topMost; }
+
+WindowHandle LocalScreen::OwnerOf(WindowHandle form) { return Form(form)->owner; }
+
+bool LocalScreen::IsDefault(WindowHandle button) { return Control(button)->isDefault; }
+
+Rect LocalScreen::PlaceOf(WindowHandle, WindowHandle control) { return Control(control)->place; }
+
+Size LocalScreen::ClientOf(WindowHandle form) { return {Form(form)->client.right, Form(form)->client.bottom}; }
+
+void LocalScreen::Click(WindowHandle form, WindowHandle button) { Form(form)->Click(TextOf(button)); }
+
+void LocalScreen::Press(WindowHandle form, std::int32_t keyCode, std::int32_t shift) {
+  Form(form)->Press(keyCode, shift);
+}
+
+void LocalScreen::PressAlt(WindowHandle form, wchar_t character) { Form(form)->PressAlt(character); }
+
+void LocalScreen::Close(WindowHandle form) { Form(form)->Close(); }
+
+void LocalScreen::Resize(WindowHandle form, std::int32_t width, std::int32_t height) {
+  Form(form)->Resize(width, height);
+}
+
+void LocalScreen::ChangeScale(WindowHandle form, std::int32_t dpi) { Form(form)->ChangeScale(dpi); }
+
+void LocalScreen::NextWindow(const std::wstring& caption, std::function<void()> script) {
+  machine_.user.NextWindow(caption, [script = std::move(script)](ShownWindow&) { script(); });
+}
+
+}  // namespace burrowmark

@@ -1,0 +1,40 @@
+// The screen of the local machine.
+#pragma once
+
+#include "platform/local/machine.h"
+#include "tests/contract/screen_under_test.h"
+
+namespace burrowmark {
+
+class LocalScreen final : public ScreenUnderTest {
+ public:
+  explicit LocalScreen(LocalMachine& machine) : machine_(machine) {}
+
+  bool Exists(WindowHandle window) override;
+  std::wstring TextOf(WindowHandle window) override;
+  bool IsShown(WindowHandle window) override;
+  bool IsEnabled(WindowHandle window) override;
+  bool HasFocus(WindowHandle control) override;
+  bool IsActive(WindowHandle form) override;
+  bool IsTopMost(WindowHandle form) override;
+  WindowHandle OwnerOf(WindowHandle form) override;
+  bool IsDefault(WindowHandle button) override;
+  Rect PlaceOf(WindowHandle form, WindowHandle control) override;
+  Size ClientOf(WindowHandle form) override;
+  void Click(WindowHandle form, WindowHandle button) override;
+  void Press(WindowHandle form, std::int32_t keyCode, std::int32_t shift) override;
+  void PressAlt(WindowHandle form, wchar_t character) override;
+  void Close(WindowHandle form) override;
+  void Resize(WindowHandle form, std::int32_t width, std::int32_t height) override;
+  void ChangeScale(WindowHandle form, std::int32_t dpi) override;
+  void NextWindow(const std::wstring& caption, std::function<void()> script) override;
+  std::string Complaints() override { return machine_.user.TakeComplaints(); }
+
+ private:
+  ShownWindow* Form(WindowHandle form) const;
+  ShownControl* Control(WindowHandle control) const;
+
+  LocalMachine& machine_;
+};
+
+}  // namespace burrowmark

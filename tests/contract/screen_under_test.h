@@ -1,0 +1,45 @@
+// What stands on a system's screen, and a person in front of it.
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "platform/drawing.h"
+#include "platform/twips.h"
+#include "platform/window_handle.h"
+
+namespace burrowmark {
+
+class ScreenUnderTest {
+ public:
+  virtual ~ScreenUnderTest() = default;
+
+  virtual bool Exists(WindowHandle window) = 0;
+  virtual std::wstring TextOf(WindowHandle window) = 0;
+  virtual bool IsShown(WindowHandle window) = 0;
+  virtual bool IsEnabled(WindowHandle window) = 0;
+  virtual bool HasFocus(WindowHandle control) = 0;
+  virtual bool IsActive(WindowHandle form) = 0;
+  virtual bool IsTopMost(WindowHandle form) = 0;
+  virtual WindowHandle OwnerOf(WindowHandle form) = 0;
+  // Drawn as the button that Enter presses.
+  virtual bool IsDefault(WindowHandle button) = 0;
+  // Pixels within the form's client area.
+  virtual Rect PlaceOf(WindowHandle form, WindowHandle control) = 0;
+  virtual Size ClientOf(WindowHandle form) = 0;
+
+  // All of these end when the program has handled them.
+  virtual void Click(WindowHandle form, WindowHandle button) = 0;
+  virtual void Press(WindowHandle form, std::int32_t keyCode, std::int32_t shift = 0) = 0;
+  virtual void PressAlt(WindowHandle form, wchar_t character) = 0;
+  virtual void Close(WindowHandle form) = 0;
+  virtual void Resize(WindowHandle form, std::int32_t width, std::int32_t height) = 0;
+  virtual void ChangeScale(WindowHandle form, std::int32_t dpi) = 0;
+
+  // Runs when a modal window of that caption is up; it must go meanwhile.
+  virtual void NextWindow(const std::wstring& caption, std::function<void()> script) = 0;
+  // Everything that wasn't as expected.
+  virtual std::string Complaints() = 0;
+};
+
+}  // namespace burrowmark

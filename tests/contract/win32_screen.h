@@ -1,0 +1,44 @@
+// The screen of the real system. The person's gestures are the messages that the mouse and the keyboard make.
+#pragma once
+
+#ifdef _WIN32
+
+#include "platform/window_system.h"
+#include "tests/contract/screen_under_test.h"
+
+namespace burrowmark {
+
+class Win32Screen final : public ScreenUnderTest {
+ public:
+  explicit Win32Screen(WindowSystem& windows) : windows_(windows) {}
+
+  bool Exists(WindowHandle window) override;
+  std::wstring TextOf(WindowHandle window) override;
+  bool IsShown(WindowHandle window) override;
+  bool IsEnabled(WindowHandle window) override;
+  bool HasFocus(WindowHandle control) override;
+  bool IsActive(WindowHandle form) override;
+  bool IsTopMost(WindowHandle form) override;
+  WindowHandle OwnerOf(WindowHandle form) override;
+  bool IsDefault(WindowHandle button) override;
+  Rect PlaceOf(WindowHandle form, WindowHandle control) override;
+  Size ClientOf(WindowHandle form) override;
+  void Click(WindowHandle form, WindowHandle button) override;
+  void Press(WindowHandle form, std::int32_t keyCode, std::int32_t shift) override;
+  void PressAlt(WindowHandle form, wchar_t character) override;
+  void Close(WindowHandle form) override;
+  void Resize(WindowHandle form, std::int32_t width, std::int32_t height) override;
+  void ChangeScale(WindowHandle form, std::int32_t dpi) override;
+  void NextWindow(const std::wstring& caption, std::function<void()> script) override;
+  std::string Complaints() override;
+
+ private:
+  void WaitForWindow(const std::wstring& caption, const std::function<void()>& script, int tries);
+
+  WindowSystem& windows_;
+  int waiting_ = 0;
+};
+
+}  // namespace burrowmark
+
+#endif
