@@ -323,9 +323,9 @@ class Idle(MenuTest):
         self.assertEqual(len(process), 1)
         # The time itself is what is measured here, so it has to pass.
         before = process[0].ticks()
-        time.sleep(20)
+        time.sleep(60)
         used = process[0].ticks() - before
-        print("       processor time in 20 s: %d ticks of 1/%d s" % (used, os.sysconf("SC_CLK_TCK")))
+        print("       processor time in 60 s: %d ticks of 1/%d s" % (used, os.sysconf("SC_CLK_TCK")))
         self.assertLessEqual(used, 1)
 
 
