@@ -2,7 +2,7 @@
 
 namespace burrowmark {
 
-Animation::Animation(Form& form, std::wstring name, const Box& place) : ControlOf(form, std::move(name), place) {
+Animation::Animation(ControlSite& form, std::wstring name, const Box& place) : ControlOf(form, std::move(name), place) {
   StartWithoutTabStop();
 }
 

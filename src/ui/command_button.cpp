@@ -1,10 +1,8 @@
 #include "ui/command_button.h"
 
-#include "ui/form.h"
-
 namespace burrowmark {
 
-CommandButton::CommandButton(Form& form, std::wstring name, const Box& place, std::wstring caption)
+CommandButton::CommandButton(ControlSite& form, std::wstring name, const Box& place, std::wstring caption)
     : ControlOf(form, std::move(name), place), caption_(std::move(caption)) {}
 
 CommandButton::~CommandButton() {
@@ -16,19 +14,19 @@ void CommandButton::SetCaption(std::wstring caption) {
   if (Assign(caption_, std::move(caption))) Tell(&ButtonPeer::CaptionChanged);
 }
 
-bool CommandButton::Default() const { return Owner().default_ == this; }
+bool CommandButton::Default() const { return Site().DefaultButton() == this; }
 
 void CommandButton::SetDefault(bool on) {
-  if (on != Default()) Owner().SetDefaultButton(on ? this : nullptr);
+  if (on != Default()) Site().SetDefaultButton(on ? this : nullptr);
 }
 
-bool CommandButton::Cancel() const { return Owner().cancel_ == this; }
+bool CommandButton::Cancel() const { return Site().CancelButton() == this; }
 
 void CommandButton::SetCancel(bool on) {
-  if (on != Cancel()) Owner().cancel_ = on ? this : nullptr;
+  if (on != Cancel()) Site().SetCancelButton(on ? this : nullptr);
 }
 
-bool CommandButton::ShowsDefault() const { return Owner().ButtonOfEnter() == this; }
+bool CommandButton::ShowsDefault() const { return Site().ButtonOfEnter() == this; }
 
 void CommandButton::SetValue(bool value) {
   if (value) Press();
@@ -39,7 +37,7 @@ void CommandButton::UserClick() {
 }
 
 void CommandButton::Press() {
-  const Form::Inside inside(Owner());
+  const ControlSite::Running running(Site());
   Raise(Click);
 }
 

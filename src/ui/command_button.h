@@ -7,7 +7,7 @@ namespace burrowmark {
 
 class CommandButton final : public ControlOf<ButtonState, ButtonPeer> {
  public:
-  CommandButton(Form& form, std::wstring name, const Box& place, std::wstring caption);
+  CommandButton(ControlSite& form, std::wstring name, const Box& place, std::wstring caption);
   ~CommandButton();
 
   // The mouse, Space, Enter, the mnemonic, or code that sets the value.
@@ -32,6 +32,7 @@ class CommandButton final : public ControlOf<ButtonState, ButtonPeer> {
 
  private:
   bool ShowsDefaultWithFocus() const override { return true; }
+  void UserPress() override { UserClick(); }
   void DefaultMoved() override { Tell(&ButtonPeer::DefaultChanged); }
   void Press();
 

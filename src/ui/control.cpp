@@ -1,10 +1,9 @@
 #include "ui/control.h"
 
-#include "ui/form.h"
-
 namespace burrowmark {
 
-Control::Control(Form& form, std::wstring name, const Box& place) : form_(form), name_(std::move(name)), place_(place) {
+Control::Control(ControlSite& form, std::wstring name, const Box& place)
+    : form_(form), name_(std::move(name)), place_(place) {
   form_.Enter(*this);
 }
 
@@ -35,7 +34,7 @@ void Control::SetTabStop(bool tabStop) {
   if (ControlPeer* peer = ThePeer()) peer->TabStopChanged();
 }
 
-bool Control::HasFocus() const { return form_.focused_ == this; }
+bool Control::HasFocus() const { return form_.ActiveControl() == this; }
 
 void Control::SetFocus() {
   if (ControlPeer* peer = ThePeer(); peer != nullptr && IsReachable()) peer->TakeFocus();
@@ -43,7 +42,7 @@ void Control::SetFocus() {
 
 void Control::UserFocus(bool has) {
   if (has == HasFocus()) return;
-  const Form::Inside inside(form_);
+  const ControlSite::Running running(form_);
   form_.MoveFocus(has ? this : nullptr);
 }
 

@@ -26,7 +26,46 @@
 
 namespace burrowmark {
 
-class Form;
+class Control;
+
+// What a control asks of its form.
+class ControlSite {
+ public:
+  // While it lives something of the form is running, and no window of the form goes for good.
+  class Running {
+   public:
+    explicit Running(ControlSite& site) : site_(site) { site_.BeginEvent(); }
+    ~Running() { site_.EndEvent(); }
+    Running(const Running&) = delete;
+    Running& operator=(const Running&) = delete;
+
+   private:
+    ControlSite& site_;
+  };
+
+  virtual void Enter(Control& control) = 0;
+  virtual void Leave(Control& control) = 0;
+  virtual bool IsReachable() const = 0;
+
+  virtual Control* ActiveControl() const = 0;
+  virtual void MoveFocus(Control* control) = 0;
+  virtual Control* DefaultButton() const = 0;
+  virtual void SetDefaultButton(Control* button) = 0;
+  virtual Control* CancelButton() const = 0;
+  virtual void SetCancelButton(Control* button) = 0;
+  // The one that Enter presses now: the default button, unless the focus is on another one.
+  virtual Control* ButtonOfEnter() const = 0;
+
+ protected:
+  ControlSite() = default;
+  ControlSite(const ControlSite&) = default;
+  ControlSite& operator=(const ControlSite&) = default;
+  ~ControlSite() = default;
+
+ private:
+  virtual void BeginEvent() = 0;
+  virtual void EndEvent() = 0;
+};
 
 // Stores a value; true if it is another one than before.
 template <typename Value>
@@ -44,7 +83,7 @@ void Raise(std::function<void(Arguments...)> event, Arguments... arguments) {
 
 class Control : public virtual ControlState {
  public:
-  Control(Form& form, std::wstring name, const Box& place);
+  Control(ControlSite& form, std::wstring name, const Box& place);
   Control(const Control&) = delete;
   Control& operator=(const Control&) = delete;
 
@@ -75,21 +114,22 @@ class Control : public virtual ControlState {
   // For the last moment in which the control's peer is there.
   void LeaveForm();
   void StartWithoutTabStop() { tabStop_ = false; }
-  Form& Owner() const { return form_; }
+  ControlSite& Site() const { return form_; }
   // The user can do something to it.
   bool IsReachable() const;
 
   virtual ControlPeer* ThePeer() const = 0;
 
  private:
-  friend class Form;
+  friend class Form;  // which makes the peers and takes them away
   virtual void MakePeer(Peers& peers, WindowHandle parent) = 0;
   virtual std::unique_ptr<ControlPeer> TakePeer() = 0;
   // What Enter does when it is the form's button for that.
   virtual bool ShowsDefaultWithFocus() const { return false; }
   virtual void DefaultMoved() {}
+  virtual void UserPress() {}
 
-  Form& form_;
+  ControlSite& form_;
   std::wstring name_;
   Box place_;
   bool visible_ = true;

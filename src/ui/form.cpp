@@ -4,8 +4,6 @@
 #include <iterator>
 #include <utility>
 
-#include "ui/command_button.h"
-
 namespace burrowmark {
 namespace {
 
@@ -26,8 +24,8 @@ class Flag {
 
 WindowHandle FormOwner::Window() const { return form_ != nullptr ? form_->Window() : window_; }
 
-Form::Inside::~Inside() {
-  if (--form_.running_ == 0) form_.BuryRemains();
+void Form::EndEvent() {
+  if (--running_ == 0) BuryRemains();
 }
 
 Form::Form(WindowSystem& windows, std::wstring name, const Size& client)
@@ -62,7 +60,7 @@ void Form::Leave(Control& control) {
 
 void Form::Load() {
   if (peer_ || loading_) return;
-  const Inside inside(*this);
+  const Running running(*this);
   {
     const Flag loading(loading_);
     MakePeers();
@@ -78,7 +76,7 @@ void Form::MakePeers() {
 
 void Form::Realise() {
   if (!peer_) return;
-  const Inside inside(*this);
+  const Running running(*this);
   const Control* focused = focused_;
   const bool blocks = modal_ && blocked_.TheForm() == nullptr && blocked_.Window() != 0;
   if (blocks) peer_->BlockOwner(false);
@@ -120,7 +118,7 @@ void Form::BuryRemains() {
 bool Form::Unload(UnloadMode mode) {
   if (!peer_) return true;
   if (unloading_) return false;
-  const Inside inside(*this);
+  const Running running(*this);
   const Flag unloading(unloading_);
   if (!MayUnload(mode)) return false;
   LetGo();
@@ -154,7 +152,7 @@ void Form::LetGo() {
 
 void Form::WindowLost() {
   if (!peer_) return;
-  const Inside inside(*this);
+  const Running running(*this);
   for (Form* form : std::vector<Form*>(owned_)) form->WindowLost();
   bool cancel = false;
   if (!unloading_) Form_Unload(cancel);
@@ -169,7 +167,7 @@ void Form::Show(ShowMode mode, const FormOwner& owner) {
 }
 
 void Form::Show(ShowMode mode) {
-  const Inside inside(*this);
+  const Running running(*this);
   Load();
   if (!peer_ || visible_) return;
   if (mode == Modal) return ShowModal();
@@ -184,7 +182,7 @@ void Form::MakeVisible() {
 
 void Form::Hide() {
   if (!visible_) return;
-  const Inside inside(*this);
+  const Running running(*this);
   LeaveModal();
   visible_ = false;
   Tell(&FormPeer::VisibleChanged);
@@ -301,7 +299,7 @@ Control* Form::ButtonOfEnter() const {
   return focused_ != nullptr && focused_->ShowsDefaultWithFocus() ? focused_ : default_;
 }
 
-void Form::SetDefaultButton(CommandButton* button) {
+void Form::SetDefaultButton(Control* button) {
   Control* before = ButtonOfEnter();
   default_ = button;
   TellDefaultMoved(before);
@@ -326,26 +324,26 @@ void Form::UserClose() {
 }
 
 void Form::UserMove(const FormGeometry& geometry) {
-  const Inside inside(*this);
+  const Running running(*this);
   const bool resized = geometry.client != geometry_.client;
   geometry_ = geometry;
   if (resized && peer_ && !loading_) Form_Resize();
 }
 
 void Form::UserActivate(bool active) {
-  const Inside inside(*this);
+  const Running running(*this);
   active ? Form_Activate() : Form_Deactivate();
 }
 
 bool Form::UserKey(std::int32_t keyCode, std::int32_t shift) {
   if (!keyPreview_ || !IsReachable()) return false;
-  const Inside inside(*this);
+  const Running running(*this);
   Form_KeyDown(keyCode, shift);
   return keyCode == 0 || !IsReachable();
 }
 
 void Form::UserEscape() {
-  if (cancel_ != nullptr) cancel_->UserClick();
+  if (cancel_ != nullptr) cancel_->UserPress();
 }
 
 void Form::UserScale() {

@@ -10,7 +10,6 @@
 
 namespace burrowmark {
 
-class CommandButton;
 class Form;
 
 enum class ShowMode : std::uint8_t { Modeless, Modal };
@@ -36,7 +35,7 @@ class FormOwner {
 };
 
 // A form is loaded when it has a window. It can be unloaded and loaded again; its state and that of its controls stays.
-class Form : public FormState {
+class Form : public FormState, public ControlSite {
  public:
   // `client` is the size of what is within the frame.
   Form(WindowSystem& windows, std::wstring name, const Size& client);
@@ -93,7 +92,7 @@ class Form : public FormState {
   bool KeyPreview() const { return keyPreview_; }
   void SetKeyPreview(bool on) { keyPreview_ = on; }
   // The control with the focus; none while that is elsewhere.
-  Control* ActiveControl() const { return focused_; }
+  Control* ActiveControl() const final { return focused_; }
 
   WindowHandle EnterButton() const final;
 
@@ -117,20 +116,6 @@ class Form : public FormState {
   virtual void Form_KeyDown(std::int32_t& KeyCode, std::int32_t Shift);
 
  private:
-  friend class Control;
-  friend class CommandButton;
-
-  // While it lives something of the form is running, and no window of the form goes for good.
-  class Inside {
-   public:
-    explicit Inside(Form& form) : form_(form) { ++form_.running_; }
-    ~Inside();
-    Inside(const Inside&) = delete;
-    Inside& operator=(const Inside&) = delete;
-
-   private:
-    Form& form_;
-  };
   class Modality;
   // Peers of a window that has gone from the screen; controls go ahead of their form.
   struct Remains {
@@ -138,9 +123,17 @@ class Form : public FormState {
     std::vector<std::unique_ptr<ControlPeer>> controls;
   };
 
-  void Enter(Control& control) { controls_.push_back(&control); }
-  void Leave(Control& control);
-  bool IsReachable() const { return peer_ && visible_ && TakesInput(); }
+  void Enter(Control& control) final { controls_.push_back(&control); }
+  void Leave(Control& control) final;
+  bool IsReachable() const final { return peer_ && visible_ && TakesInput(); }
+  void MoveFocus(Control* control) final;
+  Control* DefaultButton() const final { return default_; }
+  void SetDefaultButton(Control* button) final;
+  Control* CancelButton() const final { return cancel_; }
+  void SetCancelButton(Control* button) final { cancel_ = button; }
+  Control* ButtonOfEnter() const final;
+  void BeginEvent() final { ++running_; }
+  void EndEvent() final;
 
   void MakePeers();
   void RetirePeers();
@@ -157,9 +150,6 @@ class Form : public FormState {
   void LeaveModal();
   void Block(int forms);
 
-  void MoveFocus(Control* control);
-  void SetDefaultButton(CommandButton* button);
-  Control* ButtonOfEnter() const;
   void TellDefaultMoved(Control* before);
 
   template <typename Change>
@@ -190,8 +180,8 @@ class Form : public FormState {
 
   std::vector<Control*> controls_;  // in tab order
   Control* focused_ = nullptr;
-  CommandButton* default_ = nullptr;
-  CommandButton* cancel_ = nullptr;
+  Control* default_ = nullptr;
+  Control* cancel_ = nullptr;
 
   std::unique_ptr<FormPeer> peer_;
   std::vector<Remains> remains_;

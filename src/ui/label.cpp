@@ -2,7 +2,7 @@
 
 namespace burrowmark {
 
-Label::Label(Form& form, std::wstring name, const Box& place, std::wstring caption)
+Label::Label(ControlSite& form, std::wstring name, const Box& place, std::wstring caption)
     : ControlOf(form, std::move(name), place), caption_(std::move(caption)) {
   StartWithoutTabStop();
 }

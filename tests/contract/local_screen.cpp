@@ -12,7 +12,7 @@ ShownControl* LocalScreen::Control(WindowHandle control) const {
   return nullptr;
 }
 
-bool LocalScreen::Exists(WindowHandle window) { return Form(window) != nullptr || Control(window) != nullptr; }
+bool LocalScreen::Exists(WindowHandle window) { return machine_.windows.PostMessageA(window, kMessageNull, 0, 0); }
 
 std::wstring LocalScreen::TextOf(WindowHandle window) {
   if (const ShownWindow* form = Form(window)) return form->caption;

@@ -445,6 +445,18 @@ TEST_P(UiContract, AFormUnloadsFromWithinItsOwnEvents) {
   }
 }
 
+TEST_P(UiContract, AWindowGoesFromTheScreenAtOnceAndForGoodFromTheLoop) {
+  form_.cmdOne.Click = [this] { form_.Unload(); };
+  form_.Show();
+  const WindowHandle window = form_.Window();
+  const WindowHandle button = form_.cmdOne.Window();
+  form_.cmdOne.UserClick();
+  EXPECT_FALSE(screen_.IsShown(window));
+  EXPECT_TRUE(screen_.Exists(window) && screen_.Exists(button)) << "it may be in the middle of what called the door";
+  windows_.DoEvents();
+  EXPECT_FALSE(screen_.Exists(window) || screen_.Exists(button));
+}
+
 TEST_P(UiContract, AFormThatUnloadedItselfCanBeShownAgainInTheSameEvent) {
   form_.cmdOne.Click = [this] {
     form_.Unload();

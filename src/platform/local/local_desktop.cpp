@@ -44,6 +44,16 @@ void LocalDesktop::Raise(WindowHandle window) {
   }
 }
 
+void LocalDesktop::RunGesture(WindowHandle window, const std::function<void()>& gesture) {
+  process_.RunGesture([this, window, gesture] {
+    const std::shared_ptr<ShownWindow> shown = Find(window);
+    if (!shown || !shown->visible || !shown->enabled) return;
+    Raise(window);
+    Activate(shown);
+    if (shown->IsOpen()) gesture();
+  });
+}
+
 void LocalDesktop::LoseOwned(WindowHandle owner) {
   for (const auto& window : std::vector<std::shared_ptr<ShownWindow>>(all_)) {
     if (window->owner == owner && window->IsOpen()) window->Form()->WindowLost();

@@ -7,14 +7,17 @@
 #include <string>
 #include <vector>
 
+#include "platform/local/local_process.h"
 #include "platform/local/shown_window.h"
 
 namespace burrowmark {
 
-class LocalDesktop {
+class LocalDesktop final : public WindowStack {
  public:
-  static constexpr Rect kScreen{0, 0, 1920, 1040};
-  static constexpr std::int32_t kSystemDpi = kDesignDpi;
+  // `process` must outlive this object.
+  explicit LocalDesktop(LocalProcess& process) : process_(process) {}
+  LocalDesktop(const LocalDesktop&) = delete;
+  LocalDesktop& operator=(const LocalDesktop&) = delete;
 
   // All windows that there ever were, in the order in which they were made.
   const std::vector<std::shared_ptr<ShownWindow>>& History() const { return all_; }
@@ -38,10 +41,11 @@ class LocalDesktop {
   // To the top of the windows that are as it is, topmost or not, with what it owns above it.
   void Raise(WindowHandle window);
   void Activate(const std::shared_ptr<ShownWindow>& window);
-  // The window has gone from the screen, or takes no input any more: another one gets the focus if it had it.
-  void Deactivate(const ShownWindow& window);
+  void RunGesture(WindowHandle window, const std::function<void()>& gesture) override;
+  void Deactivate(const ShownWindow& window) override;
 
  private:
+  LocalProcess& process_;
   std::vector<std::shared_ptr<ShownWindow>> all_;
   std::vector<std::shared_ptr<ShownWindow>> order_;  // from the bottom to the top
   std::weak_ptr<ShownWindow> active_;

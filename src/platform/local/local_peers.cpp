@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <stdexcept>
 
-#include "platform/local/local_windows.h"
-
 namespace burrowmark {
 namespace {
 
@@ -12,11 +10,11 @@ namespace {
 template <typename KindPeer, typename State>
 class LocalControl : public KindPeer {
  public:
-  LocalControl(LocalWindows& windows, LocalSession& session, WindowHandle parent, ShownKind kind, State& state)
-      : windows_(windows), session_(session), form_(windows.Desktop.Find(parent)), state_(&state) {
+  LocalControl(LocalProcess& process, LocalDesktop& desktop, WindowHandle parent, ShownKind kind, State& state)
+      : process_(process), desktop_(desktop), form_(desktop.Find(parent)), state_(&state) {
     if (!form_) throw std::runtime_error("a control without a form's window");
     shown_->kind = kind;
-    shown_->window = session_.AddWindow(windows);
+    shown_->window = process_.AddHandle();
     shown_->enabled = state.Enabled();
     shown_->visible = state.Visible();
     shown_->tabStop = state.TabStop();
@@ -26,7 +24,7 @@ class LocalControl : public KindPeer {
   }
   ~LocalControl() override {
     Retire();
-    session_.RemoveWindow(shown_->window);
+    process_.RemoveHandle(shown_->window);
     std::erase(form_->controls, shown_);
   }
   LocalControl(const LocalControl&) = delete;
@@ -49,21 +47,21 @@ class LocalControl : public KindPeer {
   void TabStopChanged() final { shown_->tabStop = state_->TabStop(); }
   void ScaleChanged() final { PlaceChanged(); }
   void TakeFocus() final {
-    if (windows_.Desktop.Active() == form_) form_->SetFocus(shown_.get());
+    if (desktop_.Active() == form_) form_->SetFocus(shown_.get());
   }
 
  protected:
   ShownControl& Shown() { return *shown_; }
   State& Control() const { return *state_; }
-  LocalWindows& Windows() const { return windows_; }
+  bool HasFile(const std::wstring& path) const { return process_.HasFile(path); }
 
  private:
   void LeaveIfUnusable() {
     if (shown_->focused && !(shown_->visible && shown_->enabled)) form_->SetFocus(nullptr);
   }
 
-  LocalWindows& windows_;
-  LocalSession& session_;
+  LocalProcess& process_;
+  LocalDesktop& desktop_;
   std::shared_ptr<ShownWindow> form_;
   State* state_;
   std::shared_ptr<ShownControl> shown_ = std::make_shared<ShownControl>();
@@ -71,8 +69,8 @@ class LocalControl : public KindPeer {
 
 class LocalLabel final : public LocalControl<LabelPeer, LabelState> {
  public:
-  LocalLabel(LocalWindows& windows, LocalSession& session, WindowHandle parent, LabelState& label)
-      : LocalControl(windows, session, parent, ShownKind::kLabel, label) {
+  LocalLabel(LocalProcess& process, LocalDesktop& desktop, WindowHandle parent, LabelState& label)
+      : LocalControl(process, desktop, parent, ShownKind::kLabel, label) {
     ShowAll();
   }
   void CaptionChanged() override { ShowAll(); }
@@ -88,8 +86,8 @@ class LocalLabel final : public LocalControl<LabelPeer, LabelState> {
 
 class LocalButton final : public LocalControl<ButtonPeer, ButtonState> {
  public:
-  LocalButton(LocalWindows& windows, LocalSession& session, WindowHandle parent, ButtonState& button)
-      : LocalControl(windows, session, parent, ShownKind::kButton, button) {
+  LocalButton(LocalProcess& process, LocalDesktop& desktop, WindowHandle parent, ButtonState& button)
+      : LocalControl(process, desktop, parent, ShownKind::kButton, button) {
     Shown().UserClick = [&button] { button.UserClick(); };
     ShowAll();
   }
@@ -105,8 +103,8 @@ class LocalButton final : public LocalControl<ButtonPeer, ButtonState> {
 
 class LocalAnimation final : public LocalControl<AnimationPeer, AnimationState> {
  public:
-  LocalAnimation(LocalWindows& windows, LocalSession& session, WindowHandle parent, AnimationState& animation)
-      : LocalControl(windows, session, parent, ShownKind::kAnimation, animation) {
+  LocalAnimation(LocalProcess& process, LocalDesktop& desktop, WindowHandle parent, AnimationState& animation)
+      : LocalControl(process, desktop, parent, ShownKind::kAnimation, animation) {
     ShowAll();
   }
   void FileChanged() override { ShowAll(); }
@@ -114,7 +112,7 @@ class LocalAnimation final : public LocalControl<AnimationPeer, AnimationState> 
 
  private:
   void ShowAll() {
-    const bool there = Windows().HasFile && Windows().HasFile(Control().File());
+    const bool there = HasFile(Control().File());
     Shown().text = there ? Control().File() : L"";
     Shown().playing = there && Control().Playing();
   }
@@ -122,28 +120,28 @@ class LocalAnimation final : public LocalControl<AnimationPeer, AnimationState> 
 
 class LocalForm final : public FormPeer {
  public:
-  LocalForm(LocalWindows& windows, LocalSession& session, FormState& form)
-      : windows_(windows),
-        session_(session),
+  LocalForm(LocalProcess& process, LocalDesktop& desktop, FormState& form)
+      : process_(process),
+        desktop_(desktop),
         form_(form),
-        shown_(std::make_shared<ShownWindow>(windows, form)),
-        handle_(session.AddWindow(windows)) {
+        shown_(std::make_shared<ShownWindow>(desktop, form)),
+        handle_(process.AddHandle()) {
     shown_->window = handle_;
     shown_->owner = form.OwnerWindow();
-    shown_->dpi = windows.Dpi;
+    shown_->dpi = process.Scale();
     shown_->border = form.Border();
     shown_->caption = form.Caption();
     shown_->enabled = form.TakesInput();
     shown_->topMost = form.TopMost();
     shown_->pointer = form.MousePointer();
     shown_->icon = form.Icon();
-    windows_.Desktop.Add(shown_);
+    desktop_.Add(shown_);
     PlaceChanged();
   }
   ~LocalForm() override {
     Retire();
-    windows_.Desktop.LoseOwned(handle_);
-    session_.RemoveWindow(handle_);
+    desktop_.LoseOwned(handle_);
+    process_.RemoveHandle(handle_);
   }
   LocalForm(const LocalForm&) = delete;
   LocalForm& operator=(const LocalForm&) = delete;
@@ -156,7 +154,7 @@ class LocalForm final : public FormPeer {
   WindowHandle Window() const override { return handle_; }
   void CaptionChanged() override { shown_->caption = form_.Caption(); }
   void PlaceChanged() override {
-    const std::shared_ptr<ShownWindow> owner = windows_.Desktop.Find(form_.OwnerWindow());
+    const std::shared_ptr<ShownWindow> owner = desktop_.Find(form_.OwnerWindow());
     const bool over = owner && owner->visible && owner->state != FormWindowState::kMinimized;
     shown_->Put(over ? owner->place : LocalDesktop::kScreen);
     shown_->Report();
@@ -167,13 +165,13 @@ class LocalForm final : public FormPeer {
   }
   void VisibleChanged() override {
     shown_->visible = form_.Visible();
-    if (!shown_->visible) return windows_.Desktop.Deactivate(*shown_);
+    if (!shown_->visible) return desktop_.Deactivate(*shown_);
     WindowStateChanged();
     BringToFront();
   }
   void TakesInputChanged() override {
     shown_->enabled = form_.TakesInput();
-    if (!shown_->enabled) windows_.Desktop.Deactivate(*shown_);
+    if (!shown_->enabled) desktop_.Deactivate(*shown_);
   }
   void WindowStateChanged() override {
     if (!shown_->visible) return;
@@ -184,22 +182,22 @@ class LocalForm final : public FormPeer {
   void MousePointerChanged() override { shown_->pointer = form_.MousePointer(); }
   void IconChanged() override { shown_->icon = form_.Icon(); }
   void BringToFront() override {
-    windows_.Desktop.Raise(handle_);
-    if (shown_->IsOpen() && shown_->visible && shown_->enabled) windows_.Desktop.Activate(shown_);
+    desktop_.Raise(handle_);
+    if (shown_->IsOpen() && shown_->visible && shown_->enabled) desktop_.Activate(shown_);
   }
   void BlockOwner(bool block) override {
     if (!block) {
-      windows_.Desktop.Unblock(blocked_);
+      desktop_.Unblock(blocked_);
       blocked_ = 0;
-    } else if (windows_.Desktop.Block(form_.OwnerWindow())) {
+    } else if (desktop_.Block(form_.OwnerWindow())) {
       blocked_ = form_.OwnerWindow();
     }
   }
   std::int32_t Dpi() const override { return shown_->dpi; }
 
  private:
-  LocalWindows& windows_;
-  LocalSession& session_;
+  LocalProcess& process_;
+  LocalDesktop& desktop_;
   FormState& form_;
   std::shared_ptr<ShownWindow> shown_;
   WindowHandle handle_;
@@ -209,19 +207,19 @@ class LocalForm final : public FormPeer {
 }  // namespace
 
 std::unique_ptr<FormPeer> LocalPeers::MakePeer(FormState& form) {
-  return std::make_unique<LocalForm>(windows_, session_, form);
+  return std::make_unique<LocalForm>(process_, desktop_, form);
 }
 
 std::unique_ptr<LabelPeer> LocalPeers::MakePeer(WindowHandle parent, LabelState& label) {
-  return std::make_unique<LocalLabel>(windows_, session_, parent, label);
+  return std::make_unique<LocalLabel>(process_, desktop_, parent, label);
 }
 
 std::unique_ptr<ButtonPeer> LocalPeers::MakePeer(WindowHandle parent, ButtonState& button) {
-  return std::make_unique<LocalButton>(windows_, session_, parent, button);
+  return std::make_unique<LocalButton>(process_, desktop_, parent, button);
 }
 
 std::unique_ptr<AnimationPeer> LocalPeers::MakePeer(WindowHandle parent, AnimationState& animation) {
-  return std::make_unique<LocalAnimation>(windows_, session_, parent, animation);
+  return std::make_unique<LocalAnimation>(process_, desktop_, parent, animation);
 }
 
 }  // namespace burrowmark

@@ -1,16 +1,16 @@
 // Peers of the local machine: what they show is kept as data.
 #pragma once
 
-#include "platform/local/local_session.h"
-#include "platform/local/shown_window.h"
+#include "platform/local/local_desktop.h"
+#include "platform/local/local_process.h"
 #include "platform/ui_peers.h"
 
 namespace burrowmark {
 
 class LocalPeers final : public Peers {
  public:
-  // `windows` must outlive this object and all peers.
-  LocalPeers(LocalWindows& windows, LocalSession& session) : windows_(windows), session_(session) {}
+  // Both must outlive this object and all peers.
+  LocalPeers(LocalProcess& process, LocalDesktop& desktop) : process_(process), desktop_(desktop) {}
 
   std::unique_ptr<FormPeer> MakePeer(FormState& form) override;
   std::unique_ptr<LabelPeer> MakePeer(WindowHandle parent, LabelState& label) override;
@@ -18,8 +18,8 @@ class LocalPeers final : public Peers {
   std::unique_ptr<AnimationPeer> MakePeer(WindowHandle parent, AnimationState& animation) override;
 
  private:
-  LocalWindows& windows_;
-  LocalSession& session_;
+  LocalProcess& process_;
+  LocalDesktop& desktop_;
 };
 
 }  // namespace burrowmark

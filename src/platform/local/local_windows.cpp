@@ -54,7 +54,7 @@ WindowMessage MessageTo(WindowHandle window, std::uint32_t number, std::int64_t 
 }
 
 LocalWindows::LocalWindows(MenuTree& menus, std::shared_ptr<LocalSession> session, Faults& faults)
-    : menus_(menus), session_(std::move(session)), faults_(faults), peers_(*this, *session_) {}
+    : menus_(menus), session_(std::move(session)), faults_(faults), peers_(*this, Desktop) {}
 
 LocalWindows::~LocalWindows() { session_->Leave(*this); }
 
@@ -153,6 +153,11 @@ void LocalWindows::Post(std::function<void()> work) { queue_.push_back(std::move
 
 void LocalWindows::PostLater(std::int32_t milliseconds, std::function<void()> work) {
   later_.emplace(now_ + std::max(milliseconds, 0), std::move(work));
+}
+
+void LocalWindows::RunGesture(std::function<void()> gesture) {
+  Post(std::move(gesture));
+  if (!IsBusy()) DoEvents();
 }
 
 bool LocalWindows::RunOne() {

@@ -30,7 +30,7 @@ WindowMessage MessageTo(WindowHandle window, std::uint32_t number, std::int64_t 
 // The number of copied data is the message's lParam.
 //
 // Time stands still until a test lets it pass, or RunLoop has nothing else to do.
-class LocalWindows final : public WindowSystem {
+class LocalWindows final : public WindowSystem, private LocalProcess {
  public:
   // `menus` and `faults` must outlive this object.
   LocalWindows(MenuTree& menus, std::shared_ptr<LocalSession> session, Faults& faults);
@@ -43,11 +43,11 @@ class LocalWindows final : public WindowSystem {
   // come any more.
   std::function<bool()> Input;
 
-  LocalDesktop Desktop;
+  LocalDesktop Desktop{*this};
   // Meets a modal window as long as it is open. False: nobody was told to, and Input goes on.
   std::function<bool(ShownWindow& window, const std::function<bool()>& open)> Person;
   // Whether there is such a file for an animation to play.
-  std::function<bool(const std::wstring& path)> HasFile;
+  std::function<bool(const std::wstring& path)> FileTest;
 
   // Lets time pass, with all that falls due in it.
   void Advance(std::int64_t milliseconds);
@@ -95,6 +95,11 @@ class LocalWindows final : public WindowSystem {
   MenuHandle MakeBar();
   std::int64_t Deliver(LocalWindows* process, WindowMessage& message);
   std::int64_t OwnProcedure(const WindowMessage& message);
+  WindowHandle AddHandle() override { return session_->AddWindow(*this); }
+  void RemoveHandle(WindowHandle window) override { session_->RemoveWindow(window); }
+  std::int32_t Scale() const override { return Dpi; }
+  bool HasFile(const std::wstring& path) const override { return FileTest && FileTest(path); }
+  void RunGesture(std::function<void()> gesture) override;
   bool RunOne();
   void RunWhile(const std::function<bool()>& going);
   void RunNextLater();

@@ -50,7 +50,7 @@ LocalMachine::LocalMachine(fs::path folder, std::shared_ptr<LocalSession> sessio
       menus(menuTree_, windows, drawing, facts, user, uiFaults),
       dialogs(user, windows),
       keyboard(uiFaults) {
-  windows.HasFile = [this](const std::wstring& path) { return HasFile(path); };
+  windows.FileTest = [this](const std::wstring& path) { return HasFile(path); };
   if (fs::exists(folder_ / "drives")) return;
   fs::create_directories(folder_);
   Furnish();

@@ -6,7 +6,6 @@
 
 #include "platform/characters.h"
 #include "platform/key_codes.h"
-#include "platform/local/local_windows.h"
 
 namespace burrowmark {
 namespace {
@@ -80,13 +79,7 @@ std::wstring ShownWindow::LabelTexts() const {
 void ShownWindow::Do(const std::function<void()>& gesture) {
   if (!IsOpen() || !visible) throw std::logic_error("the window isn't on the screen: " + ToUtf8(caption));
   if (!enabled) throw std::logic_error("a modal window is in front of this one: " + ToUtf8(caption));
-  windows_.Post([window = windows_.Desktop.Find(window), gesture] {
-    if (!window || !window->visible || !window->enabled) return;
-    window->windows_.Desktop.Raise(window->window);
-    window->windows_.Desktop.Activate(window);
-    if (window->IsOpen()) gesture();
-  });
-  if (!windows_.IsBusy()) windows_.DoEvents();
+  stack_.RunGesture(window, gesture);
 }
 
 void ShownWindow::Click(const std::wstring& button) {
@@ -153,8 +146,8 @@ void ShownWindow::ChangeScale(std::int32_t newDpi) {
 
 Rect ShownWindow::PlacedRect() const {
   const Box& box = form_->Place();
-  const std::int32_t left = ToPixels(box.left, LocalDesktop::kSystemDpi);
-  const std::int32_t top = ToPixels(box.top, LocalDesktop::kSystemDpi);
+  const std::int32_t left = ToPixels(box.left, WindowStack::kSystemDpi);
+  const std::int32_t top = ToPixels(box.top, WindowStack::kSystemDpi);
   if (box.width > 0) return {left, top, left + ToPixels(box.width, dpi), top + ToPixels(box.height, dpi)};
   const Size design = form_->DesignClient();
   const std::int32_t width = ToPixels(design.width, dpi) + Scaled(kFrame.left + kFrame.right, dpi, kDesignDpi);
@@ -179,7 +172,7 @@ void ShownWindow::TakeState(FormWindowState newState) {
 
 void ShownWindow::FitClient() {
   const auto frame = [this](std::int32_t length) { return Scaled(length, dpi, kDesignDpi); };
-  const Rect& screen = LocalDesktop::kScreen;
+  const Rect& screen = WindowStack::kScreen;
   switch (state) {
     case FormWindowState::kNormal:
       client = {0, 0, place.right - place.left - frame(kFrame.left + kFrame.right),
@@ -198,7 +191,7 @@ void ShownWindow::Report() {
   FormGeometry geometry{form_->Place(), {ToTwips(client.right, dpi), ToTwips(client.bottom, dpi)}, state};
   // What was set in twips stays as it was set, as long as it comes to the pixels that are there.
   if (geometry.place.width <= 0 || place != PlacedRect()) {
-    geometry.place = {ToTwips(place.left, LocalDesktop::kSystemDpi), ToTwips(place.top, LocalDesktop::kSystemDpi),
+    geometry.place = {ToTwips(place.left, WindowStack::kSystemDpi), ToTwips(place.top, WindowStack::kSystemDpi),
                       ToTwips(place.right - place.left, dpi), ToTwips(place.bottom - place.top, dpi)};
   }
   // A hidden window takes on its state when it shows.
@@ -292,7 +285,7 @@ void ShownWindow::Activate(bool active) {
 void ShownWindow::Retire() {
   form_ = nullptr;
   visible = false;
-  windows_.Desktop.Deactivate(*this);
+  stack_.Deactivate(*this);
 }
 
 }  // namespace burrowmark

@@ -11,7 +11,25 @@
 
 namespace burrowmark {
 
-class LocalWindows;
+class ShownWindow;
+
+// The desktop that a window is on.
+class WindowStack {
+ public:
+  static constexpr Rect kScreen{0, 0, 1920, 1040};
+  static constexpr std::int32_t kSystemDpi = kDesignDpi;
+
+  // Runs a gesture of the person at a window, which comes to the front with it.
+  virtual void RunGesture(WindowHandle window, const std::function<void()>& gesture) = 0;
+  // The window has gone from the screen, or takes no input any more: another one gets the focus if it had it.
+  virtual void Deactivate(const ShownWindow& window) = 0;
+
+ protected:
+  WindowStack() = default;
+  WindowStack(const WindowStack&) = default;
+  WindowStack& operator=(const WindowStack&) = default;
+  ~WindowStack() = default;
+};
 
 enum class ShownKind : std::uint8_t { kLabel, kButton, kAnimation };
 
@@ -37,7 +55,7 @@ struct ShownControl {
 // throws std::logic_error.
 class ShownWindow {
  public:
-  ShownWindow(LocalWindows& windows, FormState& form) : windows_(windows), form_(&form) {}
+  ShownWindow(WindowStack& stack, FormState& form) : stack_(stack), form_(&form) {}
   ShownWindow(const ShownWindow&) = delete;
   ShownWindow& operator=(const ShownWindow&) = delete;
 
@@ -100,7 +118,7 @@ class ShownWindow {
   void FitClient();
   std::vector<ShownControl*> TabStops() const;
 
-  LocalWindows& windows_;
+  WindowStack& stack_;
   FormState* form_;
   std::weak_ptr<ShownControl> focusBefore_;
 };

@@ -12,9 +12,6 @@
 
 namespace burrowmark {
 
-// A form sends what it hears of its controls back to them: the command's message with this on top.
-inline constexpr UINT kReflectedCommand = WM_APP + WM_COMMAND;
-
 class ChildWindow {
  public:
   ChildWindow(const wchar_t* className, const std::wstring& text, DWORD style, FormWindow& form, ControlState& control);

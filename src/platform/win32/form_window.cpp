@@ -2,7 +2,6 @@
 
 #include "platform/from_system.h"
 #include "platform/key_codes.h"
-#include "platform/win32/child_window.h"
 #include "platform/win32/handles.h"
 #include "platform/win32/window_class.h"
 

@@ -16,6 +16,9 @@ namespace burrowmark {
 
 class FormWindow;
 
+// A form sends what it hears of its controls back to them: the command's message with this on top.
+inline constexpr UINT kReflectedCommand = WM_APP + WM_COMMAND;
+
 // What the windows of forms share; all of it outlives them.
 struct FormWindowParts {
   const ScreenDpi& dpi;
