@@ -19,6 +19,7 @@ class MenusContract : public ContractTest {
   std::vector<std::int32_t> Numbers(MenuHandle menu) {
     std::vector<std::int32_t> numbers;
     const std::int32_t count = menus_.GetMenuItemCount(menu);
+    numbers.reserve(static_cast<std::size_t>(std::max(count, 0)));
     for (std::int32_t i = 0; i < count; ++i) numbers.push_back(menus_.GetMenuItemID(menu, i));
     return numbers;
   }
