@@ -1,4 +1,5 @@
 // Popup menus: entries, positions, numbers, popups below popups.
+#include <algorithm>
 #include <string>
 #include <vector>
 
