@@ -36,7 +36,9 @@ void SystemTray::Add() {
   wanted_ = true;
   TrayIcon record = Record(kTrayHasMessage | kTrayHasIcon | kTrayHasTip);
   record.tip = kTip;
-  if (app_.platform.shell.Shell_NotifyIconA(kTrayAdd, record)) return;
+  Shell& shell = app_.platform.shell;
+  // A task bar that only told of itself again still has the icon, and refuses a second one.
+  if (shell.Shell_NotifyIconA(kTrayAdd, record) || shell.Shell_NotifyIconA(kTrayModify, record)) return;
   app_.platform.windows.PostLater(kRetryAfter, [this] {
     if (wanted_) Add();
   });

@@ -247,6 +247,10 @@ TEST_F(MenuInUse, TheTrayIconIsTriedAgainAndComesBackWithTheTaskBar) {
   user_.LoseTaskBar();
   user_.StartTaskBar();
   EXPECT_EQ(machine_.shell.TrayIcons().size(), 1U);
+  user_.StartTaskBar();  // it tells of itself again, with the icon still there
+  machine_.uiFaults.Clear();
+  machine_.windows.Advance(60000);
+  EXPECT_EQ(machine_.uiFaults.Calls(), 0U);  // nobody goes on trying
   scene_.tray.Delete();
   EXPECT_EQ(machine_.shell.Tray(), nullptr);
   machine_.windows.Advance(60000);
