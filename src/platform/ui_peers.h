@@ -5,113 +5,19 @@
 #include <memory>
 #include <string>
 
-#include "platform/twips.h"
-#include "platform/window_handle.h"
+#include "platform/ui_bar_peers.h"
+#include "platform/ui_control.h"
+#include "platform/ui_simple_peers.h"
+#include "platform/ui_view_peers.h"
 
 namespace burrowmark {
-
-// The state of a control as its peer reads it. Functions that start with User are the doors by which what the user did
-// comes in.
-class ControlState {
- public:
-  virtual const Box& Place() const = 0;  // within the form, in twips
-  virtual bool Visible() const = 0;
-  virtual bool Enabled() const = 0;
-  virtual bool TabStop() const = 0;  // the Tab key stops here, in the order in which the controls were made
-
-  virtual void UserFocus(bool has) = 0;
-
- protected:
-  ControlState() = default;
-  ControlState(const ControlState&) = default;
-  ControlState& operator=(const ControlState&) = default;
-  ~ControlState() = default;
-};
-
-// A peer owns one native window, which goes with it. Its making shows the whole state; after that it is told what
-// changed and reads the state again.
-class Peer {
- public:
-  Peer() = default;
-  virtual ~Peer() = default;
-  Peer(const Peer&) = delete;
-  Peer& operator=(const Peer&) = delete;
-
-  // From now on it uses no door and reads no state. A form's peer also takes its window from the screen. The peer
-  // itself may go much later, when nothing of it runs any more.
-  virtual void Retire() = 0;
-  virtual WindowHandle Window() const = 0;
-};
-
-class ControlPeer : public Peer {
- public:
-  virtual void PlaceChanged() = 0;
-  virtual void VisibleChanged() = 0;
-  virtual void EnabledChanged() = 0;
-  virtual void TabStopChanged() = 0;
-  // The form has another scale: place and font are worked out again.
-  virtual void ScaleChanged() = 0;
-  virtual void TakeFocus() = 0;
-};
-
-enum class Alignment : std::uint8_t { kLeft, kRight, kCenter };
-
-class LabelState : public virtual ControlState {
- public:
-  virtual const std::wstring& Caption() const = 0;
-  virtual Alignment TextAlignment() const = 0;
-  // "&" underlines the character behind it, and Alt with that character goes to the next tab stop.
-  virtual bool UseMnemonic() const = 0;
-
- protected:
-  ~LabelState() = default;
-};
-
-class LabelPeer : public ControlPeer {
- public:
-  virtual void CaptionChanged() = 0;
-  virtual void StyleChanged() = 0;  // alignment or mnemonic
-};
-
-class ButtonState : public virtual ControlState {
- public:
-  virtual const std::wstring& Caption() const = 0;
-  // Drawn as the one that the Enter key presses now.
-  virtual bool ShowsDefault() const = 0;
-
-  virtual void UserClick() = 0;
-
- protected:
-  ~ButtonState() = default;
-};
-
-class ButtonPeer : public ControlPeer {
- public:
-  virtual void CaptionChanged() = 0;
-  virtual void DefaultChanged() = 0;
-};
-
-class AnimationState : public virtual ControlState {
- public:
-  virtual const std::wstring& File() const = 0;  // an AVI file; empty for none
-  virtual bool Playing() const = 0;              // over and over
-
- protected:
-  ~AnimationState() = default;
-};
-
-// A file that can't be shown leaves the place empty.
-class AnimationPeer : public ControlPeer {
- public:
-  virtual void FileChanged() = 0;
-  virtual void PlayingChanged() = 0;
-};
 
 enum class FormBorder : std::uint8_t { kFixedDialog, kSizable };
 enum class StartUpPosition : std::uint8_t { kManual, kCenterOwner };
 enum class FormWindowState : std::uint8_t { kNormal, kMinimized, kMaximized };
 
 inline constexpr std::int32_t kPointerDefault = 0;
+inline constexpr std::int32_t kPointerSizeWE = 9;  // an arrow to the west and the east
 inline constexpr std::int32_t kPointerHourglass = 11;
 
 // Where a window is. `place` is that of the normal window, also while it is minimised or maximised; the client area is
@@ -149,6 +55,9 @@ class FormState {
   // A key before the control with the focus sees it. True: nobody else shall.
   virtual bool UserKey(std::int32_t keyCode, std::int32_t shift) = 0;
   virtual void UserEscape() = 0;  // nobody wanted the Esc key
+  // The mouse over the client area where no control is; also elsewhere, as long as a button is held that went down
+  // here.
+  virtual void UserMouse(MouseAction action, const MouseEvent& event) = 0;
   virtual void UserScale() = 0;   // the window is on a screen of another scale
   virtual void WindowLost() = 0;  // the system took the window, with its owner's for instance
 

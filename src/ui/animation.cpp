@@ -2,7 +2,8 @@
 
 namespace burrowmark {
 
-Animation::Animation(ControlSite& form, std::wstring name, const Box& place) : ControlOf(form, std::move(name), place) {
+Animation::Animation(ControlParent& parent, std::wstring name, const Box& place)
+    : ControlOf(parent, std::move(name), place) {
   StartWithoutTabStop();
 }
 

@@ -2,8 +2,8 @@
 
 namespace burrowmark {
 
-CommandButton::CommandButton(ControlSite& form, std::wstring name, const Box& place, std::wstring caption)
-    : ControlOf(form, std::move(name), place), caption_(std::move(caption)) {}
+CommandButton::CommandButton(ControlParent& parent, std::wstring name, const Box& place, std::wstring caption)
+    : ControlOf(parent, std::move(name), place), caption_(std::move(caption)) {}
 
 CommandButton::~CommandButton() {
   SetDefault(false);

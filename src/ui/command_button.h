@@ -7,7 +7,7 @@ namespace burrowmark {
 
 class CommandButton final : public ControlOf<ButtonState, ButtonPeer> {
  public:
-  CommandButton(ControlSite& form, std::wstring name, const Box& place, std::wstring caption);
+  CommandButton(ControlParent& parent, std::wstring name, const Box& place, std::wstring caption);
   ~CommandButton();
 
   // The mouse, Space, Enter, the mnemonic, or code that sets the value.

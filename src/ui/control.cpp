@@ -2,8 +2,8 @@
 
 namespace burrowmark {
 
-Control::Control(ControlSite& form, std::wstring name, const Box& place)
-    : form_(form), name_(std::move(name)), place_(place) {
+Control::Control(ControlParent& parent, std::wstring name, const Box& place)
+    : parent_(parent), form_(parent.Site()), name_(std::move(name)), place_(place) {
   form_.Enter(*this);
 }
 
@@ -46,6 +46,27 @@ void Control::UserFocus(bool has) {
   form_.MoveFocus(has ? this : nullptr);
 }
 
-bool Control::IsReachable() const { return visible_ && enabled_ && form_.IsReachable(); }
+void Control::UserMouse(MouseAction action, const MouseEvent& event) {
+  // What went down here may go up while the control can't be reached any more: nobody shall wait for that for ever.
+  if (action != MouseAction::kUp && !IsReachable()) return;
+  const ControlSite::Running running(form_);
+  switch (action) {
+    case MouseAction::kDown:
+      return Raise(MouseDown, event);
+    case MouseAction::kMove:
+      return Raise(MouseMove, event);
+    case MouseAction::kUp:
+      return Raise(MouseUp, event);
+  }
+}
+
+bool Control::UserKeyDown(std::int32_t keyCode, std::int32_t shift) {
+  if (!KeyDown || !IsReachable()) return false;
+  const ControlSite::Running running(form_);
+  Raise(KeyDown, keyCode, shift);
+  return keyCode == 0 || !IsReachable();
+}
+
+bool Control::IsReachable() const { return visible_ && enabled_ && parent_.IsReachable(); }
 
 }  // namespace burrowmark

@@ -2,8 +2,7 @@
 //
 // The contract of this library:
 // - State lives in the control. A setter compares, stores and tells the peer: the same value does nothing, and without
-// a
-//   peer nothing else happens. What the native window alone knows comes back by a door or is asked for at a named
+//   a peer nothing else happens. What the native window alone knows comes back by a door or is asked for at a named
 //   moment; a getter never asks.
 // - A peer is made when its form loads and shows the whole state then, so it can be thrown away and made anew at any
 //   time. Later it is told what changed, and reads that again.
@@ -11,9 +10,9 @@
 //   everybody who stands in for the user. A door is shut while the user couldn't reach it: the control is disabled or
 //   hidden, or a modal form is in front of its form.
 // - Events are functions that the owner of a control puts in. They may do anything, unload their own form among it;
-// only
-//   the form object itself must stay until they return.
-// - Controls are members of their form. The order in which they are made is the tab order.
+//   only the form object itself must stay until they return.
+// - Controls are members of their form, made after the control that they are in. The order in which they are made is
+//   the tab order.
 // - All lengths are twips.
 #pragma once
 
@@ -21,15 +20,33 @@
 #include <memory>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "platform/ui_peers.h"
 
 namespace burrowmark {
 
 class Control;
+class ControlSite;
+
+// What controls can be in: a form, or a control that holds others.
+class ControlParent {
+ public:
+  virtual ControlSite& Site() = 0;
+  // The window that controls in it are made in; 0 while there is none.
+  virtual WindowHandle Window() const = 0;
+  // The user can do something to what is in it.
+  virtual bool IsReachable() const = 0;
+
+ protected:
+  ControlParent() = default;
+  ControlParent(const ControlParent&) = default;
+  ControlParent& operator=(const ControlParent&) = default;
+  ~ControlParent() = default;
+};
 
 // What a control asks of its form.
-class ControlSite {
+class ControlSite : public ControlParent {
  public:
   // While it lives something of the form is running, and no window of the form goes for good.
   class Running {
@@ -45,7 +62,8 @@ class ControlSite {
 
   virtual void Enter(Control& control) = 0;
   virtual void Leave(Control& control) = 0;
-  virtual bool IsReachable() const = 0;
+  // All controls of the form in tab order.
+  virtual const std::vector<Control*>& Controls() const = 0;
 
   virtual Control* ActiveControl() const = 0;
   virtual void MoveFocus(Control* control) = 0;
@@ -76,19 +94,24 @@ bool Assign(Value& stored, Value value) {
 }
 
 // Runs an event. It works on a copy: what it does may put another function in.
-template <typename... Arguments>
-void Raise(std::function<void(Arguments...)> event, Arguments... arguments) {
-  if (event) event(arguments...);
+template <typename... Parameters, typename... Arguments>
+void Raise(std::function<void(Parameters...)> event, Arguments&&... arguments) {
+  if (event) event(std::forward<Arguments>(arguments)...);
 }
 
 class Control : public virtual ControlState {
  public:
-  Control(ControlSite& form, std::wstring name, const Box& place);
+  Control(ControlParent& parent, std::wstring name, const Box& place);
   Control(const Control&) = delete;
   Control& operator=(const Control&) = delete;
 
   std::function<void()> GotFocus;  // for whatever reason
   std::function<void()> LostFocus;
+  std::function<void(const MouseEvent&)> MouseDown;
+  std::function<void(const MouseEvent&)> MouseMove;
+  std::function<void(const MouseEvent&)> MouseUp;
+  // A key code of 0 keeps the key from everybody else.
+  std::function<void(std::int32_t& KeyCode, std::int32_t Shift)> KeyDown;
 
   const std::wstring& Name() const { return name_; }
   // 0 while the form isn't loaded.
@@ -107,7 +130,13 @@ class Control : public virtual ControlState {
   // Does nothing unless the form is loaded and the user could go there too.
   void SetFocus();
 
+  ControlParent& Parent() const { return parent_; }
+  // It needs this key itself, so that it is no shortcut of the form's menus.
+  virtual bool UsesKey(std::int32_t, std::int32_t) const { return false; }
+
   void UserFocus(bool has) final;
+  void UserMouse(MouseAction action, const MouseEvent& event) final;
+  bool UserKeyDown(std::int32_t keyCode, std::int32_t shift) final;
 
  protected:
   ~Control() = default;
@@ -122,13 +151,14 @@ class Control : public virtual ControlState {
 
  private:
   friend class Form;  // which makes the peers and takes them away
-  virtual void MakePeer(Peers& peers, WindowHandle parent) = 0;
+  virtual void MakePeer(Peers& peers) = 0;
   virtual std::unique_ptr<ControlPeer> TakePeer() = 0;
   // What Enter does when it is the form's button for that.
   virtual bool ShowsDefaultWithFocus() const { return false; }
   virtual void DefaultMoved() {}
   virtual void UserPress() {}
 
+  ControlParent& parent_;
   ControlSite& form_;
   std::wstring name_;
   Box place_;
@@ -147,13 +177,28 @@ class ControlOf : public Control, public State {
   void Tell(void (KindPeer::*change)()) {
     if (peer_) (peer_.get()->*change)();
   }
+  // None while the form isn't loaded.
+  KindPeer* KindsPeer() const { return peer_.get(); }
   ControlPeer* ThePeer() const final { return peer_.get(); }
 
  private:
-  void MakePeer(Peers& peers, WindowHandle parent) final { peer_ = peers.MakePeer(parent, static_cast<State&>(*this)); }
+  void MakePeer(Peers& peers) final { peer_ = peers.MakePeer(Parent().Window(), static_cast<State&>(*this)); }
   std::unique_ptr<ControlPeer> TakePeer() final { return std::move(peer_); }
 
   std::unique_ptr<KindPeer> peer_;
+};
+
+// A control of a kind that other controls can be in.
+template <typename State, typename KindPeer>
+class ContainerOf : public ControlOf<State, KindPeer>, public ControlParent {
+ public:
+  ControlSite& Site() final { return Control::Site(); }
+  WindowHandle Window() const final { return Control::Window(); }
+  bool IsReachable() const final { return Control::IsReachable(); }
+
+ protected:
+  using ControlOf<State, KindPeer>::ControlOf;
+  ~ContainerOf() = default;
 };
 
 }  // namespace burrowmark

@@ -46,6 +46,9 @@ Form::~Form() {
 void Form::Form_QueryUnload(bool&, UnloadMode) {}
 void Form::Form_Unload(bool&) {}
 void Form::Form_KeyDown(std::int32_t&, std::int32_t) {}
+void Form::Form_MouseDown(const MouseEvent&) {}
+void Form::Form_MouseMove(const MouseEvent&) {}
+void Form::Form_MouseUp(const MouseEvent&) {}
 
 WindowHandle Form::Window() const { return peer_ ? peer_->Window() : 0; }
 
@@ -71,7 +74,7 @@ void Form::Load() {
 
 void Form::MakePeers() {
   peer_ = windows_.peers().MakePeer(static_cast<FormState&>(*this));
-  for (Control* control : controls_) control->MakePeer(windows_.peers(), peer_->Window());
+  for (Control* control : controls_) control->MakePeer(windows_.peers());
 }
 
 void Form::Realise() {
@@ -344,6 +347,19 @@ bool Form::UserKey(std::int32_t keyCode, std::int32_t shift) {
 
 void Form::UserEscape() {
   if (cancel_ != nullptr) cancel_->UserPress();
+}
+
+void Form::UserMouse(MouseAction action, const MouseEvent& event) {
+  if (action != MouseAction::kUp && !IsReachable()) return;
+  const Running running(*this);
+  switch (action) {
+    case MouseAction::kDown:
+      return Form_MouseDown(event);
+    case MouseAction::kMove:
+      return Form_MouseMove(event);
+    case MouseAction::kUp:
+      return Form_MouseUp(event);
+  }
 }
 
 void Form::UserScale() {

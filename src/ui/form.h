@@ -46,7 +46,8 @@ class Form : public FormState, public ControlSite {
 
   const std::wstring& Name() const { return name_; }
   bool Loaded() const { return peer_ != nullptr; }
-  WindowHandle Window() const;  // 0 while it isn't loaded
+  ControlSite& Site() final { return *this; }
+  WindowHandle Window() const final;  // 0 while it isn't loaded
 
   // Makes the window, which stays hidden. Nothing happens if it is there.
   void Load();
@@ -91,6 +92,7 @@ class Form : public FormState, public ControlSite {
   // Form_KeyDown sees every key ahead of the control with the focus.
   bool KeyPreview() const { return keyPreview_; }
   void SetKeyPreview(bool on) { keyPreview_ = on; }
+  const std::vector<Control*>& Controls() const final { return controls_; }
   // The control with the focus; none while that is elsewhere.
   Control* ActiveControl() const final { return focused_; }
 
@@ -102,6 +104,7 @@ class Form : public FormState, public ControlSite {
   bool UserKey(std::int32_t keyCode, std::int32_t shift) final;
   void UserEscape() final;
   void UserScale() final;
+  void UserMouse(MouseAction action, const MouseEvent& event) final;
   void WindowLost() final;
 
  protected:
@@ -114,6 +117,10 @@ class Form : public FormState, public ControlSite {
   virtual void Form_Deactivate() {}
   // A key code of 0 keeps the key from everybody else.
   virtual void Form_KeyDown(std::int32_t& KeyCode, std::int32_t Shift);
+  // The mouse where no control is.
+  virtual void Form_MouseDown(const MouseEvent& event);
+  virtual void Form_MouseMove(const MouseEvent& event);
+  virtual void Form_MouseUp(const MouseEvent& event);
 
  private:
   class Modality;

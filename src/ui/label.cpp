@@ -2,8 +2,8 @@
 
 namespace burrowmark {
 
-Label::Label(ControlSite& form, std::wstring name, const Box& place, std::wstring caption)
-    : ControlOf(form, std::move(name), place), caption_(std::move(caption)) {
+Label::Label(ControlParent& parent, std::wstring name, const Box& place, std::wstring caption)
+    : ControlOf(parent, std::move(name), place), caption_(std::move(caption)) {
   StartWithoutTabStop();
 }
 

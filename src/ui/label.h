@@ -7,7 +7,7 @@ namespace burrowmark {
 
 class Label final : public ControlOf<LabelState, LabelPeer> {
  public:
-  Label(ControlSite& form, std::wstring name, const Box& place, std::wstring caption = {});
+  Label(ControlParent& parent, std::wstring name, const Box& place, std::wstring caption = {});
 
   const std::wstring& Caption() const override { return caption_; }
   void SetCaption(std::wstring caption);

@@ -21,6 +21,13 @@ std::shared_ptr<ShownWindow> LocalDesktop::Find(WindowHandle window) const {
   return found == all_.end() ? nullptr : *found;
 }
 
+std::shared_ptr<ShownWindow> LocalDesktop::FormOf(WindowHandle window) const {
+  const auto found = std::find_if(all_.begin(), all_.end(), [window](const auto& candidate) {
+    return candidate->IsOpen() && (candidate->window == window || candidate->WithWindow(window) != nullptr);
+  });
+  return found == all_.end() ? nullptr : *found;
+}
+
 std::shared_ptr<ShownWindow> LocalDesktop::WithCaption(const std::wstring& caption) const {
   for (const auto& window : Visible()) {
     if (window->caption == caption) return window;

@@ -25,6 +25,8 @@ class LocalDesktop final : public WindowStack {
   std::vector<std::shared_ptr<ShownWindow>> Visible() const;
   // None if there is no such window any more.
   std::shared_ptr<ShownWindow> Find(WindowHandle window) const;
+  // The form that this window is, or that this control is in; none if there is no such one any more.
+  std::shared_ptr<ShownWindow> FormOf(WindowHandle window) const;
   // The topmost one on the screen with that caption.
   std::shared_ptr<ShownWindow> WithCaption(const std::wstring& caption) const;
   std::shared_ptr<ShownWindow> Active() const;

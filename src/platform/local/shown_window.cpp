@@ -35,14 +35,6 @@ bool SameLetter(wchar_t one, wchar_t other) {
   return std::towlower(static_cast<std::wint_t>(one)) == std::towlower(static_cast<std::wint_t>(other));
 }
 
-bool CanBeUsed(const ShownControl& control) { return control.visible && control.enabled; }
-
-void ClickOn(const ShownControl* control) {
-  if (control == nullptr || !CanBeUsed(*control)) return;
-  const std::function<void()> door = control->UserClick;
-  if (door) door();
-}
-
 }  // namespace
 
 // --- what can be read
@@ -74,7 +66,19 @@ std::wstring ShownWindow::LabelTexts() const {
   return texts;
 }
 
+bool ShownWindow::CanBeUsed(const ShownControl& control) const {
+  if (!control.visible || !control.enabled) return false;
+  const ShownControl* parent = WithWindow(control.parent);
+  return parent == nullptr || CanBeUsed(*parent);
+}
+
 // --- gestures
+
+void ShownWindow::ClickOn(const ShownControl* control) const {
+  if (control == nullptr || !CanBeUsed(*control)) return;
+  const std::function<void()> door = control->UserClick;
+  if (door) door();
+}
 
 void ShownWindow::Do(const std::function<void()>& gesture) {
   if (!IsOpen() || !visible) throw std::logic_error("the window isn't on the screen: " + ToUtf8(caption));
@@ -101,6 +105,16 @@ void ShownWindow::PressAlt(wchar_t character) {
   Do([this, character] {
     const auto key = static_cast<std::int32_t>(std::towupper(static_cast<std::wint_t>(character)));
     if (!form_->UserKey(key, kAltMask)) RunMnemonic(character);
+  });
+}
+
+void ShownWindow::Mouse(WindowHandle control, MouseAction action, const MouseEvent& event) {
+  Do([this, control, action, event] {
+    if (control == 0) return form_->UserMouse(action, event);
+    const ShownControl* under = WithWindow(control);
+    if (under == nullptr) throw std::logic_error("there is no such control for the mouse");
+    const auto door = under->UserMouse;
+    if (door) door(action, event);
   });
 }
 
@@ -203,6 +217,10 @@ void ShownWindow::Report() {
 
 void ShownWindow::RunKey(std::int32_t keyCode, std::int32_t shift) {
   if (form_->UserKey(keyCode, shift)) return;
+  if (const ShownControl* focused = Focused(); focused != nullptr && focused->UserKeyDown) {
+    const auto door = focused->UserKeyDown;
+    if (door(keyCode, shift) || !IsOpen()) return;
+  }
   switch (keyCode) {
     case kKeyCodeTab:
       return MoveFocus((shift & kShiftMask) != 0);
@@ -211,9 +229,14 @@ void ShownWindow::RunKey(std::int32_t keyCode, std::int32_t shift) {
     case kKeyCodeEscape:
       return form_->UserEscape();
     case kKeyCodeSpace:
-      return ClickOn(Focused());
+      ClickOn(Focused());
+      break;
     default:
-      return;
+      break;
+  }
+  if (const ShownControl* focused = IsOpen() ? Focused() : nullptr; focused != nullptr && focused->PressKey) {
+    const auto press = focused->PressKey;
+    press(keyCode, shift);
   }
 }
 
@@ -238,8 +261,8 @@ void ShownWindow::MoveFocus(bool backwards) {
 }
 
 void ShownWindow::RunMnemonic(wchar_t character) {
-  const auto marked = std::find_if(controls.begin(), controls.end(), [character](const auto& control) {
-    return control->visible && control->enabled && SameLetter(MnemonicOf(*control), character);
+  const auto marked = std::find_if(controls.begin(), controls.end(), [this, character](const auto& control) {
+    return CanBeUsed(*control) && SameLetter(MnemonicOf(*control), character);
   });
   if (marked == controls.end()) return;
   if ((*marked)->UserClick) {
@@ -248,8 +271,8 @@ void ShownWindow::RunMnemonic(wchar_t character) {
     return ClickOn(button.get());
   }
   // A text has no use for the focus itself: it goes to what the text stands in front of.
-  const auto next =
-      std::find_if(marked, controls.end(), [](const auto& control) { return control->tabStop && CanBeUsed(*control); });
+  const auto next = std::find_if(marked, controls.end(),
+                                 [this](const auto& control) { return control->tabStop && CanBeUsed(*control); });
   if (next != controls.end()) SetFocus(next->get());
 }
 

@@ -37,7 +37,7 @@ struct ShownControl {
   ShownKind kind = ShownKind::kLabel;
   WindowHandle window = 0;
   std::wstring text;  // of an animation: its file
-  Rect place;         // pixels within the client area
+  Rect place;         // pixels within what it is in
   bool visible = true;
   bool enabled = true;
   bool tabStop = true;
@@ -47,8 +47,13 @@ struct ShownControl {
   bool playing = false;     // an animation whose file is there
   Alignment alignment = Alignment::kLeft;
 
+  WindowHandle parent = 0;  // the form, or the control that it is in
+
   std::function<void(bool)> UserFocus;  // doors; empty where there is none, and once the control has gone
+  std::function<void(MouseAction, const MouseEvent&)> UserMouse;
+  std::function<bool(std::int32_t keyCode, std::int32_t shift)> UserKeyDown;
   std::function<void()> UserClick;
+  std::function<void(std::int32_t keyCode, std::int32_t shift)> PressKey;  // what the control itself does with a key
 };
 
 // Gestures reach the program by its message queue, and run at once unless the program is busy. One that can't be made
@@ -83,6 +88,8 @@ class ShownWindow {
   ShownControl* Find(const std::wstring& text) const;
   ShownControl* WithWindow(WindowHandle handle) const;
   ShownControl* Focused() const;
+  // The form and all that it is in are visible and enabled.
+  bool CanBeUsed(const ShownControl& control) const;
   // Texts of the visible labels, one below the other.
   std::wstring LabelTexts() const;
 
@@ -92,6 +99,8 @@ class ShownWindow {
   // Alt and a character.
   void PressAlt(wchar_t character);
   void Close();
+  // The mouse at a point of a control, or of the client area for 0; in twips from its corner.
+  void Mouse(WindowHandle control, MouseAction action, const MouseEvent& event);
   void MoveTo(std::int32_t left, std::int32_t top);
   void Resize(std::int32_t width, std::int32_t height);
   void SetState(FormWindowState newState);
@@ -110,6 +119,7 @@ class ShownWindow {
 
  private:
   void Do(const std::function<void()>& gesture);
+  void ClickOn(const ShownControl* control) const;
   void RunKey(std::int32_t keyCode, std::int32_t shift);
   void RunMnemonic(wchar_t character);
   void MoveFocus(bool backwards);

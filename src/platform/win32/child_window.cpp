@@ -12,18 +12,19 @@ constexpr UINT_PTR kSubclass = 1;
 
 }  // namespace
 
-ChildWindow::ChildWindow(const wchar_t* className, const std::wstring& text, DWORD style, FormWindow& form,
-                         ControlState& control)
-    : form_(form), control_(&control) {
+ChildWindow::ChildWindow(const wchar_t* className, const std::wstring& text, DWORD style, const ChildPlace& place,
+                         ControlState& control, DWORD extendedStyle)
+    : form_(place.form), control_(&control) {
   const DWORD state = (control.Visible() ? WS_VISIBLE : 0) | (control.Enabled() ? 0 : WS_DISABLED) |
                       (control.TabStop() ? WS_TABSTOP : 0);
-  const Rect at = ToPixels(control.Place(), form.Dpi());
+  const Rect at = ToPixels(control.Place(), Dpi());
   window_ =
-      ::CreateWindowExW(0, className, text.c_str(), WS_CHILD | style | state, at.left, at.top, at.right - at.left,
-                        at.bottom - at.top, ToHwnd(form.Window()),
-                        reinterpret_cast<HMENU>(static_cast<INT_PTR>(form.NextId())), WindowClass::Module(), nullptr);
+      ::CreateWindowExW(extendedStyle, className, text.c_str(), WS_CHILD | style | state, at.left, at.top,
+                        at.right - at.left, at.bottom - at.top, place.parent,
+                        reinterpret_cast<HMENU>(static_cast<INT_PTR>(form_.NextId())), WindowClass::Module(), nullptr);
   if (window_ == nullptr) return;
-  ::SendMessageW(window_, WM_SETFONT, reinterpret_cast<WPARAM>(form.Font()), FALSE);
+  form_.AddControl(window_);
+  ::SendMessageW(window_, WM_SETFONT, reinterpret_cast<WPARAM>(form_.Font()), FALSE);
   ::SetWindowSubclass(window_, Procedure, kSubclass, reinterpret_cast<DWORD_PTR>(this));
 }
 
@@ -33,6 +34,8 @@ ChildWindow::~ChildWindow() {
 }
 
 void ChildWindow::Command(UINT) {}
+LRESULT ChildWindow::Notify(NMHDR&) { return 0; }
+std::optional<LRESULT> ChildWindow::Handle(UINT, WPARAM, LPARAM) { return std::nullopt; }
 
 void ChildWindow::Place() const {
   const Rect at = ToPixels(control_->Place(), form_.Dpi());
@@ -59,6 +62,7 @@ LRESULT CALLBACK ChildWindow::Procedure(HWND window, UINT message, WPARAM wParam
   auto* self = reinterpret_cast<ChildWindow*>(data);
   if (message == WM_NCDESTROY) {
     ::RemoveWindowSubclass(window, Procedure, kSubclass);
+    self->form_.RemoveControl(window);
     self->window_ = nullptr;
   } else if (!self->IsRetired()) {
     const auto result = FromSystem([&] { return self->Receive(message, wParam, lParam); }, std::optional<LRESULT>());
@@ -69,9 +73,13 @@ LRESULT CALLBACK ChildWindow::Procedure(HWND window, UINT message, WPARAM wParam
 
 std::optional<LRESULT> ChildWindow::Receive(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
-    case kReflectedCommand:
+    case kReflected + WM_COMMAND:
       Command(HIWORD(wParam));
       return 0;
+    case kReflected + WM_NOTIFY:
+      return Notify(*reinterpret_cast<NMHDR*>(lParam));
+    case kReflected + WM_KEYDOWN:
+      return control_->UserKeyDown(static_cast<std::int32_t>(wParam), HeldKeys()) ? 1 : 0;
     case WM_SETFOCUS:
     case WM_KILLFOCUS: {
       // The control draws itself first: what hears of the focus may unload the form.
@@ -80,8 +88,10 @@ std::optional<LRESULT> ChildWindow::Receive(UINT message, WPARAM wParam, LPARAM 
       return result;
     }
     default:
-      return std::nullopt;
+      break;
   }
+  if (const auto mouse = DecodeMouse(message, wParam, lParam, Dpi())) control_->UserMouse(mouse->action, mouse->event);
+  return IsRetired() ? std::nullopt : Handle(message, wParam, lParam);
 }
 
 }  // namespace burrowmark

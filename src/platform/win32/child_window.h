@@ -12,9 +12,16 @@
 
 namespace burrowmark {
 
+// Where a control is made: its form, and the window that it is in.
+struct ChildPlace {
+  FormWindow& form;
+  HWND parent;
+};
+
 class ChildWindow {
  public:
-  ChildWindow(const wchar_t* className, const std::wstring& text, DWORD style, FormWindow& form, ControlState& control);
+  ChildWindow(const wchar_t* className, const std::wstring& text, DWORD style, const ChildPlace& place,
+              ControlState& control, DWORD extendedStyle = 0);
   virtual ~ChildWindow();
   ChildWindow(const ChildWindow&) = delete;
   ChildWindow& operator=(const ChildWindow&) = delete;
@@ -32,8 +39,13 @@ class ChildWindow {
   void SetText(const std::wstring& text) const { ::SetWindowTextW(window_, text.c_str()); }
 
  protected:
-  // A command's notification from the control to its form, until the retirement.
+  // What the control told its form, until the retirement: a command's number, or the record of a notification.
   virtual void Command(UINT notification);
+  virtual LRESULT Notify(NMHDR& record);
+  // Any other message before the system's own procedure sees it. None: that goes on.
+  virtual std::optional<LRESULT> Handle(UINT message, WPARAM wParam, LPARAM lParam);
+  FormWindow& TheForm() const { return form_; }
+  std::int32_t Dpi() const { return form_.Dpi(); }
 
  private:
   static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,

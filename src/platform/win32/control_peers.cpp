@@ -24,8 +24,8 @@ DWORD StyleOf(const ButtonState& button) { return button.ShowsDefault() ? BS_DEF
 
 }  // namespace
 
-Win32Label::Win32Label(FormWindow& form, LabelState& label)
-    : ChildPeer(WC_STATICW, label.Caption(), StyleOf(label), form, label), label_(label) {}
+Win32Label::Win32Label(const ChildPlace& place, LabelState& label)
+    : ChildPeer(WC_STATICW, label.Caption(), StyleOf(label), place, label), label_(label) {}
 
 void Win32Label::StyleChanged() {
   SetStyle(kLabelStyles, false);
@@ -33,8 +33,8 @@ void Win32Label::StyleChanged() {
   ::InvalidateRect(Handle(), nullptr, TRUE);
 }
 
-Win32Button::Win32Button(FormWindow& form, ButtonState& button)
-    : ChildPeer(WC_BUTTONW, button.Caption(), StyleOf(button), form, button), button_(button) {}
+Win32Button::Win32Button(const ChildPlace& place, ButtonState& button)
+    : ChildPeer(WC_BUTTONW, button.Caption(), StyleOf(button), place, button), button_(button) {}
 
 void Win32Button::DefaultChanged() { ::SendMessageW(Handle(), BM_SETSTYLE, StyleOf(button_), TRUE); }
 
@@ -43,8 +43,8 @@ void Win32Button::Command(UINT notification) {
 }
 
 // Transparent: what has the colour of the film's first pixel lets the form through.
-Win32Animation::Win32Animation(FormWindow& form, AnimationState& animation)
-    : ChildPeer(ANIMATE_CLASSW, L"", ACS_CENTER | ACS_TRANSPARENT, form, animation), animation_(animation) {
+Win32Animation::Win32Animation(const ChildPlace& place, AnimationState& animation)
+    : ChildPeer(ANIMATE_CLASSW, L"", ACS_CENTER | ACS_TRANSPARENT, place, animation), animation_(animation) {
   if (!animation.File().empty()) FileChanged();
   if (animation.Playing()) PlayingChanged();
 }

@@ -7,7 +7,7 @@ namespace burrowmark {
 
 class Win32Label final : public ChildPeer<LabelPeer> {
  public:
-  Win32Label(FormWindow& form, LabelState& label);
+  Win32Label(const ChildPlace& place, LabelState& label);
   void CaptionChanged() override { SetText(label_.Caption()); }
   void StyleChanged() override;
 
@@ -17,7 +17,7 @@ class Win32Label final : public ChildPeer<LabelPeer> {
 
 class Win32Button final : public ChildPeer<ButtonPeer> {
  public:
-  Win32Button(FormWindow& form, ButtonState& button);
+  Win32Button(const ChildPlace& place, ButtonState& button);
   void CaptionChanged() override { SetText(button_.Caption()); }
   void DefaultChanged() override;
 
@@ -29,7 +29,7 @@ class Win32Button final : public ChildPeer<ButtonPeer> {
 
 class Win32Animation final : public ChildPeer<AnimationPeer> {
  public:
-  Win32Animation(FormWindow& form, AnimationState& animation);
+  Win32Animation(const ChildPlace& place, AnimationState& animation);
   void FileChanged() override;
   void PlayingChanged() override;
 

@@ -33,11 +33,6 @@ FormWindowState StateOf(HWND window) {
   return ::IsZoomed(window) != FALSE ? FormWindowState::kMaximized : FormWindowState::kNormal;
 }
 
-std::int32_t HeldKeys() {
-  const auto mask = [](int key, std::int32_t bit) { return ::GetKeyState(key) < 0 ? bit : 0; };
-  return mask(VK_SHIFT, kShiftMask) | mask(VK_CONTROL, kCtrlMask) | mask(VK_MENU, kAltMask);
-}
-
 MONITORINFO InfoOf(HMONITOR monitor) {
   MONITORINFO info = {};
   info.cbSize = sizeof(info);
@@ -51,7 +46,34 @@ bool CanCentreOver(HWND owner) {
 
 int Kept(int start, int size, int low, int high) { return std::max(low, std::min(start, high - size)); }
 
+HCURSOR CursorOf(std::int32_t pointer) {
+  switch (pointer) {
+    case kPointerSizeWE:
+      return ::LoadCursorW(nullptr, IDC_SIZEWE);
+    case kPointerHourglass:
+      return ::LoadCursorW(nullptr, IDC_WAIT);
+    default:
+      return nullptr;
+  }
+}
+
 }  // namespace
+
+std::optional<LRESULT> ReflectToControl(UINT message, WPARAM wParam, LPARAM lParam) {
+  HWND control = nullptr;
+  if (message == WM_COMMAND) control = reinterpret_cast<HWND>(lParam);
+  if (message == WM_NOTIFY) control = reinterpret_cast<const NMHDR*>(lParam)->hwndFrom;
+  if (control == nullptr) return std::nullopt;
+  return ::SendMessageW(control, kReflected + message, wParam, lParam);
+}
+
+std::optional<LRESULT> BackgroundOfControl(UINT message, WPARAM wParam) {
+  if (message != WM_CTLCOLORSTATIC && message != WM_CTLCOLORBTN) return std::nullopt;
+  const auto context = reinterpret_cast<HDC>(wParam);
+  ::SetBkColor(context, ::GetSysColor(COLOR_BTNFACE));
+  ::SetTextColor(context, ::GetSysColor(COLOR_BTNTEXT));
+  return reinterpret_cast<LRESULT>(::GetSysColorBrush(COLOR_BTNFACE));
+}
 
 FormWindow::FormWindow(FormState& form, const FormWindowParts& parts) : form_(&form), parts_(parts) {
   window_ =
@@ -111,9 +133,9 @@ void FormWindow::MousePointerChanged() {
 }
 
 bool FormWindow::ShowPointer() const {
-  if (form_ == nullptr || form_->MousePointer() != kPointerHourglass) return false;
-  ::SetCursor(::LoadCursorW(nullptr, IDC_WAIT));
-  return true;
+  const HCURSOR cursor = form_ == nullptr ? nullptr : CursorOf(form_->MousePointer());
+  if (cursor != nullptr) ::SetCursor(cursor);
+  return cursor != nullptr;
 }
 
 void FormWindow::IconChanged() {
@@ -252,11 +274,23 @@ void FormWindow::FollowScale(std::int32_t dpi, const RECT& suggested) {
 
 bool FormWindow::Translate(MSG& message) {
   const bool key = message.message == WM_KEYDOWN || message.message == WM_SYSKEYDOWN;
-  if (key && form_ != nullptr) {
-    const auto code = static_cast<std::int32_t>(message.wParam);
-    if (FromSystem([&] { return form_->UserKey(code, HeldKeys()); }, false)) return true;
-  }
+  if (key && FromSystem([&] { return PreviewKey(message); }, false)) return true;
   return form_ != nullptr && ::IsDialogMessageW(window_, &message) != FALSE;
+}
+
+// The form sees a key first, then the control with the focus, and then the system.
+bool FormWindow::PreviewKey(const MSG& message) const {
+  const bool atControl = controls_.contains(message.hwnd);
+  if (form_ == nullptr || (message.hwnd != window_ && !atControl)) return false;
+  const auto code = static_cast<std::int32_t>(message.wParam);
+  if (form_->UserKey(code, HeldKeys())) return true;
+  return atControl && ::SendMessageW(message.hwnd, kReflected + WM_KEYDOWN, message.wParam, message.lParam) != 0;
+}
+
+void FormWindow::Mouse(const MouseMessage& mouse) const {
+  if (mouse.action == MouseAction::kDown) ::SetCapture(window_);
+  if (mouse.action == MouseAction::kUp && ::GetCapture() == window_) ::ReleaseCapture();
+  form_->UserMouse(mouse.action, mouse.event);
 }
 
 LRESULT CALLBACK FormWindow::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
@@ -277,6 +311,12 @@ LRESULT FormWindow::Receive(UINT message, WPARAM wParam, LPARAM lParam) {
 }
 
 LRESULT FormWindow::Answer(UINT message, WPARAM wParam, LPARAM lParam) {
+  if (const auto result = ReflectToControl(message, wParam, lParam)) return *result;
+  if (const auto brush = BackgroundOfControl(message, wParam)) return *brush;
+  if (const auto mouse = DecodeMouse(message, wParam, lParam, dpi_)) {
+    Mouse(*mouse);
+    return 0;
+  }
   switch (message) {
     case WM_CLOSE:
       form_->UserClose();
@@ -299,11 +339,8 @@ LRESULT FormWindow::Answer(UINT message, WPARAM wParam, LPARAM lParam) {
     case DM_GETDEFID:
       return EnterButtonId();
     case WM_COMMAND:
-      Command(wParam, lParam);
+      if (LOWORD(wParam) == IDCANCEL) form_->UserEscape();
       return 0;
-    case WM_CTLCOLORSTATIC:
-    case WM_CTLCOLORBTN:
-      return BackgroundOf(reinterpret_cast<HDC>(wParam));
     case WM_SETCURSOR:
       if (LOWORD(lParam) == HTCLIENT && ShowPointer()) return TRUE;
       break;
@@ -322,23 +359,9 @@ void FormWindow::Lost() {
   window_ = nullptr;
 }
 
-void FormWindow::Command(WPARAM wParam, LPARAM lParam) {
-  if (lParam != 0) {
-    ::SendMessageW(reinterpret_cast<HWND>(lParam), kReflectedCommand, wParam, lParam);
-  } else if (LOWORD(wParam) == IDCANCEL) {
-    form_->UserEscape();
-  }
-}
-
 LRESULT FormWindow::EnterButtonId() const {
   const HWND button = ToHwnd(form_->EnterButton());
   return button == nullptr ? 0 : MAKELRESULT(::GetDlgCtrlID(button), DC_HASDEFID);
-}
-
-LRESULT FormWindow::BackgroundOf(HDC context) const {
-  ::SetBkColor(context, ::GetSysColor(COLOR_BTNFACE));
-  ::SetTextColor(context, ::GetSysColor(COLOR_BTNTEXT));
-  return reinterpret_cast<LRESULT>(::GetSysColorBrush(COLOR_BTNFACE));
 }
 
 // --- focus

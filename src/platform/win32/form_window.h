@@ -6,9 +6,12 @@
 #include <cstdint>
 #include <map>
 #include <memory>
+#include <optional>
+#include <set>
 
 #include "platform/ui_peers.h"
 #include "platform/win32/control_fonts.h"
+#include "platform/win32/mouse_message.h"
 #include "platform/win32/screen_dpi.h"
 #include "platform/win32/system_library.h"
 
@@ -16,8 +19,13 @@ namespace burrowmark {
 
 class FormWindow;
 
-// A form sends what it hears of its controls back to them: the command's message with this on top.
-inline constexpr UINT kReflectedCommand = WM_APP + WM_COMMAND;
+// What a form hears of its controls goes back to them, with this on top of the message.
+inline constexpr UINT kReflected = WM_APP;
+
+// Sends a control's command or notification back to it, for windows that controls are in. None if it is neither.
+std::optional<LRESULT> ReflectToControl(UINT message, WPARAM wParam, LPARAM lParam);
+// The brush behind a text or a button, for the same windows; none for another message.
+std::optional<LRESULT> BackgroundOfControl(UINT message, WPARAM wParam);
 
 // What the windows of forms share; all of it outlives them.
 struct FormWindowParts {
@@ -39,6 +47,9 @@ class FormWindow final : public FormPeer {
   HFONT Font() const { return parts_.fonts.At(dpi_); }
   // A number that no other control of the form has.
   int NextId() { return ++lastId_; }
+  // Windows of controls; keys in others, as that of a label edit, are nobody's business.
+  void AddControl(HWND control) { controls_.insert(control); }
+  void RemoveControl(HWND control) { controls_.erase(control); }
 
   void Retire() override;
   WindowHandle Window() const override;
@@ -63,9 +74,9 @@ class FormWindow final : public FormPeer {
 
   LRESULT Receive(UINT message, WPARAM wParam, LPARAM lParam);
   LRESULT Answer(UINT message, WPARAM wParam, LPARAM lParam);
-  void Command(WPARAM wParam, LPARAM lParam);
   LRESULT EnterButtonId() const;
-  LRESULT BackgroundOf(HDC context) const;
+  bool PreviewKey(const MSG& message) const;
+  void Mouse(const MouseMessage& mouse) const;
   void Lost();
 
   bool IsCentred() const;
@@ -91,6 +102,7 @@ class FormWindow final : public FormPeer {
   std::int32_t dpi_ = kDesignDpi;
   int lastId_ = 100;  // the low numbers are those of Enter and Esc
   bool making_ = true;
+  std::set<HWND> controls_;
   HWND focusBefore_ = nullptr;  // had it when the window was left
   HWND blockedOwner_ = nullptr;
   IconImage bigIcon_;

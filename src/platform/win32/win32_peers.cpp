@@ -29,10 +29,10 @@ bool Win32Peers::Translate(MSG& message) {
   return form != forms_.end() && form->second->Translate(message);
 }
 
-FormWindow& Win32Peers::FormOf(WindowHandle window) const {
-  const auto form = forms_.find(ToHwnd(window));
+ChildPlace Win32Peers::PlaceIn(WindowHandle parent) const {
+  const auto form = forms_.find(::GetAncestor(ToHwnd(parent), GA_ROOT));
   if (form == forms_.end()) throw std::runtime_error("a control without a form's window");
-  return *form->second;
+  return {*form->second, ToHwnd(parent)};
 }
 
 std::unique_ptr<FormPeer> Win32Peers::MakePeer(FormState& form) {
@@ -40,15 +40,15 @@ std::unique_ptr<FormPeer> Win32Peers::MakePeer(FormState& form) {
 }
 
 std::unique_ptr<LabelPeer> Win32Peers::MakePeer(WindowHandle parent, LabelState& label) {
-  return std::make_unique<Win32Label>(FormOf(parent), label);
+  return std::make_unique<Win32Label>(PlaceIn(parent), label);
 }
 
 std::unique_ptr<ButtonPeer> Win32Peers::MakePeer(WindowHandle parent, ButtonState& button) {
-  return std::make_unique<Win32Button>(FormOf(parent), button);
+  return std::make_unique<Win32Button>(PlaceIn(parent), button);
 }
 
 std::unique_ptr<AnimationPeer> Win32Peers::MakePeer(WindowHandle parent, AnimationState& animation) {
-  return std::make_unique<Win32Animation>(FormOf(parent), animation);
+  return std::make_unique<Win32Animation>(PlaceIn(parent), animation);
 }
 
 }  // namespace burrowmark

@@ -6,6 +6,7 @@
 #include <map>
 
 #include "platform/ui_peers.h"
+#include "platform/win32/child_window.h"
 #include "platform/win32/control_fonts.h"
 #include "platform/win32/form_window.h"
 #include "platform/win32/screen_dpi.h"
@@ -29,7 +30,7 @@ class Win32Peers final : public Peers {
   std::unique_ptr<AnimationPeer> MakePeer(WindowHandle parent, AnimationState& animation) override;
 
  private:
-  FormWindow& FormOf(WindowHandle window) const;
+  ChildPlace PlaceIn(WindowHandle parent) const;
 
   const ScreenDpi& dpi_;
   ControlFonts fonts_;

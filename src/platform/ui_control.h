@@ -1,0 +1,74 @@
+// What all controls and their peers have in common.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "platform/twips.h"
+#include "platform/window_handle.h"
+
+namespace burrowmark {
+
+enum class MouseAction : std::uint8_t { kDown, kMove, kUp };
+
+// Buttons of the mouse, one bit each.
+inline constexpr std::int32_t kLeftButton = 1;
+inline constexpr std::int32_t kRightButton = 2;
+inline constexpr std::int32_t kMiddleButton = 4;
+
+struct MouseEvent {
+  std::int32_t button = 0;  // that went down or up; of a move, all that are down
+  std::int32_t shift = 0;   // kShiftMask and its like
+  std::int32_t x = 0;       // twips from the left and the top of the control, or of the form's client area
+  std::int32_t y = 0;
+  friend bool operator==(const MouseEvent&, const MouseEvent&) = default;
+};
+
+// The state of a control as its peer reads it. Functions that start with User are the doors by which what the user did
+// comes in.
+class ControlState {
+ public:
+  virtual const Box& Place() const = 0;  // within what the control is in, in twips
+  virtual bool Visible() const = 0;
+  virtual bool Enabled() const = 0;
+  virtual bool TabStop() const = 0;  // the Tab key stops here, in the order in which the controls were made
+
+  virtual void UserFocus(bool has) = 0;
+  virtual void UserMouse(MouseAction action, const MouseEvent& event) = 0;
+  // A key while the control has the focus, ahead of what the system makes of it. True: nobody else shall have it.
+  virtual bool UserKeyDown(std::int32_t keyCode, std::int32_t shift) = 0;
+
+ protected:
+  ControlState() = default;
+  ControlState(const ControlState&) = default;
+  ControlState& operator=(const ControlState&) = default;
+  ~ControlState() = default;
+};
+
+// A peer owns one native window, which goes with it. Its making shows the whole state; after that it is told what
+// changed and reads the state again.
+class Peer {
+ public:
+  Peer() = default;
+  virtual ~Peer() = default;
+  Peer(const Peer&) = delete;
+  Peer& operator=(const Peer&) = delete;
+
+  // From now on it uses no door and reads no state. A form's peer also takes its window from the screen. The peer
+  // itself may go much later, when nothing of it runs any more.
+  virtual void Retire() = 0;
+  virtual WindowHandle Window() const = 0;
+};
+
+class ControlPeer : public Peer {
+ public:
+  virtual void PlaceChanged() = 0;
+  virtual void VisibleChanged() = 0;
+  virtual void EnabledChanged() = 0;
+  virtual void TabStopChanged() = 0;
+  // The form has another scale: place and font are worked out again.
+  virtual void ScaleChanged() = 0;
+  virtual void TakeFocus() = 0;
+};
+
+}  // namespace burrowmark

@@ -1,0 +1,88 @@
+// The menus of a form: those on its bar, and those that pop up.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <span>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+#include "platform/ui_bar_peers.h"
+
+namespace burrowmark {
+
+class Form;
+class FormMenus;
+
+class MenuEntry final : private MenuEntryState {
+ public:
+  MenuEntry(FormMenus& menus, std::wstring name);
+
+  // Chosen, by the mouse, its letter or its shortcut; of one with entries below it: before they are shown.
+  std::function<void()> Click;
+
+  const std::wstring& Name() const { return name_; }
+  // "&" underlines the character behind it.
+  const std::wstring& Caption() const { return caption; }
+  void SetCaption(std::wstring newCaption);
+  bool Visible() const { return visible; }
+  void SetVisible(bool on);
+  bool Enabled() const { return enabled; }
+  void SetEnabled(bool on);
+  bool Checked() const { return checked; }
+  void SetChecked(bool on);
+  bool Radio() const { return radio; }
+  void SetRadio(bool on);
+  const MenuShortcut& Shortcut() const { return shortcut; }
+
+ private:
+  friend class FormMenus;
+
+  FormMenus& menus_;
+  std::wstring name_;
+};
+
+// A row of a table of menus. An entry lies in the nearest row above it of a lower level; those of level 0 stand on the
+// bar while they are visible, and can pop up in any case.
+struct MenuRow {
+  std::int32_t level;
+  const wchar_t* name;
+  const wchar_t* caption;  // kMenuLine for a line
+  MenuShortcut shortcut = {};
+};
+
+// Belongs to a form, which it must not outlive; there is one for a form.
+class FormMenus {
+ public:
+  FormMenus(Form& form, std::span<const MenuRow> rows);
+  ~FormMenus();
+  FormMenus(const FormMenus&) = delete;
+  FormMenus& operator=(const FormMenus&) = delete;
+
+  // Throws std::out_of_range for a name that no row has.
+  MenuEntry& operator[](const std::wstring& name) const;
+  // Opens an entry's children at the mouse, or at the control with the focus where the keyboard asked for it, and
+  // returns when they are gone. `defaultEntry` is drawn bold. What was chosen has had its Click then.
+  void PopupMenu(const std::wstring& name, const std::wstring& defaultEntry = {});
+
+  // The entries of level 0.
+  const std::vector<MenuEntryState*>& Entries() const { return root_.children; }
+  // Doors. An entry that is disabled or hidden, or in one that is, isn't chosen.
+  void UserOpen(MenuEntryState& entry);
+  void UserChoose(MenuEntryState& entry);
+  // True if an entry has this shortcut and was chosen by it; those above it hear that they open first.
+  bool UserShortcut(const MenuShortcut& shortcut);
+
+ private:
+  friend class MenuEntry;
+
+  void Changed(const MenuEntry& entry);
+
+  Form& form_;
+  MenuEntryState root_;
+  std::vector<std::unique_ptr<MenuEntry>> entries_;
+  std::unordered_map<std::wstring, MenuEntry*> byName_;
+};
+
+}  // namespace burrowmark
