@@ -9,6 +9,7 @@ librsvg2-bin).  Running it again without changing a drawing changes no byte.
 """
 
 import argparse
+import collections
 import pathlib
 import re
 import struct
@@ -18,12 +19,29 @@ import zlib
 
 HERE = pathlib.Path(__file__).resolve().parent
 
-# NN-name.ico: every icon, for menus, lists and the tray.
-MENU_SIZES = (16, 20, 24, 32, 48)
+# What the files of a kind of icon hold: images of these sizes, as PNG from
+# png_from pixels up and as bitmaps below.
+Kind = collections.namedtuple("Kind", "sizes png_from")
+
+# For menus, lists and the tray.
+MENU = Kind((16, 20, 24, 32, 48), 256)
+# For buttons of 16 and of 24 pixels, at 96, 120, 144 and 192 dots an inch.
+TOOLBAR = Kind((16, 20, 24, 30, 32, 36, 48), 48)
 # burrowmark.ico: the program file's icon.
-PROGRAM_SIZES = (16, 20, 24, 32, 40, 48, 64, 256)
-# Images of this size and above are stored as PNG, smaller ones as bitmaps.
-PNG_FROM = 256
+PROGRAM = Kind((16, 20, 24, 32, 40, 48, 64, 256), 256)
+
+# The kinds of NN-name.ico by the numbers NN.
+KINDS = (
+    (range(1, 21), MENU),
+    (range(21, 30), TOOLBAR),
+)
+# A toolbar icon's number and this make the number of its disabled variant.
+OFF_STEP = 10
+
+# The greys of a disabled variant that black and white turn into, and how opaque
+# it is of 255.  The bitmap's mask needs more than half.
+OFF_BLACK, OFF_WHITE = 84, 232
+OFF_OPACITY = 160
 
 # Every colour a drawing may use, see README.md.
 PALETTE = {
@@ -32,6 +50,7 @@ PALETTE = {
     "#c3c6ff", "#7378f0", "#5054cc", "#25276f",
     "#b4f5cd", "#2fc470", "#18994f", "#07522a",
     "#5c3211", "#2b1406",
+    "#ffc4bd", "#f0574d", "#c9302c", "#6e1210",
 }
 
 PNG_SIGNATURE = b"\x89PNG\r\n\x1a\n"
@@ -80,6 +99,18 @@ def render(path, size):
         if pixels[at + 3] == 0:
             pixels[at:at + 4] = b"\0\0\0\0"
     return pixels
+
+
+def disabled(pixels):
+    """Return the picture in pale greys with little contrast, half transparent."""
+    out = bytearray()
+    for at in range(0, len(pixels), 4):
+        red, green, blue, alpha = pixels[at:at + 4]
+        light = (299 * red + 587 * green + 114 * blue) // 1000
+        grey = OFF_BLACK + light * (OFF_WHITE - OFF_BLACK) // 255
+        alpha = alpha * OFF_OPACITY // 255
+        out += bytes((grey, grey, grey, alpha)) if alpha else b"\0\0\0\0"
+    return out
 
 
 def decode_png(data):
@@ -168,12 +199,16 @@ def bitmap_image(size, pixels):
     return header + bytes(colour) + bytes(mask)
 
 
-def icon_file(drawings, sizes):
-    """Return the bytes of an .ico file with one image per size."""
+def render_all(drawings, sizes):
+    """Return {size: pixels}."""
+    return {size: render(pick_source(drawings, size), size) for size in sizes}
+
+
+def icon_file(pictures, png_from):
+    """Return the bytes of an .ico file with these {size: pixels}."""
     images = []
-    for size in sizes:
-        pixels = render(pick_source(drawings, size), size)
-        encode = png_image if size >= PNG_FROM else bitmap_image
+    for size, pixels in pictures.items():
+        encode = png_image if size >= png_from else bitmap_image
         images.append((size, encode(size, pixels)))
     offset = 6 + 16 * len(images)
     directory = struct.pack("<HHH", 0, 1, len(images))
@@ -185,6 +220,20 @@ def icon_file(drawings, sizes):
     return directory + b"".join(data for _, data in images)
 
 
+def files_of(name, drawings):
+    """Return {file name: bytes} of what is made from an icon's drawings."""
+    number, title = int(name[:2]), name[3:]
+    kind = next((kind for numbers, kind in KINDS if number in numbers), None)
+    if kind is None:
+        sys.exit(f"{name}: no kind of icon has this number")
+    pictures = render_all(drawings, kind.sizes)
+    files = {f"{name}.ico": icon_file(pictures, kind.png_from)}
+    if kind is TOOLBAR:
+        off = {size: disabled(pixels) for size, pixels in pictures.items()}
+        files[f"{number + OFF_STEP}-{title}-off.ico"] = icon_file(off, kind.png_from)
+    return files
+
+
 def main():
     parser = argparse.ArgumentParser(description="Render the icons.")
     parser.add_argument("--check", action="store_true",
@@ -192,9 +241,10 @@ def main():
     check = parser.parse_args().check
 
     icons = find_sources()
-    files = {f"{name}.ico": icon_file(drawings, MENU_SIZES)
-             for name, drawings in icons.items()}
-    files["burrowmark.ico"] = icon_file(icons["01-burrowmark"], PROGRAM_SIZES)
+    files = {"burrowmark.ico": icon_file(
+        render_all(icons["01-burrowmark"], PROGRAM.sizes), PROGRAM.png_from)}
+    for name, drawings in icons.items():
+        files.update(files_of(name, drawings))
 
     stale = 0
     for name, data in sorted(files.items()):

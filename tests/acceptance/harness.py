@@ -26,8 +26,6 @@ import pixels
 
 REPOSITORY = Path(__file__).resolve().parents[2]
 ICONS = REPOSITORY / "assets" / "icons"
-ICON_NAMES = ("burrowmark", "group", "folder", "explorer", "options", "help", "organize", "floppy", "disk", "network",
-              "disc", "openall", "removable")
 TASK_BAR_HEIGHT = 20
 MENU_CLASS = "#32768"
 BOX_CLASS = "#32770"
@@ -71,7 +69,9 @@ def wait_for(condition, what, limit=20.0):
 
 
 def icon_path(number):
-    return ICONS / ("%02d-%s.ico" % (number, ICON_NAMES[number - 1]))
+    """The one file of icons with this number."""
+    [path] = ICONS.glob("%02d-*.ico" % number)
+    return path
 
 
 @dataclass
