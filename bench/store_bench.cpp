@@ -6,26 +6,15 @@
 
 #include <random>
 
+#include "bench/bench_machine.h"
 #include "config/config_format.h"
 #include "config/config_reader.h"
 #include "config/config_writer.h"
 #include "core/numbers.h"
 #include "platform/local/local_clock.h"
-#include "platform/local/machine.h"
 
 namespace burrowmark {
 namespace {
-
-class BenchMachine {
- public:
-  BenchMachine() : folder_(std::filesystem::temp_directory_path() / "burrowmark-bench"), machine_(folder_) {}
-  ~BenchMachine() { std::filesystem::remove_all(folder_); }
-  Platform platform() { return machine_.platform(); }
-
- private:
-  std::filesystem::path folder_;
-  LocalMachine machine_;
-};
 
 std::wstring Title(std::mt19937& random) {
   std::wstring title;

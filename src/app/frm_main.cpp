@@ -8,6 +8,7 @@
 #include "core/services.h"
 #include "menu/menu_actions.h"
 #include "menu/menu_setup.h"
+#include "projection/organized_folders.h"
 #include "tools/progress.h"
 
 namespace burrowmark {
@@ -39,6 +40,8 @@ bool frmMain::Form_Load(std::uint32_t RegisteredMessage, const std::wstring& Com
   clsRegHandler(app_.platform.registry)
       .SetKeyValue(RegistryKey::kCurrentUser, kMainKey, kWindowValue, DecimalText(app_.MainWindow));
   LoadTree();
+  BringProjectionsUp();
+  if (progressUp_) HideProgress(app_);
   menu_.RegisteredMessage = RegisteredMessage;
   menu_.SetScale(app_.platform.windows.MouseScreenDpi());
   menu_.LoadMenuIcons();
@@ -61,9 +64,8 @@ void frmMain::LoadTree() {
     if (registers) SaveConfigFileName(app_, beside);
     ReadTree();
   } else {
-    ShowProgress(app_, app_.MainWindow, kStartTitle, L"Building recent folders list");
+    TellProgress(L"Building recent folders list");
     ResetToDefaults(app_);
-    HideProgress(app_);
   }
   if (FileExists(files, app_.ConfigFile)) return;
   app_.MainStoreFromConfigFile = ConfigFileWrite(app_, *app_.MainStore, {}, false);
@@ -76,6 +78,34 @@ void frmMain::ReadTree() {
   if (app_.MainStoreFromConfigFile) return;
   if (FileExists(app_.platform.files, app_.ConfigFile)) app_.UnreadableConfigFile = app_.ConfigFile;
   ResetToDefaults(app_);
+}
+
+// A projection that the user took away stays away, unless the program was installed since.
+void frmMain::BringProjectionsUp() {
+  if (app_.AfterInstall) {
+    ProjectAfterInstall();
+  } else {
+    CheckOrganizedFoldersExist(app_);
+  }
+}
+
+void frmMain::ProjectAfterInstall() {
+  for (const ProjectionTarget& target : kProjectionTargets) {
+    if (!app_.ADVC[target.option] || OrganizedFoldersExist(app_, target)) continue;
+    TellProgress(std::wstring(L"Refreshing Organized Folders ") + target.where);
+    RefreshOrganizedFolders(app_, target, *app_.MainStore, false);
+  }
+  clsRegHandler(app_.platform.registry).DeleteValue(RegistryKey::kCurrentUser, kSettingsKey, kAfterInstallValue);
+}
+
+// The first text opens the progress window.
+void frmMain::TellProgress(const std::wstring& text) {
+  if (progressUp_) {
+    SetProgressText(app_, text);
+  } else {
+    ShowProgress(app_, app_.MainWindow, kStartTitle, text);
+  }
+  progressUp_ = true;
 }
 
 void frmMain::Unload() {

@@ -24,6 +24,9 @@ class frmMain {
  private:
   void LoadTree();
   void ReadTree();
+  void BringProjectionsUp();
+  void ProjectAfterInstall();
+  void TellProgress(const std::wstring& text);
   void Form_Unload();
 
   Application& app_;
@@ -31,6 +34,7 @@ class frmMain {
   SystemTray tray_;
   KeyboardHook hook_;
   MainWindowEvents events_;
+  bool progressUp_ = false;
 };
 
 }  // namespace burrowmark

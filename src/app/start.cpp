@@ -7,6 +7,7 @@
 #include "core/settings.h"
 #include "core/text.h"
 #include "groups/special_folders.h"
+#include "projection/organized_folders.h"
 
 namespace burrowmark {
 namespace {
@@ -53,6 +54,7 @@ void RunBurrowmark(Platform platform, const std::wstring& CommandLine) {
   app.Os = DetectOs(platform.system);
   ComputePaths(app);
   GetConfigFileName(app, false);
+  InitOrganizedFoldersPaths(app);
   LoadSettings(app);
   frmMain form(app);
   FillCalls(app, form);

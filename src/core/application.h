@@ -91,6 +91,11 @@ struct Application {
   std::wstring CopyAddressCommand;  // and the one that puts an address on the clipboard
   std::wstring HelpFile;
 
+  // Folders that show the tree outside the menu (projection/organized_folders.h); empty where the system has no place.
+  std::wstring OrganizedFoldersDesktop;
+  std::wstring OrganizedFoldersSendTo;
+  std::wstring OrganizedFoldersFavorites;
+
   std::shared_ptr<frmPause> Progress;  // the one progress window, made when it is first needed
 
   WindowHandle MainWindow = 0;  // the hidden one behind the tray icon

@@ -9,6 +9,13 @@ bool HotKeyItemExists(const Application& app, const clsMenuItem& item) {
                      [&item](const ItemRef& other) { return other->Name() == item.Name(); });
 }
 
+bool FindHotKeyItem(const Application& app, std::int32_t KeyboardCode, ItemRef& item) {
+  const auto found = std::find_if(app.HotKeyItems.begin(), app.HotKeyItems.end(),
+                                  [KeyboardCode](const ItemRef& other) { return other->KeyboardCode == KeyboardCode; });
+  item = found == app.HotKeyItems.end() ? nullptr : *found;
+  return item != nullptr;
+}
+
 void RefreshHotKeys(Application& app, const clsMenuCollection& store) {
   app.HotKeyItems.clear();
   for (std::int32_t i = 1; i <= store.Count(); ++i) {

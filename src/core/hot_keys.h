@@ -8,6 +8,9 @@ namespace burrowmark {
 // True if an item of that name is in `HotKeyItems`.
 bool HotKeyItemExists(const Application& app, const clsMenuItem& item);
 
+// The first item of `HotKeyItems` with this code. False if none has it, and `item` is none then.
+bool FindHotKeyItem(const Application& app, std::int32_t KeyboardCode, ItemRef& item);
+
 // Makes `HotKeyItems` anew from a store. Of two items with one name the second loses its code; codes aren't compared.
 void RefreshHotKeys(Application& app, const clsMenuCollection& store);
 

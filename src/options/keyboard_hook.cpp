@@ -1,5 +1,6 @@
 #include "options/keyboard_hook.h"
 
+#include "core/hot_keys.h"
 #include "core/numbers.h"
 #include "menu/menu_actions.h"
 
@@ -28,13 +29,16 @@ void KeyboardHook::UnhookKeyboard() {
   HookHandle_ = 0;
 }
 
-// Every key of the desktop passes here, so the digits are asked for first, and the opening happens from the loop.
+// Every key of the desktop passes here, so the digits are asked for first, a code that nobody has is none of ours, and
+// the opening happens from the loop.
 void KeyboardHook::KeyboardProc(std::int64_t message, const KeyRecord& key) {
   if (message != kMessageKeyDown || key.vkCode < kFirstDigit || key.vkCode > kLastDigit) return;
   Keyboard& keyboard = app_.platform.keyboard;
   if ((keyboard.GetKeyState(kKeyControl) & kKeyDownBit) == 0) return;
   if ((keyboard.GetKeyState(kKeyShift) & kKeyDownBit) == 0) return;
   const auto code = static_cast<std::int32_t>(key.vkCode);
+  ItemRef holder;
+  if (!FindHotKeyItem(app_, code, holder)) return;
   app_.platform.windows.Post([&app = app_, code] { OpenHotKeyItem(app, code); });
 }
 

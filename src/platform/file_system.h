@@ -72,6 +72,10 @@ class FileSystem {
   virtual bool CopyFileA(const std::wstring& from, const std::wstring& to, bool failIfExists) = 0;
   // Makes one folder; its parent must exist. A folder that exists already is a failure.
   virtual bool CreateFolder(const std::wstring& path) = 0;
+  // Removes a folder with all that is in it, read-only or not; never the root of a drive or a share. Of a link to
+  // another folder the link alone goes, and what it leads to stays. What can't be removed is passed over, and the
+  // result is false.
+  virtual bool DeleteFolder(const std::wstring& path) = 0;
 
   // What a folder holds, in the disk's order, without "." and "..". False, and nothing, if it can't be listed.
   virtual bool ListFolder(const std::wstring& path, std::vector<FolderEntry>& entries) = 0;

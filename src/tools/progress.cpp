@@ -1,5 +1,7 @@
 #include "tools/progress.h"
 
+#include "core/form_services.h"
+
 namespace burrowmark {
 namespace {
 
@@ -21,7 +23,7 @@ frmPause::frmPause(Application& app) : Form(app.platform.windows, L"frmPause", k
 }
 
 void frmPause::Form_Load() {
-  SetTopMost(app_.AlwaysOnTop);
+  SetAlwaysOnTop(app_, *this);
   Animation1.Open(app_.AppPath + kFilm);
   Animation1.Play();
 }

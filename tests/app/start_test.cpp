@@ -57,14 +57,18 @@ class Start : public testing::Test {
     clsRegHandler(machine_.registry).GetKeyValue(RegistryKey::kCurrentUser, key, value, text);
     return text;
   }
-  void Register(const std::wstring& path) {
-    clsRegHandler(machine_.registry).SetKeyValue(RegistryKey::kCurrentUser, kSettingsKey, kConfigFileValue, path);
+  void SetValue(const wchar_t* value, const std::wstring& text) {
+    clsRegHandler(machine_.registry).SetKeyValue(RegistryKey::kCurrentUser, kSettingsKey, value, text);
   }
-  // A file that holds one shortcut of this title in the personal group.
-  std::string FileWith(const std::wstring& title) {
+  void Register(const std::wstring& path) { SetValue(kConfigFileValue, path); }
+  // A file that holds one shortcut of this title in the personal group, and empty groups.
+  std::string FileWith(const std::wstring& title, std::initializer_list<std::wstring> groups = {}) {
     Application app(machine_.platform());
     clsMenuCollection& store = *app.MainStore;
     store.AddNewMenuItem({.Caption = L"Mine", .OwnerName = kRootOwner, .Name = MIT_GROUP_USER, .SubMenu = true});
+    for (const std::wstring& group : groups) {
+      store.AddNewMenuItem({.Caption = group, .OwnerName = MIT_GROUP_USER, .SubMenu = true});
+    }
     store.AddNewMenuItem({.Caption = title, .OwnerName = MIT_GROUP_USER, .FolderPath = L"C:\\Windows"});
     ConfigFileWrite(app, store, L"C:\\made.bwmk", false);
     return machine_.BytesOf(L"C:\\made.bwmk");
@@ -179,6 +183,45 @@ TEST_F(Start, NoWindowNoProgram) {
   machine_.uiFaults.FailCall(1);
   RunBurrowmark(machine_.platform(), {});
   EXPECT_EQ(machine_.windows.Main(), 0);
+}
+
+TEST_F(Start, AfterTheInstallationMissingProjectionsComeUp) {
+  for (const bool readsFile : {true, false}) {
+    const std::wstring desktop = L"C:\\Users\\User\\Desktop\\Organized Folders";
+    const std::wstring favorites = L"C:\\Users\\User\\Favorites\\Organized Folders";
+    std::filesystem::remove_all(machine_.RealPath(desktop));
+    machine_.AddFile(favorites + L"\\kept");
+    for (const wchar_t* value : {L"ADVC2", L"ADVC4", kAfterInstallValue}) SetValue(value, L"True");
+    if (readsFile) {
+      machine_.AddFile(kBeside, FileWith(L"Found", {L"Twice", L"Twice"}));
+      machine_.user.NextBox(L"Folder Twice already exists.", kAnswerOk, [&] {
+        EXPECT_EQ(machine_.user.Window(L"Starting Burrowmark...").LabelTexts(),
+                  L"Refreshing Organized Folders on the Desktop\n");
+      });
+    } else {
+      std::filesystem::remove(machine_.RealPath(kBeside));
+    }
+    const std::size_t windows = machine_.windows.Desktop.History().size();
+    Run({[&] { EXPECT_TRUE(machine_.windows.Desktop.Visible().empty()); }});
+    EXPECT_EQ(machine_.windows.Desktop.History().size(), windows + 1) << "one progress window for everything";
+    EXPECT_EQ(machine_.files.FileExists(desktop + L"\\Found.lnk"), readsFile);
+    EXPECT_TRUE(machine_.files.FileExists(desktop + L"\\Desktop.ini"));
+    EXPECT_NE(machine_.BytesOf(desktop + L"\\Desktop.ini").find("Burrowmark\\burrowmark.exe\""), std::string::npos);
+    EXPECT_TRUE(machine_.files.FileExists(favorites + L"\\kept"));
+    EXPECT_EQ(Registered(kSettingsKey, kAfterInstallValue), L"");
+    EXPECT_EQ(Registered(kSettingsKey, L"ADVC3"), L"");
+  }
+}
+
+TEST_F(Start, AProjectionThatTheUserTookAwayStaysAway) {
+  machine_.AddFile(kBeside, FileWith(L"Found"));
+  for (const wchar_t* value : {L"ADVC2", L"ADVC3", L"ADVC6"}) SetValue(value, L"True");
+  machine_.AddFolders(L"C:\\Users\\User\\AppData\\Roaming\\Microsoft\\Windows\\SendTo\\Organized Folders");
+  Run({});
+  EXPECT_EQ(Registered(kSettingsKey, L"ADVC2"), L"0");
+  EXPECT_EQ(Registered(kSettingsKey, L"ADVC3"), L"True");
+  EXPECT_FALSE(machine_.files.FolderExists(L"C:\\Users\\User\\Desktop\\Organized Folders"));
+  EXPECT_TRUE(machine_.windows.Desktop.History().empty());
 }
 
 TEST_F(Start, CommandsOfOtherProcesses) {

@@ -70,6 +70,52 @@ TEST_P(FoldersContract, WhatIsNoFolderIsNotListed) {
   }
 }
 
+TEST_P(FoldersContract, ADeletedFolderGoesWithAllThatIsInIt) {
+  const std::wstring below = In(L"gone") + L"\\a folder of a rather long name \u0416" + std::wstring(120, L'n');
+  ASSERT_TRUE(files_.CreateFolder(In(L"gone")) && files_.CreateFolder(below) && files_.CreateFolder(below + L"\\x"));
+  ASSERT_TRUE(files_.CreateFolder(In(L"gone too")) && Make(In(L"stays")));
+  for (const std::wstring& path : {In(L"gone\\file"), below + L"\\fixed", below + L"\\x\\hidden"}) {
+    ASSERT_TRUE(Make(path));
+    ASSERT_TRUE(files_.SetFileAttributesA(path, kFileReadOnly | kFileHidden | kFileSystem));
+  }
+  ASSERT_TRUE(files_.SetFileAttributesA(below, kFileReadOnly | kFileSystem));
+
+  EXPECT_TRUE(files_.DeleteFolder(In(L"GONE\\")));
+  EXPECT_TRUE(files_.DeleteFolder(In(L"gone too")));
+  for (const wchar_t* name : {L"gone", L"missing", L"stays", L"stays\\below"}) {
+    EXPECT_FALSE(files_.DeleteFolder(In(name))) << ToUtf8(name);
+  }
+  EXPECT_FALSE(files_.DeleteFolder(L"folder"));
+  EXPECT_EQ(List(system_->Folder()).size(), 1U);
+}
+
+TEST_P(FoldersContract, WhatAnotherProgramHoldsStaysInADeletedFolder) {
+  ASSERT_TRUE(files_.CreateFolder(In(L"a")) && files_.CreateFolder(In(L"a\\b")) && files_.CreateFolder(In(L"a\\c")));
+  ASSERT_TRUE(Make(In(L"a\\b\\held"), "held") && Make(In(L"a\\b\\free")) && Make(In(L"a\\c\\free")));
+  std::shared_ptr<void> hold = system_->HoldOpen(In(L"a\\b\\held"));
+  EXPECT_FALSE(files_.DeleteFolder(In(L"a")));
+  hold.reset();
+  EXPECT_EQ(Content(In(L"a\\b\\held")), "held");
+  EXPECT_EQ(List(In(L"a")).size(), 1U);
+  EXPECT_EQ(List(In(L"a\\b")).size(), 1U);
+  EXPECT_TRUE(files_.DeleteFolder(In(L"a")));
+}
+
+TEST_P(FoldersContract, WhatALinkLeadsToIsNotDeleted) {
+  ASSERT_TRUE(files_.CreateFolder(In(L"elsewhere")) && Make(In(L"elsewhere\\file"), "kept"));
+  ASSERT_TRUE(files_.CreateFolder(In(L"folder")) && files_.CreateFolder(In(L"folder\\below")));
+  if (!system_->LinkFolder(In(L"folder\\below\\link"), In(L"elsewhere"))) {
+    GTEST_SKIP() << "no links to folders can be made here";
+  }
+  ASSERT_TRUE(system_->LinkFolder(In(L"link"), In(L"elsewhere")));
+  EXPECT_EQ(Content(In(L"link\\file")), "kept");
+  const bool removed = !system_->IsWine();  // it takes the link for its target, which isn't empty
+  EXPECT_EQ(files_.DeleteFolder(In(L"folder")), removed);
+  EXPECT_EQ(files_.DeleteFolder(In(L"link")), removed);
+  EXPECT_EQ(files_.FolderExists(In(L"folder")) || files_.FolderExists(In(L"link")), !removed);
+  EXPECT_EQ(Content(In(L"elsewhere\\file")), "kept");
+}
+
 TEST_P(FoldersContract, APathMayBeLongerThanTheOldLimit) {
   if (GetParam().name == "Local" && sizeof(wchar_t) == 2) GTEST_SKIP() << "the C library below has the old limit";
   std::wstring folder = system_->Folder();

@@ -1,4 +1,6 @@
 // Shortcut files: each system reads what each one wrote.
+#include <chrono>
+
 #include "platform/characters.h"
 #include "tests/contract/system_under_test.h"
 
@@ -98,6 +100,15 @@ TEST_P(LinksContract, TheWayToShowTheTargetIsKept) {
       EXPECT_EQ(Read(bytes).showCommand, show);
     }
   }
+}
+
+TEST_P(LinksContract, AThousandLinksAreWrittenInFiveSeconds) {
+  if (GetParam().name == "Local") GTEST_SKIP() << "a benchmark times this one";
+  const auto start = std::chrono::steady_clock::now();
+  for (int i = 0; i < 1000; ++i) {
+    ASSERT_TRUE(shell_.WriteShellLink(In(std::to_wstring(i) + L".lnk"), {L"C:\\Windows", L"one of many", kShowNormal}));
+  }
+  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(5));
 }
 
 TEST_P(LinksContract, ALinkWithoutADescriptionHasNone) {

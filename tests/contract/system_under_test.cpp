@@ -3,14 +3,18 @@
 #include <filesystem>
 #include <random>
 
+#include "platform/characters.h"
 #include "platform/local/folded.h"
 #include "platform/local/machine.h"
 #include "tests/contract/local_screen.h"
 
 #ifdef _WIN32
 #include <windows.h>
+// It wants windows.h ahead of it.
+#include <winioctl.h>
 
 #include "platform/win32/file_handle.h"
+#include "platform/win32/system_library.h"
 #include "platform/win32/win32_platform.h"
 #include "tests/contract/win32_screen.h"
 #endif
@@ -43,6 +47,11 @@ class LocalSystem final : public SystemUnderTest {
     const std::wstring held = Folded(path);
     machine_.faults.HeldOpen.insert(held);
     return {nullptr, [this, held](void*) { machine_.faults.HeldOpen.erase(held); }};
+  }
+  bool LinkFolder(const std::wstring& path, const std::wstring& target) override {
+    std::error_code error;
+    fs::create_directory_symlink(machine_.RealPath(target), machine_.RealPath(path), error);
+    return !error;
   }
   void PressKeys(const std::vector<std::int32_t>& keys) override {
     for (const std::int32_t key : keys) machine_.keyboard.Down(key);
@@ -79,6 +88,58 @@ void RemoveFolder(const std::wstring& folder) {
   ::RemoveDirectoryW(folder.c_str());
 }
 
+// What makes an empty folder a junction: the documented head, and the target in the system's own form.
+std::vector<WORD> JunctionData(const std::wstring& target) {
+  const std::wstring name = L"\\??\\" + target;
+  const auto bytes = static_cast<WORD>(name.size() * sizeof(wchar_t));
+  const auto end = static_cast<WORD>(bytes + sizeof(wchar_t));
+  std::vector<WORD> data = {LOWORD(IO_REPARSE_TAG_MOUNT_POINT),
+                            HIWORD(IO_REPARSE_TAG_MOUNT_POINT),
+                            static_cast<WORD>(4 * sizeof(WORD) + end + sizeof(wchar_t)),
+                            0,
+                            0,
+                            bytes,
+                            end,
+                            0};
+  data.insert(data.end(), name.begin(), name.end());
+  data.insert(data.end(), 2, 0);
+  return data;
+}
+
+bool MakeJunction(const std::wstring& path, const std::wstring& target) {
+  const FileHandle folder(::CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, OPEN_EXISTING,
+                                        FILE_FLAG_OPEN_REPARSE_POINT | FILE_FLAG_BACKUP_SEMANTICS, nullptr));
+  std::vector<WORD> data = JunctionData(target);
+  DWORD returned = 0;
+  return ::DeviceIoControl(folder.Get(), FSCTL_SET_REPARSE_POINT, data.data(),
+                           static_cast<DWORD>(data.size() * sizeof(WORD)), nullptr, 0, &returned, nullptr) != FALSE;
+}
+
+// Wine makes no junctions, but a symbolic link of the system below shows as one.
+bool LinkBelowWine(const std::wstring& path, const std::wstring& target) {
+  const SystemLibrary kernel(L"kernel32.dll");
+  const auto unixFileName = kernel.Find<char*(__cdecl*)(const wchar_t*)>("wine_get_unix_file_name");
+  if (unixFileName == nullptr) return false;
+  std::wstring command = L"ln -s";
+  for (const std::wstring& name : {target, path}) {
+    char* const below = unixFileName(name.c_str());
+    if (below == nullptr) return false;
+    command += L" \"" + FromUtf8(below) + L"\"";
+    ::HeapFree(::GetProcessHeap(), 0, below);
+  }
+  STARTUPINFOW start = {};
+  start.cb = sizeof(start);
+  PROCESS_INFORMATION process = {};
+  constexpr wchar_t kProgram[] = L"\\\\?\\unix\\bin\\ln";
+  if (!::CreateProcessW(kProgram, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start, &process)) {
+    return false;
+  }
+  // A program of the system below can't be waited for.
+  constexpr int kPatience = 100;
+  for (int i = 0; i < kPatience && ::GetFileAttributesW(path.c_str()) == INVALID_FILE_ATTRIBUTES; ++i) ::Sleep(50);
+  return ::GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES;
+}
+
 // Sends one event as the keyboard does, and takes what comes of it off this thread's queue.
 void SendKey(std::int32_t key, DWORD flags) {
   INPUT input = {};
@@ -112,6 +173,10 @@ class Win32System final : public SystemUnderTest {
   std::shared_ptr<void> HoldOpen(const std::wstring& path) override {
     return std::make_shared<FileHandle>(
         ::CreateFileW(path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+  }
+  bool LinkFolder(const std::wstring& path, const std::wstring& target) override {
+    if (::CreateDirectoryW(path.c_str(), nullptr) == FALSE) return false;
+    return MakeJunction(path, target) || (::RemoveDirectoryW(path.c_str()) != FALSE && LinkBelowWine(path, target));
   }
   void PressKeys(const std::vector<std::int32_t>& keys) override {
     for (const std::int32_t key : keys) SendKey(key, 0);

@@ -24,6 +24,8 @@ class SystemUnderTest {
   virtual std::wstring Key() const = 0;
   // Holds a file open as another program does that shares it with nobody, until the object goes.
   virtual std::shared_ptr<void> HoldOpen(const std::wstring& path) = 0;
+  // Makes a folder that is a link to another one. False where that can't be done.
+  virtual bool LinkFolder(const std::wstring& path, const std::wstring& target) = 0;
   // Presses keys one after the other, and lets go of them in reverse.
   virtual void PressKeys(const std::vector<std::int32_t>& keys) = 0;
   // False where there is no desktop that keys could be pressed on.

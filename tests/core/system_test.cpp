@@ -4,6 +4,7 @@
 #include <functional>
 #include <span>
 
+#include "core/form_services.h"
 #include "core/hot_keys.h"
 #include "core/os_detection.h"
 #include "core/registry.h"
@@ -185,6 +186,16 @@ TEST_F(System, FilesFoldersAndDrives) {
   machine_.faults.FailFrom(1);
   EXPECT_FALSE(FolderOrDriveExists(machine_.files, L"C:\\a"));
   EXPECT_FALSE(IsFileReadOnly(machine_.files, L"C:\\a\\f.txt"));
+}
+
+TEST_F(System, AFormShowsThatTheProgramIsBusy) {
+  Form form(machine_.windows, L"frmBusy", Size{3000, 2000});
+  form.SetCaption(L"Busy");
+  form.Show();
+  SetHourglass(form);
+  EXPECT_EQ(machine_.user.Window(L"Busy").pointer, 11);
+  SetNormalPointer(form);
+  EXPECT_EQ(machine_.user.Window(L"Busy").pointer, 0);
 }
 
 TEST_F(System, HotKeysAreListedInOrderAndANameCountsOnce) {

@@ -100,8 +100,9 @@ bool LocalFileSystem::HeldByOther(const Entry& entry) const {
   return faults_.HeldOpen.contains(Folded(entry.name.Text()));
 }
 
-bool LocalFileSystem::Held(const Entry& entry) const {
-  return HeldByOther(entry) || written_.contains(Folded(entry.name.Text()));
+bool LocalFileSystem::Held(const std::wstring& path) const {
+  const std::wstring folded = Folded(path);
+  return faults_.HeldOpen.contains(folded) || written_.contains(folded);
 }
 
 bool LocalFileSystem::MayMakeFileAt(const Entry& entry) const {
@@ -224,6 +225,27 @@ bool LocalFileSystem::CreateFolder(const std::wstring& path) {
   if (!entry || entry->name.IsRoot() || entry->Exists()) return false;
   std::error_code error;
   return fs::create_directory(entry->place, error) && attributes_.Forget(entry->name.Text());
+}
+
+bool LocalFileSystem::DeleteFolder(const std::wstring& path) {
+  if (faults_.Strikes("DeleteFolder", path)) return false;
+  const std::optional<Entry> entry = Look(path);
+  return entry && entry->isFolder && !entry->name.IsRoot() && RemoveTree(entry->name.Text(), entry->place);
+}
+
+// A symbolic link of the disk below is removed as a file is.
+bool LocalFileSystem::RemoveTree(const std::wstring& path, const fs::path& place) {
+  std::error_code error;
+  if (fs::is_directory(fs::symlink_status(place, error))) {
+    std::vector<fs::path> inside;
+    for (fs::directory_iterator it(place, error); !error && it != fs::directory_iterator(); it.increment(error)) {
+      inside.push_back(it->path());
+    }
+    for (const fs::path& child : inside) RemoveTree(path + L'\\' + NameFromDisk(child.filename()), child);
+  } else if (Held(path)) {
+    return false;
+  }
+  return fs::remove(place, error) && attributes_.Forget(path);
 }
 
 bool LocalFileSystem::ListFolder(const std::wstring& path, std::vector<FolderEntry>& entries) {

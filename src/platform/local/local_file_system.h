@@ -31,6 +31,7 @@ class LocalFileSystem final : public FileSystem {
   bool DeleteFileA(const std::wstring& path) override;
   bool CopyFileA(const std::wstring& from, const std::wstring& to, bool failIfExists) override;
   bool CreateFolder(const std::wstring& path) override;
+  bool DeleteFolder(const std::wstring& path) override;
   bool ListFolder(const std::wstring& path, std::vector<FolderEntry>& entries) override;
   std::vector<std::wstring> DriveList() override;
   std::int32_t GetDriveTypeA(const std::wstring& drive) override;
@@ -70,11 +71,13 @@ class LocalFileSystem final : public FileSystem {
   std::optional<Entry> Look(const std::wstring& path);
   std::optional<Entry> LookForFile(const std::wstring& path);
   bool HeldByOther(const Entry& entry) const;
-  bool Held(const Entry& entry) const;
+  bool Held(const Entry& entry) const { return Held(entry.name.Text()); }
+  bool Held(const std::wstring& path) const;
   bool MayMakeFileAt(const Entry& entry) const;
   bool MayWriteAt(const Entry& entry) const;
   bool Remember(const Entry& entry, std::uint32_t attributes);
   bool PutBytes(std::string_view bytes, const Entry& target);
+  bool RemoveTree(const std::wstring& path, const std::filesystem::path& place);
   // The label of a drive with a medium.
   bool ReadLabel(wchar_t letter, std::wstring& label);
 

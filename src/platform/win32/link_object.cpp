@@ -9,6 +9,7 @@
 #include <optional>
 
 #include "platform/win32/com_object.h"
+#include "platform/win32/file_handle.h"
 #include "platform/win32/quiet_drives.h"
 #include "platform/win32/system_path.h"
 
@@ -55,6 +56,31 @@ std::wstring PathOfItems(const LinkObject& object) {
 // No file's name has one: it stands where a character was lost.
 bool LacksCharacters(const std::wstring& path) { return path.find(L'?') != std::wstring::npos; }
 
+// The link's content; empty on failure.
+std::string BytesOf(const LinkObject& object) {
+  const ComObject<IPersistStream> content(object.link.Get(), IID_IPersistStream);
+  IStream* memory = nullptr;
+  if (!content || FAILED(::CreateStreamOnHGlobal(nullptr, TRUE, &memory))) return {};
+  const auto release = [](IStream* stream) { stream->Release(); };
+  const std::unique_ptr<IStream, decltype(release)> stream(memory, release);
+  STATSTG facts = {};
+  if (FAILED(content->Save(stream.get(), TRUE)) || FAILED(stream->Stat(&facts, STATFLAG_NONAME))) return {};
+  std::string bytes(static_cast<std::size_t>(facts.cbSize.QuadPart), '\0');
+  ULONG got = 0;
+  const bool done = SUCCEEDED(stream->Seek({}, STREAM_SEEK_SET, nullptr)) &&
+                    SUCCEEDED(stream->Read(bytes.data(), static_cast<ULONG>(bytes.size()), &got));
+  return done && got == bytes.size() ? bytes : std::string();
+}
+
+bool WriteBytes(const std::wstring& name, const std::string& bytes) {
+  FileHandle file(
+      ::CreateFileW(name.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
+  DWORD written = 0;
+  return file.IsDiskFile() &&
+         ::WriteFile(file.Get(), bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr) != FALSE &&
+         written == bytes.size() && file.Close();
+}
+
 }  // namespace
 
 bool LoadLink(const std::wstring& path, ShellLink& link) {
@@ -81,9 +107,14 @@ bool SaveLink(const std::wstring& path, const ShellLink& link) {
   const LinkObject object;
   if (!name || !SystemPath(link.target) || !object.IsThere()) return false;
   const QuietDrives quiet;
-  return SUCCEEDED(object.link->SetPath(link.target.c_str())) &&
-         SUCCEEDED(object.link->SetDescription(link.description.c_str())) &&
-         SUCCEEDED(object.link->SetShowCmd(link.showCommand)) && SUCCEEDED(object.file->Save(name->c_str(), TRUE));
+  if (FAILED(object.link->SetPath(link.target.c_str())) ||
+      FAILED(object.link->SetDescription(link.description.c_str())) ||
+      FAILED(object.link->SetShowCmd(link.showCommand))) {
+    return false;
+  }
+  // The object's own way to save itself as a file may start a program for every file.
+  const std::string bytes = BytesOf(object);
+  return !bytes.empty() && WriteBytes(*name, bytes);
 }
 
 }  // namespace burrowmark

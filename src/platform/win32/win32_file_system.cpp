@@ -11,6 +11,7 @@
 #include "platform/win32/drive_facts.h"
 #include "platform/win32/file_handle.h"
 #include "platform/win32/folder_listing.h"
+#include "platform/win32/folder_removal.h"
 #include "platform/win32/quiet_drives.h"
 #include "platform/win32/system_path.h"
 
@@ -150,6 +151,8 @@ bool Win32FileSystem::CreateFolder(const std::wstring& path) {
   const QuietDrives quiet;
   return name && ::CreateDirectoryW(name->c_str(), nullptr) != 0;
 }
+
+bool Win32FileSystem::DeleteFolder(const std::wstring& path) { return RemoveFolder(path); }
 
 bool Win32FileSystem::ListFolder(const std::wstring& path, std::vector<FolderEntry>& entries) {
   return ReadFolder(path, entries);

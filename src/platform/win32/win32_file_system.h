@@ -18,6 +18,7 @@ class Win32FileSystem final : public FileSystem {
   bool DeleteFileA(const std::wstring& path) override;
   bool CopyFileA(const std::wstring& from, const std::wstring& to, bool failIfExists) override;
   bool CreateFolder(const std::wstring& path) override;
+  bool DeleteFolder(const std::wstring& path) override;
   bool ListFolder(const std::wstring& path, std::vector<FolderEntry>& entries) override;
   std::vector<std::wstring> DriveList() override;
   std::int32_t GetDriveTypeA(const std::wstring& drive) override;

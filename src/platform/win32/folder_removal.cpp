@@ -1,0 +1,71 @@
+#include "platform/win32/folder_removal.h"
+
+#include <windows.h>
+
+#include <optional>
+#include <vector>
+
+#include "platform/win32/folder_listing.h"
+#include "platform/win32/quiet_drives.h"
+#include "platform/win32/system_path.h"
+
+namespace burrowmark {
+namespace {
+
+// The path without "..", "/" and the like, and without a backslash at its end; empty on failure.
+std::wstring PlainPath(const std::wstring& path) {
+  const DWORD room = ::GetFullPathNameW(path.c_str(), 0, nullptr, nullptr);
+  std::wstring plain(room, L'\0');
+  const DWORD length = ::GetFullPathNameW(path.c_str(), room, plain.data(), nullptr);
+  plain.resize(length < room ? length : 0);
+  while (plain.ends_with(L'\\')) plain.pop_back();
+  return plain;
+}
+
+// Of a plain path: a drive, or a server and its share.
+bool IsRoot(const std::wstring& path) {
+  if (!path.starts_with(L"\\\\")) return path.find(L'\\') == std::wstring::npos;
+  const std::size_t share = path.find(L'\\', 2);
+  return share == std::wstring::npos || path.find(L'\\', share + 1) == std::wstring::npos;
+}
+
+// True for a link to a folder elsewhere. The system marks other folders in the same way, those that are kept in a cloud
+// for instance; what is in them is theirs.
+bool IsLink(const std::wstring& name) {
+  WIN32_FIND_DATAW found = {};
+  const HANDLE search = ::FindFirstFileW(name.c_str(), &found);
+  if (search == INVALID_HANDLE_VALUE) return true;  // nobody knows what it is, so it isn't entered
+  ::FindClose(search);
+  if ((found.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) == 0) return false;
+  return found.dwReserved0 == 0 || IsReparseTagNameSurrogate(found.dwReserved0);
+}
+
+void MakeWritable(const std::wstring& name, std::uint32_t attributes) {
+  if ((attributes & kFileReadOnly) != 0) ::SetFileAttributesW(name.c_str(), attributes & ~kFileReadOnly);
+}
+
+bool RemoveTree(const std::wstring& path, std::uint32_t attributes) {
+  const std::optional<std::wstring> name = SystemPath(path);
+  if (!name) return false;
+  MakeWritable(*name, attributes);
+  if ((attributes & kFileDirectory) == 0) return ::DeleteFileW(name->c_str()) != 0;
+  std::vector<FolderEntry> entries;
+  if (!IsLink(*name)) ReadFolder(path, entries);
+  for (const FolderEntry& entry : entries) RemoveTree(path + L'\\' + entry.name, entry.attributes);
+  return ::RemoveDirectoryW(name->c_str()) != 0;
+}
+
+}  // namespace
+
+bool RemoveFolder(const std::wstring& path) {
+  if (!SystemPath(path)) return false;
+  const std::wstring plain = PlainPath(path);
+  if (plain.empty() || IsRoot(plain)) return false;
+  const QuietDrives quiet;
+  const std::optional<std::wstring> name = SystemPath(plain);
+  const DWORD attributes = name ? ::GetFileAttributesW(name->c_str()) : INVALID_FILE_ATTRIBUTES;
+  if (attributes == INVALID_FILE_ATTRIBUTES || (attributes & kFileDirectory) == 0) return false;
+  return RemoveTree(plain, attributes);
+}
+
+}  // namespace burrowmark

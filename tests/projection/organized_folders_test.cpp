@@ -1,0 +1,233 @@
+// The tree as folders and link files, as the shell and the user find it on the disk.
+#include "projection/organized_folders.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+
+#include "core/registry.h"
+#include "core/registry_keys.h"
+#include "platform/characters.h"
+#include "tests/support/menu_scene.h"
+
+namespace burrowmark {
+namespace {
+
+constexpr wchar_t kDesktop[] = L"C:\\Users\\User\\Desktop\\Organized Folders";
+constexpr wchar_t kTarget[] = L"C:\\Windows";
+constexpr wchar_t kConflict[] =
+    L"Folder A already exists. Its contents will be overwritten.\r\nTo fix this problem change the group's name.";
+constexpr char kDesktopIni[] =
+    "[.ShellClassInfo]\r\nIconFile = \"C:\\Caf\xE9\\burrowmark.exe\"\r\nIconIndex = 0\r\nConfirmFileOp = 0\r\n"
+    "OriginalIcon = %\r\nInfoTip = Contains shortcuts to your favorite folders.\r\n";
+
+class OrganizedFolders : public testing::Test {
+ protected:
+  OrganizedFolders() {
+    app_.AppCommand = L"\"C:\\Caf\u00E9\\burrowmark.exe\"";
+    InitOrganizedFoldersPaths(app_);
+    scene_.AddPersonal();
+  }
+  void Project() { RefreshOrganizedFoldersDesktop(app_, store_, false); }
+  // Everything below a folder but Desktop.ini, in the disk's order: "A[x.lnk] y.lnk".
+  std::wstring Tree(const std::wstring& folder = kDesktop) {
+    std::vector<FolderEntry> entries;
+    files_.ListFolder(folder, entries);
+    std::wstring tree;
+    for (const FolderEntry& entry : entries) {
+      if (entry.name == L"Desktop.ini") continue;
+      tree += (tree.empty() ? L"" : L" ") + entry.name;
+      if ((entry.attributes & kFileDirectory) != 0) tree += L"[" + Tree(folder + L"\\" + entry.name) + L"]";
+    }
+    return tree;
+  }
+  std::wstring Setting(const std::wstring& name) {
+    std::wstring text;
+    clsRegHandler(machine_.registry).GetKeyValue(RegistryKey::kCurrentUser, kSettingsKey, name, text);
+    return text;
+  }
+  ItemRef Add(const std::wstring& name, const std::wstring& caption, const std::wstring& owner = MIT_GROUP_USER) {
+    return scene_.AddShortcut(name, caption, kTarget, owner);
+  }
+
+  test::MenuScene scene_;
+  LocalMachine& machine_ = scene_.machine;
+  Application& app_ = scene_.app;
+  FileSystem& files_ = machine_.files;
+  clsMenuCollection& store_ = *app_.MainStore;
+};
+
+TEST_F(OrganizedFolders, GroupsAreFoldersAndShortcutsAreLinks) {
+  scene_.AddGroup(L"GA", L"A");
+  scene_.AddGroup(L"GB", L"B", L"GA");
+  Add(L"S", L"S", L"GA");
+  Add(L"T", L"T & \u0416");
+  Project();
+  EXPECT_EQ(Tree(), L"A[B[] S.lnk] T & \u0416.lnk");
+  EXPECT_EQ(Setting(L"DirDesktop"), kDesktop);
+  for (const wchar_t* link : {L"\\A\\S.lnk", L"\\T & \u0416.lnk"}) {
+    ShellLink read;
+    ASSERT_TRUE(machine_.shell.ReadShellLink(kDesktop + std::wstring(link), read));
+    EXPECT_EQ(read.target, kTarget);
+    EXPECT_EQ(read.description, L"Organized Folder Shortcut");
+    EXPECT_EQ(read.showCommand, 1);
+  }
+  EXPECT_EQ(machine_.BytesOf(kDesktop + std::wstring(L"\\Desktop.ini")), kDesktopIni);
+  EXPECT_EQ(files_.GetFileAttributesA(kDesktop + std::wstring(L"\\Desktop.ini")), kFileHidden | kFileSystem);
+  EXPECT_EQ(files_.GetFileAttributesA(kDesktop), kFileSystem | kFileDirectory);
+  EXPECT_FALSE(files_.FileExists(kDesktop + std::wstring(L"\\A\\Desktop.ini")));
+}
+
+TEST_F(OrganizedFolders, OtherItemsArePassedOver) {
+  scene_.AddGroup(L"G", L"Empty");
+  store_.AddNewMenuItem({.OwnerName = L"G", .ItemType = MIT_OPENALL});
+  store_.AddNewMenuItem({.Caption = L"line", .OwnerName = L"G", .Separator = true});
+  Add(L"gone", L"gone", L"G")->FolderPath = L"C:\\gone";
+  Add(L"file", L"file", L"G")->FolderPath = L"C:\\Windows\\explorer.exe";
+  Add(L"odd", L"odd", L"G")->OpenType = L"odd";
+  Add(L"drive", L"drive")->FolderPath = L"C:\\";
+  AddFixedEntries(app_, store_, true);
+  const std::wstring outside[] = {L"GO", L"O"};
+  scene_.AddGroup(outside[0], L"Outside", kRootOwner);
+  Add(outside[1], L"O", outside[0]);
+  store_.AddNewMenuItem({.Caption = L"Drives", .OwnerName = kRootOwner, .Name = MIT_PATHS_DRIVES, .SubMenu = true});
+  store_.AddNewMenuItem({.Caption = L"C", .OwnerName = MIT_PATHS_DRIVES, .FolderPath = L"C:\\", .ItemType = MIT_DRIVE});
+  Project();
+  EXPECT_EQ(Tree(), L"drive.lnk Empty[]");
+  app_.ADVC[5] = true;
+  Project();
+  const std::wstring all = Tree();
+  EXPECT_TRUE(all.starts_with(L"drive.lnk Empty[] Outside[O.lnk] System Folders[")) << ToUtf8(all);
+  EXPECT_NE(all.find(L"Personal[Application Data.lnk"), std::wstring::npos) << ToUtf8(all);
+  for (const wchar_t* none : {L"Drives", L"Help", L"Cursors"}) EXPECT_EQ(all.find(none), std::wstring::npos);
+}
+
+TEST_F(OrganizedFolders, TwoGroupsOfOneTitleShareAFolder) {
+  scene_.AddGroup(L"G1", L"A");
+  Add(L"S1", L"one", L"G1");
+  Add(L"S2", L"same", L"G1");
+  scene_.AddGroup(L"G2", L"A");
+  Add(L"S3", L"same", L"G2")->FolderPath = L"C:\\Users";
+  Add(L"S4", L"two", L"G2");
+  machine_.user.NextBox(kConflict, kAnswerOk, [this] { store_.Remove(L"S4"); });
+  Project();
+  EXPECT_EQ(Tree(), L"A[one.lnk same.lnk two.lnk]");
+  ShellLink read;
+  machine_.shell.ReadShellLink(kDesktop + std::wstring(L"\\A\\same.lnk"), read);
+  EXPECT_EQ(read.target, L"C:\\Users");
+}
+
+TEST_F(OrganizedFolders, AMovedItemGoesWhereItStandsNow) {
+  scene_.AddGroup(L"GA", L"A");
+  const ItemRef group = scene_.AddGroup(L"GB", L"B");
+  const ItemRef item = Add(L"S", L"S", L"GA");
+  item->OwnerName = L"GB";
+  group->SetCaption(L"Renamed");
+  EXPECT_EQ(item->ItemPath, L"A\\");
+  Project();
+  EXPECT_EQ(Tree(), L"A[] Renamed[S.lnk]");
+}
+
+TEST_F(OrganizedFolders, ATitleThatTheDiskRefusesTakesItsItemsAlong) {
+  for (const std::wstring& title : {std::wstring(L".."), std::wstring(L". "), std::wstring(300, L'n')}) {
+    scene_.AddGroup(L"G" + title, title);
+    scene_.AddGroup(L"H" + title, L"below", L"G" + title);
+    Add(L"S" + title, L"S", L"H" + title);
+  }
+  Add(L"long", std::wstring(300, L'n'));
+  Add(L"last", L"last");
+  Project();
+  EXPECT_EQ(Tree(), L"last.lnk");
+  EXPECT_EQ(Tree(L"C:\\Users\\User\\Desktop"), L"Organized Folders[last.lnk]");
+}
+
+TEST_F(OrganizedFolders, WhatStoodInTheRootGoes) {
+  Project();
+  const std::wstring root = kDesktop;
+  machine_.AddFile(root + L"\\by hand\\below\\file");
+  machine_.AddFile(root + L"\\locked.lnk", "l");
+  machine_.AddFile(root + L"\\A\\locked too");
+  machine_.AddFile(root + L"\\old.lnk");
+  machine_.AddFile(L"C:\\elsewhere\\kept", "kept");
+  std::filesystem::create_directory_symlink(machine_.RealPath(L"C:\\elsewhere"), machine_.RealPath(root + L"\\link"));
+  machine_.files.SetFileAttributesA(root + L"\\by hand\\below\\file", kFileReadOnly);
+  machine_.faults.HeldOpen = {L"C:\\USERS\\USER\\DESKTOP\\ORGANIZED FOLDERS\\LOCKED.LNK",
+                              L"C:\\USERS\\USER\\DESKTOP\\ORGANIZED FOLDERS\\A\\LOCKED TOO"};
+  Add(L"T", L"T");
+  Project();
+  EXPECT_EQ(Tree(), L"A[locked too] locked.lnk T.lnk");
+  EXPECT_EQ(machine_.BytesOf(L"C:\\elsewhere\\kept"), "kept");
+  machine_.faults.HeldOpen.clear();
+  DeleteOrganizedFoldersDesktop(app_);
+  EXPECT_FALSE(files_.FolderExists(root));
+}
+
+TEST_F(OrganizedFolders, WithoutAPlaceNothingIsProjected) {
+  Add(L"T", L"T");
+  std::filesystem::remove(machine_.RealPath(L"C:\\Users\\User\\Favorites"));
+  machine_.user.NextBox(L"Organized Folders have been restored.", kAnswerOk);
+  RefreshOrganizedFoldersFavorites(app_, store_, true);
+  EXPECT_FALSE(files_.FolderExists(L"C:\\Users\\User\\Favorites"));
+  EXPECT_EQ(Setting(L"DirFavorites"), L"");
+  RefreshOrganizedFoldersSendTo(app_, store_, false);
+  EXPECT_EQ(Tree(app_.OrganizedFoldersSendTo), L"T.lnk");
+  EXPECT_EQ(Setting(L"DirSendTo"), app_.OrganizedFoldersSendTo);
+
+  clsRegHandler(machine_.registry).DeleteValue(RegistryKey::kCurrentUser, kShellFoldersKey, L"SendTo");
+  InitOrganizedFoldersPaths(app_);
+  EXPECT_EQ(app_.OrganizedFoldersSendTo, L"");
+  machine_.faults.FailFrom(0);
+  RefreshOrganizedFoldersSendTo(app_, store_, true);
+  EXPECT_EQ(machine_.faults.Calls(), 0U);
+}
+
+TEST_F(OrganizedFolders, AnEmptyStoreEmptiesTheRoot) {
+  Add(L"T", L"T");
+  Project();
+  RefreshOrganizedFoldersDesktop(app_, clsMenuCollection(machine_.clock), false);
+  EXPECT_EQ(Tree(), L"");
+  EXPECT_EQ(machine_.BytesOf(kDesktop + std::wstring(L"\\Desktop.ini")), kDesktopIni);
+}
+
+// Whatever single call fails, the others are made, and the next projection mends what is missing.
+TEST_F(OrganizedFolders, NoFailureStopsTheRest) {
+  scene_.AddGroup(L"GA", L"A");
+  Add(L"S", L"S", L"GA");
+  Add(L"T", L"T");
+  Project();
+  machine_.faults.FailFrom(0);
+  Project();
+  const std::vector<std::string> calls = machine_.faults.Record();
+  ASSERT_GT(calls.size(), 10U);
+  for (std::size_t i = 0; i < calls.size(); ++i) {
+    SCOPED_TRACE(calls[i]);
+    const auto strikes = [&call = calls[i]](const char* name) { return call.starts_with(name); };
+    if (strikes("ListFolder") || strikes("DeleteFolder")) machine_.user.NextBox(kConflict, kAnswerOk);
+    machine_.faults.FailCall(i + 1);
+    Project();
+    EXPECT_EQ(machine_.faults.Failed(), 1U);
+    machine_.faults.Clear();
+    const std::wstring tree = Tree();
+    const bool whole = !strikes("CreateFolder") && !strikes("FolderExists C:\\Windows");
+    EXPECT_TRUE(whole ? tree == L"A[S.lnk] T.lnk" : tree == L"T.lnk" || tree == L"A[S.lnk]" || tree == L"A[] T.lnk")
+        << ToUtf8(tree);
+    Project();
+    EXPECT_EQ(Tree(), L"A[S.lnk] T.lnk");
+    EXPECT_EQ(machine_.BytesOf(kDesktop + std::wstring(L"\\Desktop.ini")), kDesktopIni);
+    EXPECT_EQ(files_.GetFileAttributesA(kDesktop + std::wstring(L"\\Desktop.ini")), kFileHidden | kFileSystem);
+  }
+}
+
+TEST_F(OrganizedFolders, ARootThatIsGoneTurnsItsOptionOff) {
+  app_.ADVC[2] = app_.ADVC[3] = true;
+  Project();
+  CheckOrganizedFoldersExist(app_);
+  EXPECT_TRUE(app_.ADVC[2]);
+  EXPECT_FALSE(app_.ADVC[3]);
+  EXPECT_EQ(Setting(L"ADVC2"), L"");
+  EXPECT_EQ(Setting(L"ADVC3"), L"0");
+  EXPECT_EQ(Setting(L"ADVC4"), L"");
+}
+
+}  // namespace
+}  // namespace burrowmark
