@@ -1,10 +1,10 @@
 #include "app/command_line.h"
 
 #include "core/failure.h"
+#include "core/file_names.h"
 #include "core/numbers.h"
 #include "core/registry.h"
 #include "core/registry_keys.h"
-#include "core/text.h"
 
 namespace burrowmark {
 namespace {
@@ -40,12 +40,7 @@ void OpenOrganize(Application& app, bool AddMode, const std::wstring& Command) {
 }  // namespace
 
 std::wstring CommandArgument(const std::wstring& Command, std::size_t length) {
-  if (Command.size() <= length + 1) return {};
-  std::wstring argument = Trim(std::wstring_view(Command).substr(length + 1));
-  if (argument.size() >= 2 && argument.front() == L'"' && argument.back() == L'"') {
-    argument = argument.substr(1, argument.size() - 2);
-  }
-  return argument;
+  return Command.size() <= length + 1 ? std::wstring() : PathArgument(std::wstring_view(Command).substr(length + 1));
 }
 
 void ProcessCommand(Application& app, bool FromMenu, const std::wstring& Command) {

@@ -30,6 +30,9 @@ bool IsPlaceThere(FileSystem& files, const std::wstring& path) {
 frmMain::frmMain(Application& app) : app_(app), menu_(app), tray_(app, menu_), hook_(app) {
   events_.TrayMouse = [this](std::uint32_t mouseMessage) { tray_.Form_MouseMove(mouseMessage); };
   events_.TaskbarCreated = [this] { tray_.Add(); };
+  events_.SessionEnding = [this] {
+    if (app_.Calls.SaveForSessionEnd) app_.Calls.SaveForSessionEnd();
+  };
   events_.Unload = [this] { Form_Unload(); };
 }
 
@@ -109,6 +112,10 @@ void frmMain::TellProgress(const std::wstring& text) {
 }
 
 void frmMain::Unload() {
+  if (app_.Calls.UnloadOrganize && !app_.Calls.UnloadOrganize()) {
+    app_.ExitRequested = false;
+    return;
+  }
   if (app_.MainWindow != 0) app_.platform.windows.DestroyMainWindow(app_.MainWindow);
 }
 

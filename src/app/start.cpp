@@ -1,6 +1,7 @@
 #include "app/start.h"
 
 #include "app/command_line.h"
+#include "app/editor.h"
 #include "app/frm_main.h"
 #include "config/config_file.h"
 #include "core/file_names.h"
@@ -32,12 +33,19 @@ void ComputePaths(Application& app) {
 }
 
 // Calls of windows that don't exist yet stay empty.
-void FillCalls(Application& app, frmMain& form) {
+void FillCalls(Application& app, frmMain& form, Editor& editor) {
   app.Calls.ProcessCommand = [&app](bool FromMenu, const std::wstring& Command) {
     ProcessCommand(app, FromMenu, Command);
   };
   app.Calls.SaveMainStore = [&app] { ConfigFileWrite(app, *app.MainStore, {}, false); };
   app.Calls.UnloadMain = [&form] { form.Unload(); };
+  app.Calls.ShowOrganize = [&editor](bool) { editor.Show(); };
+  app.Calls.InitOrganize = [&editor](const std::wstring& Command) { editor.Init(Command); };
+  app.Calls.UnloadOrganize = [&editor] { return editor.Unload(); };
+  app.Calls.SaveForSessionEnd = [&editor] { editor.SaveForSessionEnd(); };
+  app.Calls.BringToFront = [&editor](SingleWindow window) {
+    if (window == SingleWindow::kOrganize) editor.BringToFront();
+  };
 }
 
 }  // namespace
@@ -57,7 +65,8 @@ void RunBurrowmark(Platform platform, const std::wstring& CommandLine) {
   InitOrganizedFoldersPaths(app);
   LoadSettings(app);
   frmMain form(app);
-  FillCalls(app, form);
+  Editor editor(app);
+  FillCalls(app, form, editor);
   if (form.Form_Load(message, command)) platform.windows.RunLoop();
 }
 

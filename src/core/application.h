@@ -64,6 +64,10 @@ struct UpwardCalls {
   // Shows the editor over the main window; then hands it a command ("/ADD ...", "/OPEN ...").
   std::function<void(bool AddMode)> ShowOrganize;
   std::function<void(const std::wstring& Command)> InitOrganize;
+  // Closes the editor; false if the user wants to go on with it.
+  std::function<bool()> UnloadOrganize;
+  // What is being edited is written without a question.
+  std::function<void()> SaveForSessionEnd;
   std::function<void(const std::wstring& folder)> ShowFolderReport;
   std::function<void()> UnloadOptions;
   // Ends the program: unloads the main window.

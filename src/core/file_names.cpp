@@ -49,4 +49,10 @@ std::wstring GetFileBaseName(std::wstring_view path) {
   return dot == std::wstring_view::npos ? std::wstring(path) : LowerCaseText(path.substr(0, dot));
 }
 
+std::wstring PathArgument(std::wstring_view text) {
+  std::wstring path = Trim(text);
+  if (path.size() >= 2 && path.front() == L'"' && path.back() == L'"') path = path.substr(1, path.size() - 2);
+  return path;
+}
+
 }  // namespace burrowmark

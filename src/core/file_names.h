@@ -23,4 +23,7 @@ std::wstring GetFileExtension(std::wstring_view path);
 // What stands ahead of the last dot, in lower case; the whole text as it is without one.
 std::wstring GetFileBaseName(std::wstring_view path);
 
+// A path that was given with a command: without blanks around it and without one pair of double quotes around that.
+std::wstring PathArgument(std::wstring_view text);
+
 }  // namespace burrowmark

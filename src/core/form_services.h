@@ -10,6 +10,19 @@ namespace burrowmark {
 void SetHourglass(Form& form);
 void SetNormalPointer(Form& form);
 
+// The busy pointer as long as this lives; then the pointer from before.
+class Hourglass {
+ public:
+  explicit Hourglass(Form& form) : form_(form), before_(form.MousePointer()) { SetHourglass(form_); }
+  ~Hourglass() { form_.SetMousePointer(before_); }
+  Hourglass(const Hourglass&) = delete;
+  Hourglass& operator=(const Hourglass&) = delete;
+
+ private:
+  Form& form_;
+  std::int32_t before_;
+};
+
 // Every dialog calls this when it loads: it stays above other windows if the editor does.
 void SetAlwaysOnTop(const Application& app, Form& form);
 

@@ -5,10 +5,15 @@
 
 namespace burrowmark {
 
+inline constexpr std::int32_t kKeyCodeBackspace = 8;
 inline constexpr std::int32_t kKeyCodeTab = 9;
 inline constexpr std::int32_t kKeyCodeReturn = 13;
 inline constexpr std::int32_t kKeyCodeEscape = 27;
 inline constexpr std::int32_t kKeyCodeSpace = 32;
+inline constexpr std::int32_t kKeyCodeDelete = 46;
+inline constexpr std::int32_t kKeyCodeF2 = 113;
+inline constexpr std::int32_t kKeyCodeF5 = 116;
+inline constexpr std::int32_t kKeyCodeF6 = 117;
 
 inline constexpr std::int32_t kShiftMask = 1;
 inline constexpr std::int32_t kCtrlMask = 2;

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "platform/drawing.h"
 #include "platform/menus.h"
@@ -84,6 +85,9 @@ class WindowSystem {
   virtual void SetWindowHook(WindowHandle window, std::function<MessageResult(WindowMessage&)> hook) = 0;
   // Dots per inch of the screen that the mouse is on.
   virtual std::int32_t MouseScreenDpi() = 0;
+
+  // The screens without their task bars, the main one first, in twips by the scale of the system.
+  virtual std::vector<Box> Screens() = 0;
 
   // The number of a message by its name; the same in all processes.
   virtual std::uint32_t RegisterWindowMessageA(const std::wstring& name) = 0;

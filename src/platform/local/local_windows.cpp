@@ -169,6 +169,12 @@ bool LocalWindows::RunOne() {
   return true;
 }
 
+std::vector<Box> LocalWindows::Screens() {
+  const Rect& screen = WindowStack::kScreen;
+  const auto twips = [](std::int32_t pixels) { return ToTwips(pixels, WindowStack::kSystemDpi); };
+  return {{twips(screen.left), twips(screen.top), twips(screen.right - screen.left), twips(screen.bottom - screen.top)}};
+}
+
 void LocalWindows::DoEvents() {
   while (RunOne()) {
   }

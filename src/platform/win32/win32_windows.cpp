@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "platform/from_system.h"
 #include "platform/win32/handles.h"
 
 namespace burrowmark {
@@ -15,6 +16,25 @@ std::int64_t SendAndWait(HWND window, UINT message, WPARAM wParam, LPARAM lParam
   const LRESULT answered =
       ::SendMessageTimeoutW(window, message, wParam, lParam, SMTO_ABORTIFHUNG, kLongestWait, &result);
   return answered == 0 ? 0 : static_cast<std::int64_t>(result);
+}
+
+Box InTwips(const RECT& pixels) {
+  const auto twips = [](LONG length) { return ToTwips(static_cast<std::int32_t>(length), ScreenDpi::OfSystem()); };
+  return {twips(pixels.left), twips(pixels.top), twips(pixels.right - pixels.left), twips(pixels.bottom - pixels.top)};
+}
+
+BOOL CALLBACK AddScreen(HMONITOR monitor, HDC, RECT*, LPARAM data) {
+  return FromSystem(
+      [&] {
+        auto& screens = *reinterpret_cast<std::vector<Box>*>(data);
+        MONITORINFO info = {};
+        info.cbSize = sizeof(info);
+        if (::GetMonitorInfoW(monitor, &info) == FALSE) return TRUE;
+        const bool isMain = (info.dwFlags & MONITORINFOF_PRIMARY) != 0;
+        screens.insert(isMain ? screens.begin() : screens.end(), InTwips(info.rcWork));
+        return TRUE;
+      },
+      FALSE);
 }
 
 }  // namespace
@@ -61,6 +81,12 @@ void Win32Windows::SetWindowHook(WindowHandle window, std::function<MessageResul
 }
 
 std::int32_t Win32Windows::MouseScreenDpi() { return dpi_.AtMouse(); }
+
+std::vector<Box> Win32Windows::Screens() {
+  std::vector<Box> screens;
+  ::EnumDisplayMonitors(nullptr, nullptr, AddScreen, reinterpret_cast<LPARAM>(&screens));
+  return screens;
+}
 
 std::uint32_t Win32Windows::RegisterWindowMessageA(const std::wstring& name) {
   return ::RegisterWindowMessageW(name.c_str());

@@ -1,0 +1,151 @@
+#include "core/form_state.h"
+
+#include <algorithm>
+#include <optional>
+#include <vector>
+
+#include "core/failure.h"
+#include "core/numbers.h"
+#include "core/registry.h"
+#include "core/registry_keys.h"
+#include "core/text.h"
+
+namespace burrowmark {
+namespace {
+
+struct FormKey {
+  const wchar_t* form;
+  const wchar_t* key;
+};
+
+constexpr FormKey kFormKeys[] = {
+    {L"frmOrganize", L"frmOrg"},
+    {L"frmProperties", L"frmProp"},
+    {L"frmPropertiesConfigFile", L"frmInfo"},
+    {L"frmOptions", L"frmSet"},
+    {L"frmShortcutsList", L"frmLST"},
+    {L"frmNetworkDrives", L"frmNet"},
+    {L"frmPersonalNetworkInfo", L"frmPersNetInfo"},
+    {L"frmFolderReport", L"frmFolderRep"},
+};
+
+constexpr wchar_t kLeft[] = L"L";
+constexpr wchar_t kTop[] = L"T";
+constexpr wchar_t kWidth[] = L"W";
+constexpr wchar_t kHeight[] = L"H";
+constexpr wchar_t kState[] = L"S";
+
+// The values of one form.
+class FormValues {
+ public:
+  FormValues(Application& app, const std::wstring& formName)
+      : registry_(app.platform.registry), key_(GetFormRegKey(formName)) {}
+
+  // None for a value that is missing; 0 for one that is no number.
+  std::optional<std::int32_t> Read(const wchar_t* name) {
+    std::wstring text;
+    if (!registry_.GetKeyValue(RegistryKey::kCurrentUser, key_, name, text)) return std::nullopt;
+    text = Trim(text);
+    if (text.empty()) return std::nullopt;
+    std::int32_t value = 0;
+    Skip([&] { value = ToInt32(text); });
+    return value;
+  }
+  void Write(const wchar_t* name, std::int32_t value) {
+    registry_.SetKeyValue(RegistryKey::kCurrentUser, key_, name, DecimalText(value));
+  }
+
+ private:
+  clsRegHandler registry_;
+  std::wstring key_;
+};
+
+std::int32_t Overlap(std::int32_t start, std::int32_t length, std::int32_t otherStart, std::int32_t otherLength) {
+  return std::min(start + length, otherStart + otherLength) - std::max(start, otherStart);
+}
+
+// A piece of the window's upper edge that is large enough to take hold of lies on the screen.
+bool CanBeReached(const Box& window, const Box& screen) {
+  constexpr std::int32_t kGrip = 600;
+  return Overlap(window.left, window.width, screen.left, screen.width) >= std::min(kGrip, window.width) &&
+         window.top >= screen.top - kGrip / 2 && window.top + kGrip <= screen.top + screen.height;
+}
+
+Box OnAScreen(Application& app, Box window) {
+  const std::vector<Box> screens = app.platform.windows.Screens();
+  if (screens.empty() || std::any_of(screens.begin(), screens.end(),
+                                     [&window](const Box& screen) { return CanBeReached(window, screen); })) {
+    return window;
+  }
+  const Box& first = screens.front();
+  window.left = std::max(first.left, std::min(window.left, first.left + first.width - window.width));
+  window.top = std::max(first.top, std::min(window.top, first.top + first.height - window.height));
+  return window;
+}
+
+Box InTheMiddle(Application& app, const Box& window) {
+  const Size screen = ScreenSize(app);
+  return {(screen.width - window.width) / 2, (screen.height - window.height) / 2, window.width, window.height};
+}
+
+FormWindowState StateOf(std::int32_t value) {
+  return value == static_cast<std::int32_t>(FormWindowState::kMaximized) ? FormWindowState::kMaximized
+                                                                        : FormWindowState::kNormal;
+}
+
+}  // namespace
+
+std::wstring GetFormRegKey(const std::wstring& formName) {
+  const std::wstring base = std::wstring(kMainKey) + L"\\";
+  const auto* found = std::find_if(std::begin(kFormKeys), std::end(kFormKeys),
+                                   [&formName](const FormKey& row) { return formName == row.form; });
+  return found == std::end(kFormKeys) ? base : base + found->key;
+}
+
+Size ScreenSize(Application& app) {
+  const std::vector<Box> screens = app.platform.windows.Screens();
+  return screens.empty() ? Size{} : Size{screens.front().width, screens.front().height};
+}
+
+void LoadFormState(Application& app, Form& form, bool positionOnly, const FormStateDefaults& defaults) {
+  FormValues values(app, form.Name());
+  const std::optional<std::int32_t> left = values.Read(kLeft);
+  const std::optional<std::int32_t> top = values.Read(kTop);
+  const std::optional<std::int32_t> width = positionOnly ? std::nullopt : values.Read(kWidth);
+  const std::optional<std::int32_t> height = positionOnly ? std::nullopt : values.Read(kHeight);
+  const std::optional<std::int32_t> state = positionOnly ? std::nullopt : values.Read(kState);
+  Box place = form.Place();
+  if (!left || !top || (!positionOnly && (!width || !height || !state))) {
+    if (!positionOnly && !width && defaults.width > 0) place.width = defaults.width;
+    if (!positionOnly && !height && defaults.height > 0) place.height = defaults.height;
+    form.SetPlace(InTheMiddle(app, place));
+    form.SetWindowState(defaults.maximised ? FormWindowState::kMaximized : FormWindowState::kNormal);
+    return;
+  }
+  form.SetWindowState(StateOf(state.value_or(0)));
+  if (state.value_or(0) == 0) {
+    place.left = *left;
+    place.top = *top;
+    place.width = width.value_or(place.width);
+    place.height = height.value_or(place.height);
+  }
+  form.SetPlace(OnAScreen(app, place));
+}
+
+void SaveFormState(Application& app, const Form& form, bool positionOnly) {
+  FormValues values(app, form.Name());
+  const bool normal = form.WindowState() == FormWindowState::kNormal;
+  const Box& place = form.Place();
+  if (normal) {
+    values.Write(kLeft, place.left);
+    values.Write(kTop, place.top);
+  }
+  if (positionOnly) return;
+  if (normal) {
+    values.Write(kWidth, place.width);
+    values.Write(kHeight, place.height);
+  }
+  values.Write(kState, static_cast<std::int32_t>(form.WindowState()));
+}
+
+}  // namespace burrowmark

@@ -1,0 +1,157 @@
+#include "organize/frm_organize.h"
+
+#include <utility>
+
+#include "config/config_file.h"
+#include "core/file_names.h"
+#include "core/form_state.h"
+#include "core/hot_keys.h"
+#include "core/store_copy.h"
+#include "core/text.h"
+#include "groups/drives.h"
+#include "organize/node_keys.h"
+#include "platform/key_codes.h"
+
+namespace burrowmark {
+namespace {
+
+constexpr Size kDesign{12000, 8000};
+constexpr wchar_t kTitle[] = L"Organize Folders";
+constexpr wchar_t kDrivesText[] = L"Content of Drives group is automatically generated and cannot be edited.";
+constexpr std::int32_t kIcon = 7;  // "Organize Folders" in the menu
+
+struct Column {
+  const wchar_t* text;
+  std::int32_t width;
+};
+
+constexpr Column kColumns[] = {
+    {L"Name", 2700},        {L"Type", 1900},     {L"Keyboard Shortcut", 1800}, {L"Target Location", 3900},
+    {L"Description", 2600}, {L"Modified", 2000}, {L"Created", 2000},
+};
+
+// The images of items by their number: the program's first thirteen icons.
+ImageList ItemImages(std::int32_t size) { return {size, {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13}}; }
+
+ToolbarButtonState Button(const wchar_t* key, std::int32_t image) {
+  ToolbarButtonState button;
+  button.key = key;
+  button.image = image;
+  return button;
+}
+
+ToolbarButtonState Separator() {
+  ToolbarButtonState separator;
+  separator.style = ToolbarButtonStyle::kSeparator;
+  return separator;
+}
+
+std::vector<ToolbarButtonState> ToolbarButtons() {
+  ToolbarButtonState properties = Button(L"keyProperties", 9);
+  properties.style = ToolbarButtonStyle::kDropDown;
+  properties.menu = {{L"keyProperties1", L"Shortcut"}, {L"keyProperties2", L"Target Location"}};
+  return {Button(L"keyNew", 1),    Button(L"keyChange", 2), Button(L"keyUp", 3),
+          Separator(),             Button(L"keyWindowsExplorer", 4),
+          Separator(),             Button(L"keyCut", 5),    Button(L"keyCopy", 6),
+          Button(L"keyPaste", 7),  Button(L"keyDelete", 8), Separator(),
+          std::move(properties)};
+}
+
+std::vector<StatusPanelState> StatusPanels() { return {{L"", 0, 2700}, {L"", 0, 2700}, {L"", 0, 0}}; }
+
+}  // namespace
+
+frmOrganize::frmOrganize(Application& app, OrganizeCalls calls)
+    : Form(app.platform.windows, L"frmOrganize", kDesign),
+      app_(app),
+      calls_(std::move(calls)),
+      tlbMain(*this, L"tlbMain", ToolbarButtons()),
+      txtInfoDrives(*this, L"txtInfoDrives", Box{}, kDrivesText),
+      stbMain(*this, L"stbMain", StatusPanels()),
+      menus_(*this, OrganizeMenuRows()) {
+  SetBorder(FormBorder::kSizable);
+  SetCaption(kTitle);
+  SetIcon(kIcon);
+  SetKeyPreview(true);
+  for (const Column& column : kColumns) ListView1.AddColumn(column.text, column.width);
+  ListView1.SetImages(ItemImages(32), ItemImages(16));
+  ListView1.SetLabelEdit(true);
+  TreeView1.SetImages(ItemImages(16));
+  TreeView1.SetLabelEdit(true);
+  Picture1.SetVisible(false);
+  Picture1.SetBackColor(kColorShadow);
+  lblInfo.SetUseMnemonic(false);
+  txtInfoDrives.SetMultiLine(true);
+  txtInfoDrives.SetReadOnly(true);
+  txtInfoDrives.SetTabStop(false);
+  txtInfoDrives.SetVisible(false);
+  ConnectPanes();
+  ConnectBars();
+  ConnectMenus();
+}
+
+void frmOrganize::Form_Load() {
+  WorkCollection = std::make_shared<clsMenuCollection>(app_.platform.clock);
+  ResetFields();
+  const Size screen = ScreenSize(app_);
+  LoadFormState(app_, *this, false, {screen.width * 4 / 5, screen.height * 4 / 5, false});
+  LoadLayout();
+  CopyStore(app_.platform.clock, *app_.MainStore, *WorkCollection);
+  // The summary belongs to the file that is current.
+  if (!EditsDefaultFile()) {
+    clsMenuCollection unused(app_.platform.clock);
+    bool missing = false;
+    bool ignored = false;
+    ConfigFileRead(app_, unused, {}, missing, ignored);
+    app_.CurrentConfigFile = app_.ConfigFile;
+  }
+  menus_[L"mnuFileOpenDefault"].SetVisible(false);
+  menus_[L"mnuFileSetDefault"].SetVisible(false);
+  SetFormCaption();
+  RefreshViews({}, true);
+  AddAlwaysOnTopItem();
+  RefreshHotKeys(app_, *WorkCollection);
+  FirstActivate_ = true;
+}
+
+void frmOrganize::ResetFields() {
+  Changed = DefaultChanged = FileOpened = SavedToDefault = ListChangedByTool = false;
+  SaveOnExit = true;
+  ActivePane_ = 0;
+  TreeActive_ = ListActive_ = false;
+  CurrentGroup_.clear();
+  SortColumn_ = 0;
+  ListItemClicked_ = NodeClicked_ = ListRightButton_ = TreeRightButton_ = false;
+  SplitterDragging_ = SplitterCursorSet_ = TreeWidthSet_ = false;
+  lastStatus_.reset();
+  ClipboardItems_.reset();
+  CutKeys_.clear();
+}
+
+void frmOrganize::Form_Activate() {
+  if (!std::exchange(FirstActivate_, false)) return;
+  if (app_.ShowTips && calls_.ShowTip) calls_.ShowTip(*this);
+}
+
+void frmOrganize::Init(const std::wstring& Command) {
+  constexpr std::wstring_view kAdd = L"/ADD";
+  constexpr std::wstring_view kOpen = L"/OPEN";
+  const std::wstring command = Trim(Command);
+  if (command.starts_with(kAdd)) {
+    NewItemInGroup(GroupOfNewItem(), MIT_PATH_EXPLORER, PathArgument(command.substr(kAdd.size())));
+  } else if (command.starts_with(kOpen)) {
+    OpenConfigFile(PathArgument(command.substr(kOpen.size())));
+  }
+}
+
+void frmOrganize::SetFormCaption() {
+  SetCaption(EditsDefaultFile() ? kTitle : kTitle + (L" - " + GetFileName(app_.CurrentConfigFile)));
+}
+
+void frmOrganize::Form_KeyDown(std::int32_t& KeyCode, std::int32_t Shift) {
+  if (KeyCode != kKeyCodeF6 || Shift != 0) return;
+  KeyCode = 0;
+  TreeView1.HasFocus() ? ListView1.SetFocus() : TreeView1.SetFocus();
+}
+
+}  // namespace burrowmark

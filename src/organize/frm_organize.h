@@ -1,0 +1,231 @@
+// "Organize Folders", the editor of the tree.
+//
+// It works on a copy of the menu's store, which takes that store's place when the window closes. Its two panes mirror
+// the copy and are never the truth.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <set>
+#include <string>
+
+#include "core/application.h"
+#include "organize/organize_calls.h"
+#include "organize/organize_layout.h"
+#include "organize/organize_menus.h"
+#include "ui/form.h"
+#include "ui/label.h"
+#include "ui/list_view.h"
+#include "ui/menu.h"
+#include "ui/picture_box.h"
+#include "ui/status_bar.h"
+#include "ui/text_box.h"
+#include "ui/toolbar.h"
+#include "ui/tree_view.h"
+
+namespace burrowmark {
+
+class frmOrganize final : public Form {
+ public:
+  frmOrganize(Application& app, OrganizeCalls calls);
+
+  // Runs "/ADD path" or "/OPEN path" on the loaded window.
+  void Init(const std::wstring& Command);
+  void SetFormCaption();
+  // Fills the tree again; shows the node of that key, the first below the root for an empty one.
+  void RefreshViews(const std::wstring& Key, bool Expand);
+  // Replaces what is edited by a file's content, the default one's for an empty path. False: everything is as it was.
+  bool FuncConfigFileLoad(const std::wstring& Path);
+  // Writes what is edited, to the default file for an empty path; with `Rebuild` it becomes the menu's tree too.
+  bool FuncConfigFileSave(bool Rebuild, const std::wstring& Path, bool TextMode);
+  // Asks about what was changed, and loads.
+  void OpenConfigFile(const std::wstring& Path);
+  // The user's session ends: what was changed is written without a question.
+  void SaveForSessionEnd();
+
+  // Patch single nodes and rows after a change of `WorkCollection`. One that isn't shown is nobody's fault.
+  // A node stands behind the sibling `PrevName`; "NONE" puts it behind all, and an empty one ahead of all.
+  void AddTreeNode(const clsMenuItem& item, const std::wstring& PrevName);
+  TreeNode* AddTreeNodeBefore(const clsMenuItem& item, const std::wstring& NextName);
+  void RefreshTreeNode(const std::wstring& Key, const clsMenuItem& item);
+  void RemoveTreeNode(const std::wstring& Name);
+  bool TreeKeyExists(const std::wstring& Key) const;
+  // A row comes to the end, and turns the sorting off unless `Sorted` is true.
+  void AddListItem(const clsMenuItem& item, bool Ghosted, bool Sorted);
+  // Grey if the item was cut.
+  void AddListItemGhosted(const clsMenuItem& item);
+  void RefreshListItem(const std::wstring& Key, const clsMenuItem& item);
+  void SetListItemText(const std::wstring& Name, const std::wstring& text);
+  void RemoveListItem(const std::wstring& Name);
+  bool ListKeyExists(const std::wstring& Key) const;
+
+  std::shared_ptr<clsMenuCollection> WorkCollection;  // none while the window is closed
+  bool Changed = false;                               // it differs from the file
+  bool DefaultChanged = false;                        // another file became the default one
+  bool SaveOnExit = true;
+  bool FileOpened = false;         // another file was opened in this window
+  bool SavedToDefault = false;     // the default file was written from this window
+  bool ListChangedByTool = false;  // the list of shortcuts changed items
+
+ private:
+  // --- life and layout (frm_organize.cpp, frm_organize_layout.cpp)
+  void Form_Load() override;
+  void Form_Activate() override;
+  void Form_Resize() override;
+  void Form_KeyDown(std::int32_t& KeyCode, std::int32_t Shift) override;
+  void Form_MouseDown(const MouseEvent& event) override;
+  void Form_MouseMove(const MouseEvent& event) override;
+  void Form_MouseUp(const MouseEvent& event) override;
+  void Form_SystemCommand(std::int32_t id) override;
+  void ConnectPanes();
+  void ConnectBars();
+  void ResetFields();
+  void LoadLayout();
+  void SaveLayout();
+  void ArrangeControls();
+  void SetSplitterBounds();
+  void ResetSplitterCursor();
+  void SetStatusBarVisible(bool visible);
+  void SetToolbarImages(bool large);
+  void SetToolbarText(bool on);
+  void ToggleToolbarImages();
+  void ToggleToolbarText();
+  void AddAlwaysOnTopItem();
+  bool IsOverSplitter(std::int32_t x) const;
+
+  // --- closing (frm_organize_close.cpp)
+  void Form_Unload(bool& Cancel) override;
+  bool SaveChanges();
+  void FollowSavedFile();
+  void ReplaceMenu(const clsMenuCollection& store);
+  void ProjectAll(const clsMenuCollection& store);
+  void ReportSaveError(const std::wstring& path);
+  bool EditsDefaultFile() const { return app_.CurrentConfigFile == app_.ConfigFile; }
+  bool SaveBeforeOpening();
+  std::int32_t AskToSave();
+  void ReportSystemGroup(const std::wstring& Path, bool missing, bool ignored);
+  void RefreshDefaultCommands();
+  void Release();
+  void ExitDiscardingChanges();
+
+  // --- panes (frm_organize_views.cpp)
+  void FillTree();
+  void ShowSelectedNode(bool KeepList);
+  void ShowGroupInList();
+  void ListGroup(const std::wstring& group);
+  void ShowDrivesText();
+  void WriteColumns(ListItem& row, const clsMenuItem& item);
+  void ArrangeBy(std::int32_t Column);
+  void ClearSortMark();
+  void ApplyView(const std::wstring& viewKey);
+  void SetViewCheckMarks(const std::wstring& viewKey);
+  void ToggleAllLeftPane();
+  void RefreshCommand();
+  void GoUp();
+  void OpenSelectedListItem(bool NoOpen);
+  void EnsureCurrentListItem();
+  bool HasSelection() const { return ListView1.SelectedCount() > 0; }
+  void SetAllListItemsSelected(bool selected);
+  void InvertSelection();
+
+  // --- status bar and the strip above the list (frm_organize_status.cpp)
+  struct StatusFacts {
+    std::int32_t Count = 0;
+    std::wstring Caption;
+    std::int32_t Image = 0;
+    bool Selected = false;
+    std::wstring TypeText;
+    std::wstring PathText;
+    std::wstring DetailText;
+  };
+  void SetStatusBar(StatusFacts facts);
+  void SetStatusBarSelected();
+  void ShowStatusOfNode(const TreeNode& node);
+
+  // --- what the mouse and the keyboard do in the panes (frm_organize_panes.cpp)
+  void EnterTree();
+  void EnterList();
+  void TreeMouseDown(const MouseEvent& event);
+  void TreeMouseUp();
+  void TreeNodeClick();
+  void TreeDblClick();
+  void TreeKeyDown(std::int32_t& KeyCode);
+  void ListMouseDown(const MouseEvent& event);
+  void ListMouseUp();
+  void ListItemClick(const ListItem& row);
+  void ListClick();
+  void ListKeyDown(std::int32_t& KeyCode);
+
+  // --- commands (frm_organize_commands.cpp)
+  struct Target {
+    std::wstring Path;
+    std::int32_t Image = 0;
+    std::wstring Key;
+  };
+  Target GetSelectedTarget() const;
+  void SetMenuState(MenuKind Kind, const std::wstring& Key, std::int32_t Image, bool Expanded);
+  void SetPopupState(const std::wstring& Key, std::int32_t Image, bool Expanded);
+  void SetToolsState();
+  void SetToolbarState(const std::wstring& Key);
+  void SetToolbarPaste();
+  bool ClipboardEmpty() const { return !ClipboardItems_ || ClipboardItems_->Count() < 1; }
+  void FollowActivePane();
+  void ConnectMenus();
+  void ConnectFileAndEditMenus();
+  void ConnectViewMenu();
+  void ConnectToolsMenu();
+  void ConnectHelpMenu();
+  void ConnectPopups();
+  void RunButton(const std::wstring& key);
+  void PopupExplore();
+  void PopupWindowsExplorer();
+  void FindCommand();
+  void ReportCommand();
+  void VerifyShortcuts();
+  void RestoreCommand(const std::wstring& group);
+  void OptionsCommand();
+  void NewItem(const std::wstring& Kind);
+  void NewItemInGroup(const std::wstring& group, const std::wstring& Kind, const std::wstring& path);
+  std::wstring GroupOfNewItem() const;
+  void ShowItemProperties(bool FromBackground);
+  void RefreshProjection(std::size_t target);
+  void OpenWebPage(const std::wstring& path);
+
+  Application& app_;
+  OrganizeCalls calls_;
+
+  std::int16_t ActivePane_ = 0;  // 0: the tree, 1: the list
+  bool TreeActive_ = false;      // the pane that a command acts on
+  bool ListActive_ = false;
+  std::wstring CurrentGroup_;  // whose items the list shows
+  std::int32_t SortColumn_ = 0;
+  bool ListItemClicked_ = false;  // since the last button went down in the list
+  bool NodeClicked_ = false;
+  bool ListRightButton_ = false;
+  bool TreeRightButton_ = false;
+  bool FirstActivate_ = false;
+  bool SplitterDragging_ = false;
+  bool SplitterCursorSet_ = false;
+  bool TreeWidthSet_ = false;
+  std::int32_t SplitterLeft_ = 0;
+  std::int32_t SplitterRight_ = 0;
+  OrganizeLayout layout_;
+  std::optional<StatusFacts> lastStatus_;
+  std::shared_ptr<clsMenuCollection> ClipboardItems_;  // what was cut or copied
+  std::set<std::wstring> CutKeys_;                     // of the rows that a cut made grey
+
+  // What lies above others comes first.
+  PictureBox Picture1{*this, L"Picture1", Box{}};
+  Toolbar tlbMain;
+  TreeView TreeView1{*this, L"TreeView1", Box{}};
+  PictureBox picInfoMain{*this, L"picInfoMain", Box{0, 0, 3000, 360}};
+  PictureBox picInfo{picInfoMain, L"picInfo", Box{60, 0, 240, 240}};
+  Label lblInfo{picInfoMain, L"lblInfo", Box{390, 0, 3000, 225}};
+  TextBox txtInfoDrives;
+  ListView ListView1{*this, L"ListView1", Box{}};
+  StatusBar stbMain;
+  FormMenus menus_;
+};
+
+}  // namespace burrowmark
