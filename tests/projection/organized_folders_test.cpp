@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
+#include <algorithm>
 
 #include "core/registry.h"
 #include "core/registry_keys.h"
@@ -109,6 +109,7 @@ TEST_F(OrganizedFolders, TwoGroupsOfOneTitleShareAFolder) {
   scene_.AddGroup(L"G2", L"A");
   Add(L"S3", L"same", L"G2")->FolderPath = L"C:\\Users";
   Add(L"S4", L"two", L"G2");
+  app_.ADVC[5] = true;
   machine_.user.NextBox(kConflict, kAnswerOk, [this] { store_.Remove(L"S4"); });
   Project();
   EXPECT_EQ(Tree(), L"A[one.lnk same.lnk two.lnk]");
@@ -149,7 +150,9 @@ TEST_F(OrganizedFolders, WhatStoodInTheRootGoes) {
   machine_.AddFile(root + L"\\A\\locked too");
   machine_.AddFile(root + L"\\old.lnk");
   machine_.AddFile(L"C:\\elsewhere\\kept", "kept");
-  std::filesystem::create_directory_symlink(machine_.RealPath(L"C:\\elsewhere"), machine_.RealPath(root + L"\\link"));
+  std::error_code noLinks;  // some disks have none
+  std::filesystem::create_directory_symlink(machine_.RealPath(L"C:\\elsewhere"), machine_.RealPath(root + L"\\link"),
+                                            noLinks);
   machine_.files.SetFileAttributesA(root + L"\\by hand\\below\\file", kFileReadOnly);
   machine_.faults.HeldOpen = {L"C:\\USERS\\USER\\DESKTOP\\ORGANIZED FOLDERS\\LOCKED.LNK",
                               L"C:\\USERS\\USER\\DESKTOP\\ORGANIZED FOLDERS\\A\\LOCKED TOO"};
@@ -216,6 +219,34 @@ TEST_F(OrganizedFolders, NoFailureStopsTheRest) {
     EXPECT_EQ(machine_.BytesOf(kDesktop + std::wstring(L"\\Desktop.ini")), kDesktopIni);
     EXPECT_EQ(files_.GetFileAttributesA(kDesktop + std::wstring(L"\\Desktop.ini")), kFileHidden | kFileSystem);
   }
+}
+
+TEST_F(OrganizedFolders, ADesktopIniThatTheWipeLeavesIsWrittenAnew) {
+  const std::wstring path = kDesktop + std::wstring(L"\\Desktop.ini");
+  Project();
+  machine_.faults.FailFrom(0);
+  Project();
+  const std::vector<std::string> calls = machine_.faults.Record();
+  const auto wipe = std::find(calls.begin(), calls.end(), "DeleteFileA " + ToUtf8(path));
+  ASSERT_NE(wipe, calls.end());
+  machine_.AddFile(path, "old");
+  machine_.faults.FailCall(static_cast<std::size_t>(wipe - calls.begin()) + 1);
+  Project();
+  EXPECT_EQ(machine_.BytesOf(path), kDesktopIni);
+  machine_.AddFile(path, "old");
+  machine_.files.SetFileAttributesA(path, kFileHidden | kFileSystem | kFileReadOnly);
+  Project();
+  EXPECT_EQ(machine_.BytesOf(path), "old");
+  EXPECT_EQ(files_.GetFileAttributesA(path), kFileHidden | kFileSystem | kFileReadOnly);
+}
+
+TEST_F(OrganizedFolders, ALinkThatIsRefusedIsTheOnlyOneMissing) {
+  Add(L"S", L"S");
+  Add(L"T", L"T");
+  machine_.uiFaults.FailCall(1);
+  Project();
+  EXPECT_EQ(machine_.uiFaults.Failed(), 1U);
+  EXPECT_EQ(Tree(), L"T.lnk");
 }
 
 TEST_F(OrganizedFolders, ARootThatIsGoneTurnsItsOptionOff) {
