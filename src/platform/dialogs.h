@@ -2,7 +2,9 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
+#include <vector>
 
 #include "platform/window_handle.h"
 
@@ -21,6 +23,27 @@ inline constexpr std::int32_t kAnswerCancel = 2;
 inline constexpr std::int32_t kAnswerYes = 6;
 inline constexpr std::int32_t kAnswerNo = 7;
 
+// Files that a file dialog offers to see: what they are called, and their names with wildcards.
+struct FileFilter {
+  std::wstring text;
+  std::wstring pattern;
+  friend bool operator==(const FileFilter&, const FileFilter&) = default;
+};
+
+struct FileRequest {
+  bool save = false;
+  WindowHandle owner = 0;
+  std::wstring title;
+  std::vector<FileFilter> filters;
+  std::int32_t filterIndex = 1;  // of the filter that is in use, counted from 1
+  std::wstring fileName;         // that stands in the dialog at first
+};
+
+struct FileAnswer {
+  std::wstring path;
+  std::int32_t filterIndex = 1;
+};
+
 class Dialogs {
  public:
   virtual ~Dialogs() = default;
@@ -28,6 +51,10 @@ class Dialogs {
   // Shows a box over a window (0: over none) and waits for the answer. The program's other windows go on running.
   virtual std::int32_t MessageBoxA(WindowHandle owner, const std::wstring& text, const std::wstring& title,
                                    std::uint32_t style) = 0;
+
+  // Asks for the path of a file; none if the user cancelled. A file that isn't there can be named, and one that is
+  // there can be named to save over: asking about that is left to the program.
+  virtual std::optional<FileAnswer> FileDialog(const FileRequest& request) = 0;
 };
 
 }  // namespace burrowmark

@@ -12,6 +12,7 @@ namespace burrowmark {
 struct ImageList {
   std::int32_t size = 16;  // pixels at 96 dots per inch
   std::vector<std::int32_t> icons;
+  friend bool operator==(const ImageList&, const ImageList&) = default;
 
   // The number of the icon; 0 for an image that isn't there.
   std::int32_t IconOf(std::int32_t image) const {

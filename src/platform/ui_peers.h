@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "platform/ui_bar_peers.h"
 #include "platform/ui_control.h"
@@ -49,12 +50,21 @@ class FormState {
   // The window of the button that Enter presses now; 0 for none.
   virtual WindowHandle EnterButton() const = 0;
 
+  // The menus of level 0: those that are visible stand on the bar, which isn't there without any. They stay the same
+  // objects as long as the peer.
+  virtual const std::vector<MenuEntryState*>& MenuEntries() const = 0;
+  virtual const std::vector<SystemMenuEntry>& SystemMenuEntries() const = 0;
+
   virtual void UserClose() = 0;
   virtual void UserMove(const FormGeometry& geometry) = 0;
   virtual void UserActivate(bool active) = 0;
   // A key before the control with the focus sees it. True: nobody else shall.
   virtual bool UserKey(std::int32_t keyCode, std::int32_t shift) = 0;
   virtual void UserEscape() = 0;  // nobody wanted the Esc key
+  // What is below the entry is about to show, and is read after this.
+  virtual void UserOpenMenu(MenuEntryState& entry) = 0;
+  virtual void UserChooseMenu(MenuEntryState& entry) = 0;
+  virtual void UserSystemCommand(std::int32_t id) = 0;
   // The mouse over the client area where no control is; also elsewhere, as long as a button is held that went down
   // here.
   virtual void UserMouse(MouseAction action, const MouseEvent& event) = 0;
@@ -81,6 +91,13 @@ class FormPeer : public Peer {
   virtual void MousePointerChanged() = 0;
   virtual void IconChanged() = 0;
   virtual void BringToFront() = 0;
+  // The entries of the bar, or one of them.
+  virtual void MenusChanged() = 0;
+  // There are more of the form's entries in the system menu, or one has another check.
+  virtual void SystemMenuChanged() = 0;
+  // Shows what is below an entry at the mouse, or at the control with the focus if a key was pressed last; returns when
+  // it is gone and what was chosen has been told. `defaultEntry`, if any, is drawn bold.
+  virtual void PopupMenu(MenuEntryState& popup, const MenuEntryState* defaultEntry) = 0;
   // Keeps an owner that is no form from the user as long as a modal form is in front of it, or gives it back.
   virtual void BlockOwner(bool block) = 0;
   virtual std::int32_t Dpi() const = 0;
@@ -95,6 +112,9 @@ class Peers {
   virtual std::unique_ptr<LabelPeer> MakePeer(WindowHandle parent, LabelState& label) = 0;
   virtual std::unique_ptr<ButtonPeer> MakePeer(WindowHandle parent, ButtonState& button) = 0;
   virtual std::unique_ptr<AnimationPeer> MakePeer(WindowHandle parent, AnimationState& animation) = 0;
+
+  virtual std::unique_ptr<ToolbarPeer> MakePeer(WindowHandle parent, ToolbarState& toolbar) = 0;
+  virtual std::unique_ptr<StatusBarPeer> MakePeer(WindowHandle parent, StatusBarState& bar) = 0;
 };
 
 }  // namespace burrowmark

@@ -4,6 +4,8 @@
 #include <iterator>
 #include <utility>
 
+#include "ui/menu.h"
+
 namespace burrowmark {
 namespace {
 
@@ -46,6 +48,7 @@ Form::~Form() {
 void Form::Form_QueryUnload(bool&, UnloadMode) {}
 void Form::Form_Unload(bool&) {}
 void Form::Form_KeyDown(std::int32_t&, std::int32_t) {}
+void Form::Form_SystemCommand(std::int32_t) {}
 void Form::Form_MouseDown(const MouseEvent&) {}
 void Form::Form_MouseMove(const MouseEvent&) {}
 void Form::Form_MouseUp(const MouseEvent&) {}
@@ -288,6 +291,33 @@ void Form::SetIcon(std::int32_t number) {
   if (Assign(icon_, number)) Tell(&FormPeer::IconChanged);
 }
 
+// --- menus
+
+const std::vector<MenuEntryState*>& Form::MenuEntries() const {
+  static const std::vector<MenuEntryState*> kNone;
+  return menus_ == nullptr ? kNone : menus_->Entries();
+}
+
+void Form::EnterMenus(FormMenus& menus) {
+  menus_ = &menus;
+  Tell(&FormPeer::MenusChanged);
+}
+
+void Form::LeaveMenus() {
+  if (peer_) RetirePeers();
+  menus_ = nullptr;
+}
+
+void Form::AddSystemMenuEntry(SystemMenuEntry entry) {
+  systemMenu_.push_back(std::move(entry));
+  Tell(&FormPeer::SystemMenuChanged);
+}
+
+void Form::SetSystemMenuChecked(std::int32_t id, bool checked) {
+  const auto entry = std::find_if(systemMenu_.begin(), systemMenu_.end(), [id](const auto& e) { return e.id == id; });
+  if (entry != systemMenu_.end() && Assign(entry->checked, checked)) Tell(&FormPeer::SystemMenuChanged);
+}
+
 // --- focus and the buttons of Enter and Esc
 
 void Form::MoveFocus(Control* control) {
@@ -339,14 +369,36 @@ void Form::UserActivate(bool active) {
 }
 
 bool Form::UserKey(std::int32_t keyCode, std::int32_t shift) {
-  if (!keyPreview_ || !IsReachable()) return false;
+  if (!IsReachable()) return false;
   const Running running(*this);
-  Form_KeyDown(keyCode, shift);
-  return keyCode == 0 || !IsReachable();
+  if (keyPreview_) {
+    Form_KeyDown(keyCode, shift);
+    if (keyCode == 0 || !IsReachable()) return true;
+  }
+  return RunShortcut(keyCode, shift);
+}
+
+bool Form::RunShortcut(std::int32_t keyCode, std::int32_t shift) {
+  if (menus_ == nullptr || (focused_ != nullptr && focused_->UsesKey(keyCode, shift))) return false;
+  return menus_->UserShortcut({keyCode, shift});
 }
 
 void Form::UserEscape() {
   if (cancel_ != nullptr) cancel_->UserPress();
+}
+
+void Form::UserOpenMenu(MenuEntryState& entry) {
+  if (menus_ != nullptr) menus_->UserOpen(entry);
+}
+
+void Form::UserChooseMenu(MenuEntryState& entry) {
+  if (menus_ != nullptr) menus_->UserChoose(entry);
+}
+
+void Form::UserSystemCommand(std::int32_t id) {
+  if (!IsReachable()) return;
+  const Running running(*this);
+  Form_SystemCommand(id);
 }
 
 void Form::UserMouse(MouseAction action, const MouseEvent& event) {

@@ -11,6 +11,7 @@
 namespace burrowmark {
 
 class Form;
+class FormMenus;
 
 enum class ShowMode : std::uint8_t { Modeless, Modal };
 using enum ShowMode;
@@ -98,11 +99,21 @@ class Form : public FormState, public ControlSite {
 
   WindowHandle EnterButton() const final;
 
+  const std::vector<MenuEntryState*>& MenuEntries() const final;
+  const std::vector<SystemMenuEntry>& SystemMenuEntries() const final { return systemMenu_; }
+  // At the end of the system menu, behind a line, where it stays. Its id is above 0, below 0xF000, and its own.
+  void AddSystemMenuEntry(SystemMenuEntry entry);
+  // Of an id that no entry has nothing is changed.
+  void SetSystemMenuChecked(std::int32_t id, bool checked);
+
   void UserClose() final;
   void UserMove(const FormGeometry& geometry) final;
   void UserActivate(bool active) final;
   bool UserKey(std::int32_t keyCode, std::int32_t shift) final;
   void UserEscape() final;
+  void UserOpenMenu(MenuEntryState& entry) final;
+  void UserChooseMenu(MenuEntryState& entry) final;
+  void UserSystemCommand(std::int32_t id) final;
   void UserScale() final;
   void UserMouse(MouseAction action, const MouseEvent& event) final;
   void WindowLost() final;
@@ -117,12 +128,15 @@ class Form : public FormState, public ControlSite {
   virtual void Form_Deactivate() {}
   // A key code of 0 keeps the key from everybody else.
   virtual void Form_KeyDown(std::int32_t& KeyCode, std::int32_t Shift);
+  // An entry of the form in the system menu was chosen.
+  virtual void Form_SystemCommand(std::int32_t id);
   // The mouse where no control is.
   virtual void Form_MouseDown(const MouseEvent& event);
   virtual void Form_MouseMove(const MouseEvent& event);
   virtual void Form_MouseUp(const MouseEvent& event);
 
  private:
+  friend class FormMenus;  // which tells of itself, and pops up
   class Modality;
   // Peers of a window that has gone from the screen; controls go ahead of their form.
   struct Remains {
@@ -158,6 +172,9 @@ class Form : public FormState, public ControlSite {
   void Block(int forms);
 
   void TellDefaultMoved(Control* before);
+  bool RunShortcut(std::int32_t keyCode, std::int32_t shift);
+  void EnterMenus(FormMenus& menus);
+  void LeaveMenus();
 
   template <typename Change>
   void Tell(Change change) {
@@ -189,6 +206,9 @@ class Form : public FormState, public ControlSite {
   Control* focused_ = nullptr;
   Control* default_ = nullptr;
   Control* cancel_ = nullptr;
+
+  FormMenus* menus_ = nullptr;
+  std::vector<SystemMenuEntry> systemMenu_;
 
   std::unique_ptr<FormPeer> peer_;
   std::vector<Remains> remains_;

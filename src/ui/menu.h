@@ -6,6 +6,7 @@
 #include <span>
 #include <string>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 #include "platform/ui_bar_peers.h"
@@ -71,18 +72,36 @@ class FormMenus {
   // Doors. An entry that is disabled or hidden, or in one that is, isn't chosen.
   void UserOpen(MenuEntryState& entry);
   void UserChoose(MenuEntryState& entry);
-  // True if an entry has this shortcut and was chosen by it; those above it hear that they open first.
+  // True if an entry that shows has this shortcut; those above it hear that they open before it is chosen. A disabled
+  // one keeps it from everybody else and does nothing.
   bool UserShortcut(const MenuShortcut& shortcut);
 
  private:
   friend class MenuEntry;
 
+  // Lets an entry pop up as long as it lives.
+  class Popping {
+   public:
+    Popping(FormMenus& menus, const MenuEntryState* popup)
+        : menus_(menus), before_(std::exchange(menus.popup_, popup)) {}
+    ~Popping() { menus_.popup_ = before_; }
+    Popping(const Popping&) = delete;
+    Popping& operator=(const Popping&) = delete;
+
+   private:
+    FormMenus& menus_;
+    const MenuEntryState* before_;
+  };
+
   void Changed(const MenuEntry& entry);
+  bool CanBeChosen(const MenuEntryState& entry) const;
+  void RaiseClick(MenuEntryState& entry);
 
   Form& form_;
   MenuEntryState root_;
   std::vector<std::unique_ptr<MenuEntry>> entries_;
   std::unordered_map<std::wstring, MenuEntry*> byName_;
+  const MenuEntryState* popup_ = nullptr;  // shows whether or not it is visible on the bar
 };
 
 }  // namespace burrowmark

@@ -23,6 +23,9 @@ class StatusBar final : public ControlOf<StatusBarState, StatusBarPeer> {
   void AlignBottom(const Size& client);
 
  private:
+  bool HasPanel(std::size_t panel) const { return panel > 0 && panel <= panels_.size(); }
+  void TellPanel(std::size_t panel);
+
   std::vector<StatusPanelState> panels_;
 };
 

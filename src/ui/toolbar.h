@@ -33,6 +33,9 @@ class Toolbar final : public ControlOf<ToolbarState, ToolbarPeer> {
   void UserButtonMenuClick(std::size_t button, std::size_t entry) override;
 
  private:
+  // The number of buttons if there is none.
+  std::size_t Find(const std::wstring& key) const;
+
   std::vector<ToolbarButtonState> buttons_;
   ImageList images_;
   ImageList disabledImages_;

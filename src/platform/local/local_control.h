@@ -47,6 +47,8 @@ class LocalControl : public KindPeer {
     shown_->UserKeyDown = nullptr;
     shown_->UserClick = nullptr;
     shown_->PressKey = nullptr;
+    shown_->UserButtonClick = nullptr;
+    shown_->UserButtonMenuClick = nullptr;
     retired_ = true;
   }
   WindowHandle Window() const final { return shown_->window; }

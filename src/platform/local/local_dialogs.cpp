@@ -26,4 +26,13 @@ std::int32_t LocalDialogs::MessageBoxA(WindowHandle owner, const std::wstring& t
   return answer.answer;
 }
 
+std::optional<FileAnswer> LocalDialogs::FileDialog(const FileRequest& request) {
+  const FileScript script = user_.TakeFile(request.title);
+  windows_.DoEvents();
+  std::optional<FileAnswer> answer;
+  if (script.path) answer = FileAnswer{*script.path, script.filterIndex};
+  FileDialogs.push_back({request, answer});
+  return answer;
+}
+
 }  // namespace burrowmark

@@ -18,7 +18,12 @@ struct ShownBox {
   std::int32_t answer = 0;
 };
 
-// A box that nobody expected, and an answer that the box has no button for, throw std::logic_error.
+struct ShownFileDialog {
+  FileRequest request;
+  std::optional<FileAnswer> answer;
+};
+
+// A box or file dialog that nobody expected, and an answer that the box has no button for, throw std::logic_error.
 class LocalDialogs final : public Dialogs {
  public:
   // Both must outlive this object.
@@ -26,8 +31,11 @@ class LocalDialogs final : public Dialogs {
 
   std::vector<ShownBox> Shown;  // in the order in which they were answered
 
+  std::vector<ShownFileDialog> FileDialogs;
+
   std::int32_t MessageBoxA(WindowHandle owner, const std::wstring& text, const std::wstring& title,
                            std::uint32_t style) override;
+  std::optional<FileAnswer> FileDialog(const FileRequest& request) override;
 
  private:
   LocalUser& user_;

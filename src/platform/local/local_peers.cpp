@@ -1,6 +1,8 @@
 #include "platform/local/local_peers.h"
 
+#include "platform/local/local_bars.h"
 #include "platform/local/local_control.h"
+#include "platform/local/shown_menus.h"
 
 namespace burrowmark {
 namespace {
@@ -73,6 +75,8 @@ class LocalForm final : public FormPeer {
     shown_->topMost = form.TopMost();
     shown_->pointer = form.MousePointer();
     shown_->icon = form.Icon();
+    shown_->systemMenu = form.SystemMenuEntries();
+    shown_->ShowBar();
     desktop_.Add(shown_);
     PlaceChanged();
   }
@@ -131,6 +135,20 @@ class LocalForm final : public FormPeer {
       blocked_ = form_.OwnerWindow();
     }
   }
+  void MenusChanged() override {
+    const bool before = shown_->hasBar;
+    shown_->ShowBar();
+    if (shown_->hasBar != before) shown_->Report();
+  }
+  void SystemMenuChanged() override { shown_->systemMenu = form_.SystemMenuEntries(); }
+  void PopupMenu(MenuEntryState& popup, const MenuEntryState* defaultEntry) override {
+    if (!shown_->IsOpen()) return;
+    form_.UserOpenMenu(popup);
+    if (!shown_->IsOpen()) return;
+    ShownPopup shown(form_, popup, defaultEntry);
+    process_.MeetPopup(shown);
+    if (shown.Chosen() != nullptr && shown_->IsOpen()) form_.UserChooseMenu(*shown.Chosen());
+  }
   std::int32_t Dpi() const override { return shown_->dpi; }
 
  private:
@@ -158,6 +176,14 @@ std::unique_ptr<ButtonPeer> LocalPeers::MakePeer(WindowHandle parent, ButtonStat
 
 std::unique_ptr<AnimationPeer> LocalPeers::MakePeer(WindowHandle parent, AnimationState& animation) {
   return std::make_unique<LocalAnimation>(process_, desktop_, parent, animation);
+}
+
+std::unique_ptr<ToolbarPeer> LocalPeers::MakePeer(WindowHandle parent, ToolbarState& toolbar) {
+  return std::make_unique<LocalToolbar>(process_, desktop_, parent, toolbar);
+}
+
+std::unique_ptr<StatusBarPeer> LocalPeers::MakePeer(WindowHandle parent, StatusBarState& bar) {
+  return std::make_unique<LocalStatusBar>(process_, desktop_, parent, bar);
 }
 
 }  // namespace burrowmark

@@ -9,6 +9,8 @@
 
 namespace burrowmark {
 
+class ShownPopup;
+
 class LocalProcess {
  public:
   virtual WindowHandle AddHandle() = 0;
@@ -18,6 +20,8 @@ class LocalProcess {
   virtual bool HasFile(const std::wstring& path) const = 0;
   // Runs something that the person did, by the message queue; at once unless the program is busy.
   virtual void RunGesture(std::function<void()> gesture) = 0;
+  // Shows a menu that popped up to the person, until they are done with it.
+  virtual void MeetPopup(ShownPopup& popup) = 0;
 
  protected:
   LocalProcess() = default;

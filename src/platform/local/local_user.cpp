@@ -20,6 +20,7 @@ std::uint32_t DownMessage(LocalUser::Button button) { return UpMessage(button) -
 
 LocalUser::LocalUser(LocalWindows& windows, LocalShell& shell) : windows_(windows), shell_(shell) {
   windows_.Person = [this](ShownWindow& window, const std::function<bool()>& open) { return MeetWindow(window, open); };
+  windows_.PopupPerson = [this](ShownPopup& popup) { MeetPopup(popup); };
 }
 
 void LocalUser::LetItRun() {
@@ -80,6 +81,8 @@ std::string LocalUser::Complaints() const {
   for (const WindowScript& window : windowScripts_) {
     all += "a window that never came: " + ToUtf8(window.caption) + "\n";
   }
+  if (!popups_.empty()) all += "popups that never came: " + std::to_string(popups_.size()) + "\n";
+  for (const FileScript& file : files_) all += "a file dialog that never came: " + ToUtf8(file.title) + "\n";
   for (const BoxAnswer& box : boxes_) all += "a box that never came: " + ToUtf8(box.part) + "\n";
   return all;
 }
@@ -89,6 +92,8 @@ std::string LocalUser::TakeComplaints() {
   complaints_.clear();
   menus_.clear();
   boxes_.clear();
+  popups_.clear();
+  files_.clear();
   windowScripts_.clear();
   return all;
 }
@@ -112,6 +117,25 @@ BoxAnswer LocalUser::TakeBox(const std::wstring& text) {
   BoxAnswer answer = std::move(boxes_.front());
   boxes_.pop_front();
   return answer;
+}
+
+FileScript LocalUser::TakeFile(const std::wstring& title) {
+  if (files_.empty() || files_.front().title != title) Complain("a file dialog that nobody expected: " + ToUtf8(title));
+  FileScript script = std::move(files_.front());
+  files_.pop_front();
+  return script;
+}
+
+void LocalUser::MeetPopup(ShownPopup& popup) {
+  if (popups_.empty() && windows_.Input) return;
+  if (popups_.empty()) Complain("a popup that nobody expected");
+  const auto script = std::move(popups_.front());
+  popups_.pop_front();
+  try {
+    script(popup);
+  } catch (const std::exception& failure) {
+    Complain(std::string("in a popup: ") + failure.what());
+  }
 }
 
 ShownWindow& LocalUser::Window(const std::wstring& caption) const {

@@ -20,6 +20,12 @@ struct BoxAnswer {
   std::function<void()> meanwhile;
 };
 
+struct FileScript {
+  std::wstring title;  // of the dialog that it is for
+  std::optional<std::wstring> path;
+  std::int32_t filterIndex = 1;
+};
+
 // A gesture reaches the program by its message queue, and runs at once unless the program is busy. One that can't be
 // made throws std::logic_error.
 class LocalUser {
@@ -49,6 +55,16 @@ class LocalUser {
     boxes_.push_back({part, answer, std::move(meanwhile)});
   }
 
+  // What is chosen in the next menu that a form pops up, or what is done with it. In order.
+  void NextPopup(MenuPath path) {
+    NextPopup([path = std::move(path)](ShownPopup& popup) { popup.Choose(path); });
+  }
+  void NextPopup(std::function<void(ShownPopup&)> script) { popups_.push_back(std::move(script)); }
+  // What is answered to the next file dialog, which must have this title; no path cancels it. In order.
+  void NextFile(const std::wstring& title, std::optional<std::wstring> path, std::int32_t filterIndex = 1) {
+    files_.push_back({title, std::move(path), filterIndex});
+  }
+
   // What is done in the next modal window, which must have this caption. It must be gone after that. In order.
   void NextWindow(const std::wstring& caption, std::function<void(ShownWindow&)> script) {
     windowScripts_.push_back({caption, std::move(script)});
@@ -65,12 +81,14 @@ class LocalUser {
   // For those who show menus and boxes.
   MenuActions TakeMenu();
   BoxAnswer TakeBox(const std::wstring& text);
+  FileScript TakeFile(const std::wstring& title);
 
  private:
   void SendTray(const std::vector<std::uint32_t>& mouseMessages);
   void Send(std::uint32_t message, std::int64_t wParam);
   void LetItRun();
   bool MeetWindow(ShownWindow& window, const std::function<bool()>& open);
+  void MeetPopup(ShownPopup& popup);
 
   struct WindowScript {
     std::wstring caption;
@@ -81,6 +99,8 @@ class LocalUser {
   LocalShell& shell_;
   std::deque<MenuActions> menus_;
   std::deque<BoxAnswer> boxes_;
+  std::deque<std::function<void(ShownPopup&)>> popups_;
+  std::deque<FileScript> files_;
   std::deque<WindowScript> windowScripts_;
   std::string complaints_;
 };

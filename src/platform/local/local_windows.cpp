@@ -160,6 +160,12 @@ void LocalWindows::RunGesture(std::function<void()> gesture) {
   if (!IsBusy()) DoEvents();
 }
 
+void LocalWindows::MeetPopup(ShownPopup& popup) {
+  DoEvents();
+  if (PopupPerson) PopupPerson(popup);
+  DoEvents();
+}
+
 bool LocalWindows::RunOne() {
   if (queue_.empty()) return false;
   const std::function<void()> work = std::move(queue_.front());

@@ -46,6 +46,8 @@ class LocalWindows final : public WindowSystem, private LocalProcess {
   LocalDesktop Desktop{*this};
   // Meets a modal window as long as it is open. False: nobody was told to, and Input goes on.
   std::function<bool(ShownWindow& window, const std::function<bool()>& open)> Person;
+  // Meets a menu that popped up from a form.
+  std::function<void(ShownPopup& popup)> PopupPerson;
   // Whether there is such a file for an animation to play.
   std::function<bool(const std::wstring& path)> FileTest;
 
@@ -101,6 +103,7 @@ class LocalWindows final : public WindowSystem, private LocalProcess {
   std::int32_t Scale() const override { return Dpi; }
   bool HasFile(const std::wstring& path) const override { return FileTest && FileTest(path); }
   void RunGesture(std::function<void()> gesture) override;
+  void MeetPopup(ShownPopup& popup) override;
   bool RunOne();
   void RunWhile(const std::function<bool()>& going);
   void RunNextLater();

@@ -22,17 +22,30 @@ std::wstring WithoutMarks(const std::wstring& text) {
   return plain;
 }
 
-wchar_t MnemonicOf(const ShownControl& control) {
-  if (!control.useMnemonic || control.kind == ShownKind::kAnimation) return L'\0';
-  for (std::size_t i = 0; i + 1 < control.text.size(); ++i) {
-    if (control.text[i] != kMark) continue;
-    if (control.text[++i] != kMark) return control.text[i];
+wchar_t MarkedIn(const std::wstring& text) {
+  for (std::size_t i = 0; i + 1 < text.size(); ++i) {
+    if (text[i] != kMark) continue;
+    if (text[++i] != kMark) return text[i];
   }
   return L'\0';
 }
 
+wchar_t MnemonicOf(const ShownControl& control) {
+  if (!control.useMnemonic || control.kind == ShownKind::kAnimation) return L'\0';
+  return MarkedIn(control.text);
+}
+
 bool SameLetter(wchar_t one, wchar_t other) {
   return std::towlower(static_cast<std::wint_t>(one)) == std::towlower(static_cast<std::wint_t>(other));
+}
+
+// One that can be clicked.
+std::size_t FindButton(const ShownControl& toolbar, const std::wstring& key) {
+  const auto& buttons = toolbar.buttons;
+  const auto found = std::find_if(buttons.begin(), buttons.end(), [&key](const auto& b) { return b.key == key; });
+  if (found == buttons.end()) throw std::logic_error("there is no button " + ToUtf8(key));
+  if (!found->enabled) throw std::logic_error("the button can't be clicked: " + ToUtf8(key));
+  return static_cast<std::size_t>(found - buttons.begin());
 }
 
 }  // namespace
@@ -80,9 +93,13 @@ void ShownWindow::ClickOn(const ShownControl* control) const {
   if (door) door();
 }
 
-void ShownWindow::Do(const std::function<void()>& gesture) {
+void ShownWindow::CheckUsable() const {
   if (!IsOpen() || !visible) throw std::logic_error("the window isn't on the screen: " + ToUtf8(caption));
   if (!enabled) throw std::logic_error("a modal window is in front of this one: " + ToUtf8(caption));
+}
+
+void ShownWindow::Do(const std::function<void()>& gesture) {
+  CheckUsable();
   stack_.RunGesture(window, gesture);
 }
 
@@ -116,6 +133,80 @@ void ShownWindow::Mouse(WindowHandle control, MouseAction action, const MouseEve
     const auto door = under->UserMouse;
     if (door) door(action, event);
   });
+}
+
+// --- menus and bars
+
+void ShownWindow::ChooseMenu(const MenuPath& path) {
+  Do([this, path] {
+    MenuEntryState& entry = WalkMenus(*form_, form_->MenuEntries(), path, false);
+    if (IsOpen()) form_->UserChooseMenu(entry);
+  });
+}
+
+void ShownWindow::ChooseSystemMenu(const std::wstring& text) {
+  const auto entry = std::find_if(systemMenu.begin(), systemMenu.end(),
+                                  [&text](const auto& e) { return e.text == text || WithoutMarks(e.text) == text; });
+  if (entry == systemMenu.end()) throw std::logic_error("there is no entry in the system menu: " + ToUtf8(text));
+  Do([this, id = entry->id] { form_->UserSystemCommand(id); });
+}
+
+std::vector<std::wstring> ShownWindow::MenuTexts(const MenuPath& path) {
+  CheckUsable();
+  const auto& bar = form_->MenuEntries();
+  return LooksOf(path.empty() ? bar : WalkMenus(*form_, bar, path, true).children);
+}
+
+// The person looks and closes it again.
+bool ShownWindow::OpenFromBar(wchar_t character) {
+  for (MenuEntryState* entry : form_->MenuEntries()) {
+    if (!entry->visible || !SameLetter(MarkedIn(entry->caption), character)) continue;
+    if (entry->enabled) form_->UserOpenMenu(*entry);
+    return true;
+  }
+  return false;
+}
+
+ShownControl& ShownWindow::Usable(WindowHandle handle) const {
+  ShownControl* control = WithWindow(handle);
+  if (control == nullptr || !CanBeUsed(*control)) throw std::logic_error("there is no such bar, or it can't be used");
+  return *control;
+}
+
+void ShownWindow::ClickButton(WindowHandle toolbar, const std::wstring& key) {
+  Do([this, toolbar, key] {
+    const ShownControl& bar = Usable(toolbar);
+    const std::size_t button = FindButton(bar, key);
+    const auto door = bar.UserButtonClick;
+    if (door) door(button);
+  });
+}
+
+void ShownWindow::ChooseButtonMenu(WindowHandle toolbar, const std::wstring& key, const std::wstring& text) {
+  Do([this, toolbar, key, text] {
+    const ShownControl& bar = Usable(toolbar);
+    const std::size_t button = FindButton(bar, key);
+    const auto& menu = bar.buttons[button].menu;
+    const auto entry = std::find_if(menu.begin(), menu.end(),
+                                    [&text](const auto& e) { return e.text == text || WithoutMarks(e.text) == text; });
+    if (entry == menu.end()) throw std::logic_error("there is no entry in the button's menu: " + ToUtf8(text));
+    const auto door = bar.UserButtonMenuClick;
+    if (door) door(button, static_cast<std::size_t>(entry - menu.begin()));
+  });
+}
+
+std::vector<std::wstring> ShownWindow::PanelTexts(WindowHandle statusBar) const {
+  const ShownControl* bar = WithWindow(statusBar);
+  if (bar == nullptr) throw std::logic_error("there is no such status bar");
+  std::vector<std::wstring> texts;
+  for (const StatusPanelState& panel : bar->panels) texts.push_back(panel.text);
+  return texts;
+}
+
+void ShownWindow::ShowBar() {
+  const auto& entries = form_->MenuEntries();
+  hasBar = std::any_of(entries.begin(), entries.end(), [](const MenuEntryState* entry) { return entry->visible; });
+  FitClient();
 }
 
 void ShownWindow::Close() {
@@ -165,7 +256,7 @@ Rect ShownWindow::PlacedRect() const {
   if (box.width > 0) return {left, top, left + ToPixels(box.width, dpi), top + ToPixels(box.height, dpi)};
   const Size design = form_->DesignClient();
   const std::int32_t width = ToPixels(design.width, dpi) + Scaled(kFrame.left + kFrame.right, dpi, kDesignDpi);
-  const std::int32_t height = ToPixels(design.height, dpi) + Scaled(kFrame.top + kFrame.bottom, dpi, kDesignDpi);
+  const std::int32_t height = ToPixels(design.height, dpi) + Scaled(FrameHeight(), dpi, kDesignDpi);
   return {left, top, left + width, top + height};
 }
 
@@ -190,10 +281,10 @@ void ShownWindow::FitClient() {
   switch (state) {
     case FormWindowState::kNormal:
       client = {0, 0, place.right - place.left - frame(kFrame.left + kFrame.right),
-                place.bottom - place.top - frame(kFrame.top + kFrame.bottom)};
+                place.bottom - place.top - frame(FrameHeight())};
       return;
     case FormWindowState::kMaximized:
-      client = {0, 0, screen.right, screen.bottom - frame(kFrame.top)};
+      client = {0, 0, screen.right, screen.bottom - frame(FrameHeight() - kFrame.bottom)};
       return;
     case FormWindowState::kMinimized:
       client = {};
@@ -264,7 +355,10 @@ void ShownWindow::RunMnemonic(wchar_t character) {
   const auto marked = std::find_if(controls.begin(), controls.end(), [this, character](const auto& control) {
     return CanBeUsed(*control) && SameLetter(MnemonicOf(*control), character);
   });
-  if (marked == controls.end()) return;
+  if (marked == controls.end()) {
+    OpenFromBar(character);
+    return;
+  }
   if ((*marked)->UserClick) {
     const std::shared_ptr<ShownControl> button = *marked;
     SetFocus(button.get());

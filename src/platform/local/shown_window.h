@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/local/shown_menus.h"
 #include "platform/ui_peers.h"
 
 namespace burrowmark {
@@ -31,7 +32,7 @@ class WindowStack {
   ~WindowStack() = default;
 };
 
-enum class ShownKind : std::uint8_t { kLabel, kButton, kAnimation };
+enum class ShownKind : std::uint8_t { kLabel, kButton, kAnimation, kToolbar, kStatusBar };
 
 struct ShownControl {
   ShownKind kind = ShownKind::kLabel;
@@ -48,6 +49,12 @@ struct ShownControl {
   Alignment alignment = Alignment::kLeft;
 
   WindowHandle parent = 0;  // the form, or the control that it is in
+
+  std::vector<ToolbarButtonState> buttons;  // of a toolbar
+  ImageList images;
+  std::vector<StatusPanelState> panels;  // of a status bar
+  std::function<void(std::size_t button)> UserButtonClick;
+  std::function<void(std::size_t button, std::size_t entry)> UserButtonMenuClick;
 
   std::function<void(bool)> UserFocus;  // doors; empty where there is none, and once the control has gone
   std::function<void(MouseAction, const MouseEvent&)> UserMouse;
@@ -77,10 +84,14 @@ class ShownWindow {
   FormWindowState state = FormWindowState::kNormal;
   std::int32_t pointer = kPointerDefault;
   std::int32_t icon = 0;
+  bool hasBar = false;  // of menus
+  std::vector<SystemMenuEntry> systemMenu;
   std::vector<std::shared_ptr<ShownControl>> controls;  // in tab order
 
   // Pixels around the client area of a normal window at 96 dots per inch.
   static constexpr Rect kFrame{8, 31, 8, 8};
+  // The same for a bar of menus.
+  static constexpr std::int32_t kBarHeight = 20;
 
   // False once the program has taken it away; what it showed last stays to be read.
   bool IsOpen() const { return form_ != nullptr; }
@@ -99,6 +110,16 @@ class ShownWindow {
   // Alt and a character.
   void PressAlt(wchar_t character);
   void Close();
+  // Menus of the bar: the titles on the way, as {L"Edit", L"Copy"}.
+  void ChooseMenu(const MenuPath& path);
+  void ChooseSystemMenu(const std::wstring& text);
+  // What shows of the bar itself, or of the menu that opens at the end of the way.
+  std::vector<std::wstring> MenuTexts(const MenuPath& path = {});
+  // A button of a toolbar by its key, and an entry of its menu by its text.
+  void ClickButton(WindowHandle toolbar, const std::wstring& key);
+  void ChooseButtonMenu(WindowHandle toolbar, const std::wstring& key, const std::wstring& text);
+  // Texts of a status bar's panels.
+  std::vector<std::wstring> PanelTexts(WindowHandle statusBar) const;
   // The mouse at a point of a control, or of the client area for 0; in twips from its corner.
   void Mouse(WindowHandle control, MouseAction action, const MouseEvent& event);
   void MoveTo(std::int32_t left, std::int32_t top);
@@ -116,8 +137,13 @@ class ShownWindow {
   void TakeState(FormWindowState newState);
   void Report();
   FormState* Form() const { return form_; }
+  void ShowBar();
 
  private:
+  void CheckUsable() const;
+  ShownControl& Usable(WindowHandle handle) const;
+  bool OpenFromBar(wchar_t character);
+  std::int32_t FrameHeight() const { return kFrame.top + kFrame.bottom + (hasBar ? kBarHeight : 0); }
   void Do(const std::function<void()>& gesture);
   void ClickOn(const ShownControl* control) const;
   void RunKey(std::int32_t keyCode, std::int32_t shift);

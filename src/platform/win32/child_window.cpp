@@ -34,6 +34,8 @@ ChildWindow::~ChildWindow() {
 }
 
 void ChildWindow::Command(UINT) {}
+void ChildWindow::CommandFrom(UINT, UINT notification) { Command(notification); }
+void ChildWindow::Rescaled() {}
 LRESULT ChildWindow::Notify(NMHDR&) { return 0; }
 std::optional<LRESULT> ChildWindow::Handle(UINT, WPARAM, LPARAM) { return std::nullopt; }
 
@@ -52,9 +54,10 @@ void ChildWindow::SetStyle(DWORD bits, bool on) const {
   ::SetWindowLongPtrW(window_, GWL_STYLE, static_cast<LONG_PTR>(on ? style | bits : style & ~bits));
 }
 
-void ChildWindow::FollowScale() const {
+void ChildWindow::FollowScale() {
   ::SendMessageW(window_, WM_SETFONT, reinterpret_cast<WPARAM>(form_.Font()), TRUE);
   Place();
+  Rescaled();
 }
 
 LRESULT CALLBACK ChildWindow::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
@@ -74,7 +77,7 @@ LRESULT CALLBACK ChildWindow::Procedure(HWND window, UINT message, WPARAM wParam
 std::optional<LRESULT> ChildWindow::Receive(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
     case kReflected + WM_COMMAND:
-      Command(HIWORD(wParam));
+      CommandFrom(LOWORD(wParam), HIWORD(wParam));
       return 0;
     case kReflected + WM_NOTIFY:
       return Notify(*reinterpret_cast<NMHDR*>(lParam));

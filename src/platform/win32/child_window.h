@@ -35,15 +35,19 @@ class ChildWindow {
   void EnableOrDisable() const;
   void SetStyle(DWORD bits, bool on) const;
   void FollowTabStop() const { SetStyle(WS_TABSTOP, control_->TabStop()); }
-  void FollowScale() const;
+  void FollowScale();
   void SetText(const std::wstring& text) const { ::SetWindowTextW(window_, text.c_str()); }
 
  protected:
   // What the control told its form, until the retirement: a command's number, or the record of a notification.
   virtual void Command(UINT notification);
+  // The same for a window of many items, with the number of the one that it is about.
+  virtual void CommandFrom(UINT item, UINT notification);
   virtual LRESULT Notify(NMHDR& record);
   // Any other message before the system's own procedure sees it. None: that goes on.
   virtual std::optional<LRESULT> Handle(UINT message, WPARAM wParam, LPARAM lParam);
+  // The form has another scale; font and place are those of the new one.
+  virtual void Rescaled();
   FormWindow& TheForm() const { return form_; }
   std::int32_t Dpi() const { return form_.Dpi(); }
 

@@ -1,5 +1,7 @@
 #include "platform/win32/form_window.h"
 
+#include <algorithm>
+
 #include "platform/from_system.h"
 #include "platform/key_codes.h"
 #include "platform/win32/handles.h"
@@ -81,6 +83,8 @@ FormWindow::FormWindow(FormState& form, const FormWindowParts& parts) : form_(&f
                         0, 0, 0, ToHwnd(form.OwnerWindow()), nullptr, WindowClass::Module(), this);
   if (window_ == nullptr) return;
   parts_.all[window_] = this;
+  MenusChanged();
+  SystemMenuChanged();
   PlaceChanged();
   IconChanged();
   if (form.TopMost()) TopMostChanged();
@@ -139,19 +143,16 @@ bool FormWindow::ShowPointer() const {
 }
 
 void FormWindow::IconChanged() {
-  IconImage big = LoadIconImage(kBigIcon);
-  IconImage small = LoadIconImage(kSmallIcon);
+  IconImage big = LoadIcon(kBigIcon);
+  IconImage small = LoadIcon(kSmallIcon);
   ::SendMessageW(window_, WM_SETICON, ICON_BIG, reinterpret_cast<LPARAM>(big.get()));
   ::SendMessageW(window_, WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(small.get()));
   bigIcon_ = std::move(big);
   smallIcon_ = std::move(small);
 }
 
-FormWindow::IconImage FormWindow::LoadIconImage(int designSize) const {
-  if (form_->Icon() == 0) return nullptr;
-  const int size = Scaled(designSize, dpi_, kDesignDpi);
-  return IconImage(static_cast<HICON>(
-      ::LoadImageW(WindowClass::Module(), MAKEINTRESOURCEW(form_->Icon()), IMAGE_ICON, size, size, LR_DEFAULTCOLOR)));
+IconImage FormWindow::LoadIcon(int designSize) const {
+  return LoadIconImage(form_->Icon(), Scaled(designSize, dpi_, kDesignDpi));
 }
 
 void FormWindow::BringToFront() {
@@ -172,6 +173,65 @@ void FormWindow::BlockOwner(bool block) {
   blockedOwner_ = owner;
 }
 
+// --- menus
+
+void FormWindow::MenusChanged() { menus_.ShowBar(window_, form_->MenuEntries()); }
+
+void FormWindow::SystemMenuChanged() {
+  const HMENU menu = ::GetSystemMenu(window_, FALSE);
+  bool isFirst = true;
+  for (const SystemMenuEntry& entry : form_->SystemMenuEntries()) {
+    const auto id = static_cast<UINT>(entry.id);
+    if (::GetMenuState(menu, id, MF_BYCOMMAND) == static_cast<UINT>(-1)) {
+      if (isFirst) ::AppendMenuW(menu, MF_SEPARATOR, 0, nullptr);
+      ::AppendMenuW(menu, MF_STRING, id, entry.text.c_str());
+    }
+    ::CheckMenuItem(menu, id, MF_BYCOMMAND | (entry.checked ? MF_CHECKED : MF_UNCHECKED));
+    isFirst = false;
+  }
+}
+
+void FormWindow::PopupMenu(MenuEntryState& popup, const MenuEntryState* defaultEntry) {
+  if (form_ == nullptr) return;
+  MenuEntryState* chosen = menus_.Popup(window_, popup, defaultEntry, PopupPoint());
+  if (chosen != nullptr && form_ != nullptr) form_->UserChooseMenu(*chosen);
+}
+
+POINT FormWindow::PopupPoint() const {
+  POINT point = {};
+  const HWND focus = ::GetFocus();
+  if (keyCameLast_ && ::IsChild(window_, focus) != FALSE) {
+    ::ClientToScreen(focus, &point);
+  } else {
+    ::GetCursorPos(&point);
+  }
+  return point;
+}
+
+// True if it is one of the form's own.
+bool FormWindow::OpenMenu(HMENU menu) {
+  MenuEntryState* entry = menus_.EntryOf(menu);
+  if (entry == nullptr) return false;
+  form_->UserOpenMenu(*entry);
+  if (form_ != nullptr) menus_.Fill(menu);
+  return true;
+}
+
+void FormWindow::RunCommand(UINT command) {
+  if (command == IDCANCEL) return form_->UserEscape();
+  if (MenuEntryState* entry = menus_.EntryOf(command)) form_->UserChooseMenu(*entry);
+}
+
+// The system keeps the low four bits of its own commands to itself; a form's number is compared as it is.
+bool FormWindow::RunSystemCommand(WPARAM command) const {
+  const auto& entries = form_->SystemMenuEntries();
+  const bool isOwn = std::any_of(entries.begin(), entries.end(), [command](const SystemMenuEntry& entry) {
+    return static_cast<WPARAM>(entry.id) == command;
+  });
+  if (isOwn) form_->UserSystemCommand(static_cast<std::int32_t>(command));
+  return isOwn;
+}
+
 // --- place
 
 bool FormWindow::IsCentred() const { return form_->StartUp() == StartUpPosition::kCenterOwner; }
@@ -183,9 +243,10 @@ SIZE FormWindow::OuterSize() const {
   RECT rect = {0, 0, ToPixels(design.width, dpi_), ToPixels(design.height, dpi_)};
   const auto style = static_cast<DWORD>(::GetWindowLongPtrW(window_, GWL_STYLE));
   const auto extended = static_cast<DWORD>(::GetWindowLongPtrW(window_, GWL_EXSTYLE));
+  const BOOL menu = ::GetMenu(window_) != nullptr ? TRUE : FALSE;
   const auto forDpi = user_.Find<AdjustForDpiCall>("AdjustWindowRectExForDpi");
-  if (forDpi == nullptr || forDpi(&rect, style, FALSE, extended, static_cast<UINT>(dpi_)) == FALSE) {
-    ::AdjustWindowRectEx(&rect, style, FALSE, extended);
+  if (forDpi == nullptr || forDpi(&rect, style, menu, extended, static_cast<UINT>(dpi_)) == FALSE) {
+    ::AdjustWindowRectEx(&rect, style, menu, extended);
   }
   return {rect.right - rect.left, rect.bottom - rect.top};
 }
@@ -273,9 +334,15 @@ void FormWindow::FollowScale(std::int32_t dpi, const RECT& suggested) {
 // --- messages
 
 bool FormWindow::Translate(MSG& message) {
+  NoteInput(message.message);
   const bool key = message.message == WM_KEYDOWN || message.message == WM_SYSKEYDOWN;
   if (key && FromSystem([&] { return PreviewKey(message); }, false)) return true;
   return form_ != nullptr && ::IsDialogMessageW(window_, &message) != FALSE;
+}
+
+void FormWindow::NoteInput(UINT message) {
+  if (message >= WM_KEYFIRST && message <= WM_KEYLAST) keyCameLast_ = true;
+  if (message > WM_MOUSEMOVE && message <= WM_MOUSELAST) keyCameLast_ = false;
 }
 
 // The form sees a key first, then the control with the focus, and then the system.
@@ -339,8 +406,14 @@ LRESULT FormWindow::Answer(UINT message, WPARAM wParam, LPARAM lParam) {
     case DM_GETDEFID:
       return EnterButtonId();
     case WM_COMMAND:
-      if (LOWORD(wParam) == IDCANCEL) form_->UserEscape();
+      RunCommand(LOWORD(wParam));
       return 0;
+    case WM_INITMENUPOPUP:
+      if (OpenMenu(reinterpret_cast<HMENU>(wParam))) return 0;
+      break;
+    case WM_SYSCOMMAND:
+      if (RunSystemCommand(wParam)) return 0;
+      break;
     case WM_SETCURSOR:
       if (LOWORD(lParam) == HTCLIENT && ShowPointer()) return TRUE;
       break;

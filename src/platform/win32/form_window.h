@@ -11,6 +11,8 @@
 
 #include "platform/ui_peers.h"
 #include "platform/win32/control_fonts.h"
+#include "platform/win32/entry_menus.h"
+#include "platform/win32/icon_image.h"
 #include "platform/win32/mouse_message.h"
 #include "platform/win32/screen_dpi.h"
 #include "platform/win32/system_library.h"
@@ -63,21 +65,24 @@ class FormWindow final : public FormPeer {
   void MousePointerChanged() override;
   void IconChanged() override;
   void BringToFront() override;
+  void MenusChanged() override;
+  void SystemMenuChanged() override;
+  void PopupMenu(MenuEntryState& popup, const MenuEntryState* defaultEntry) override;
   void BlockOwner(bool block) override;
   std::int32_t Dpi() const override { return dpi_; }
 
  private:
-  struct DestroyIconImage {
-    void operator()(HICON icon) const { ::DestroyIcon(icon); }
-  };
-  using IconImage = std::unique_ptr<std::remove_pointer_t<HICON>, DestroyIconImage>;
-
   LRESULT Receive(UINT message, WPARAM wParam, LPARAM lParam);
   LRESULT Answer(UINT message, WPARAM wParam, LPARAM lParam);
   LRESULT EnterButtonId() const;
   bool PreviewKey(const MSG& message) const;
+  void NoteInput(UINT message);
   void Mouse(const MouseMessage& mouse) const;
   void Lost();
+  void RunCommand(UINT command);
+  bool OpenMenu(HMENU menu);
+  bool RunSystemCommand(WPARAM command) const;
+  POINT PopupPoint() const;
 
   bool IsCentred() const;
   RECT CentredRect();
@@ -93,7 +98,7 @@ class FormWindow final : public FormPeer {
   void FocusSomething();
   void MoveToControl(WPARAM wParam, LPARAM lParam);
   bool ShowPointer() const;
-  IconImage LoadIconImage(int designSize) const;
+  IconImage LoadIcon(int designSize) const;
 
   FormState* form_;  // none after the retirement
   FormWindowParts parts_;
@@ -105,6 +110,8 @@ class FormWindow final : public FormPeer {
   std::set<HWND> controls_;
   HWND focusBefore_ = nullptr;  // had it when the window was left
   HWND blockedOwner_ = nullptr;
+  EntryMenus menus_;
+  bool keyCameLast_ = false;  // not a button of the mouse
   IconImage bigIcon_;
   IconImage smallIcon_;
 };

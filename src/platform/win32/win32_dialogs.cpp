@@ -2,6 +2,11 @@
 
 #include <windows.h>
 
+#include <cderr.h>
+#include <commdlg.h>
+
+#include <algorithm>
+
 #include "platform/win32/handles.h"
 
 namespace burrowmark {
@@ -12,6 +17,19 @@ static_assert(kBoxQuestion == MB_ICONQUESTION && kBoxWarning == MB_ICONWARNING);
 static_assert(kBoxInformation == MB_ICONINFORMATION);
 static_assert(kAnswerOk == IDOK && kAnswerCancel == IDCANCEL && kAnswerYes == IDYES && kAnswerNo == IDNO);
 
+constexpr std::size_t kLongestPath = 32768;
+
+// Texts and patterns, each with a zero behind it, and one more at the end.
+std::wstring FilterList(const std::vector<FileFilter>& filters) {
+  std::wstring list;
+  for (const FileFilter& filter : filters) list += filter.text + L'\0' + filter.pattern + L'\0';
+  return list + L'\0';
+}
+
+bool Ask(bool save, OPENFILENAMEW& dialog) {
+  return (save ? ::GetSaveFileNameW(&dialog) : ::GetOpenFileNameW(&dialog)) != FALSE;
+}
+
 }  // namespace
 
 std::int32_t Win32Dialogs::MessageBoxA(WindowHandle owner, const std::wstring& text, const std::wstring& title,
@@ -20,6 +38,28 @@ std::int32_t Win32Dialogs::MessageBoxA(WindowHandle owner, const std::wstring& t
   // Over a window that isn't seen the box would come up behind the other programs.
   const UINT front = window != nullptr && ::IsWindowVisible(window) != FALSE ? 0 : MB_SETFOREGROUND;
   return ::MessageBoxW(window, text.c_str(), title.c_str(), style | front);
+}
+
+std::optional<FileAnswer> Win32Dialogs::FileDialog(const FileRequest& request) {
+  const std::wstring filters = FilterList(request.filters);
+  std::wstring path(kLongestPath, L'\0');
+  std::copy_n(request.fileName.begin(), std::min(request.fileName.size(), kLongestPath - 1), path.begin());
+  OPENFILENAMEW dialog = {};
+  dialog.lStructSize = sizeof(dialog);
+  dialog.hwndOwner = ToHwnd(request.owner);
+  dialog.lpstrFilter = filters.c_str();
+  dialog.nFilterIndex = static_cast<DWORD>(request.filterIndex);
+  dialog.lpstrFile = path.data();
+  dialog.nMaxFile = static_cast<DWORD>(kLongestPath);
+  dialog.lpstrTitle = request.title.c_str();
+  dialog.Flags = OFN_EXPLORER | OFN_HIDEREADONLY | OFN_NOCHANGEDIR;
+  bool chosen = Ask(request.save, dialog);
+  if (!chosen && ::CommDlgExtendedError() == FNERR_INVALIDFILENAME) {
+    path[0] = L'\0';  // a name that can't be one doesn't keep the dialog away
+    chosen = Ask(request.save, dialog);
+  }
+  if (!chosen) return std::nullopt;
+  return FileAnswer{path.c_str(), static_cast<std::int32_t>(dialog.nFilterIndex)};
 }
 
 }  // namespace burrowmark

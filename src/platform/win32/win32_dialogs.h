@@ -9,6 +9,7 @@ class Win32Dialogs final : public Dialogs {
  public:
   std::int32_t MessageBoxA(WindowHandle owner, const std::wstring& text, const std::wstring& title,
                            std::uint32_t style) override;
+  std::optional<FileAnswer> FileDialog(const FileRequest& request) override;
 };
 
 }  // namespace burrowmark

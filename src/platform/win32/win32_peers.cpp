@@ -4,6 +4,7 @@
 
 #include <stdexcept>
 
+#include "platform/win32/bar_peers.h"
 #include "platform/win32/control_peers.h"
 #include "platform/win32/handles.h"
 
@@ -19,7 +20,7 @@ Win32Peers::Win32Peers(const ScreenDpi& dpi)
       class_(FormWindow::kClassName, FormWindow::Procedure, BackgroundOfForms(), ::LoadCursorW(nullptr, IDC_ARROW)) {
   INITCOMMONCONTROLSEX classes = {};
   classes.dwSize = sizeof(classes);
-  classes.dwICC = ICC_STANDARD_CLASSES | ICC_ANIMATE_CLASS;
+  classes.dwICC = ICC_STANDARD_CLASSES | ICC_ANIMATE_CLASS | ICC_BAR_CLASSES;
   ::InitCommonControlsEx(&classes);
 }
 
@@ -49,6 +50,14 @@ std::unique_ptr<ButtonPeer> Win32Peers::MakePeer(WindowHandle parent, ButtonStat
 
 std::unique_ptr<AnimationPeer> Win32Peers::MakePeer(WindowHandle parent, AnimationState& animation) {
   return std::make_unique<Win32Animation>(PlaceIn(parent), animation);
+}
+
+std::unique_ptr<ToolbarPeer> Win32Peers::MakePeer(WindowHandle parent, ToolbarState& toolbar) {
+  return std::make_unique<Win32Toolbar>(PlaceIn(parent), toolbar);
+}
+
+std::unique_ptr<StatusBarPeer> Win32Peers::MakePeer(WindowHandle parent, StatusBarState& bar) {
+  return std::make_unique<Win32StatusBar>(PlaceIn(parent), bar);
 }
 
 }  // namespace burrowmark

@@ -29,6 +29,9 @@ class Win32Peers final : public Peers {
   std::unique_ptr<ButtonPeer> MakePeer(WindowHandle parent, ButtonState& button) override;
   std::unique_ptr<AnimationPeer> MakePeer(WindowHandle parent, AnimationState& animation) override;
 
+  std::unique_ptr<ToolbarPeer> MakePeer(WindowHandle parent, ToolbarState& toolbar) override;
+  std::unique_ptr<StatusBarPeer> MakePeer(WindowHandle parent, StatusBarState& bar) override;
+
  private:
   ChildPlace PlaceIn(WindowHandle parent) const;
 

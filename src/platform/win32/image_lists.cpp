@@ -1,0 +1,32 @@
+#include "platform/win32/image_lists.h"
+
+#include <vector>
+
+#include "platform/twips.h"
+#include "platform/win32/icon_image.h"
+
+namespace burrowmark {
+namespace {
+
+IconImage EmptyImage(int size) {
+  constexpr int kBitsOfRow = 16;
+  const auto bytes = static_cast<std::size_t>((size + kBitsOfRow - 1) / kBitsOfRow * (kBitsOfRow / 8) * size);
+  const std::vector<BYTE> screen(bytes, 0xFF);
+  const std::vector<BYTE> picture(bytes, 0);
+  return IconImage(::CreateIcon(WindowClass::Module(), size, size, 1, 1, screen.data(), picture.data()));
+}
+
+}  // namespace
+
+ImageListHandle MakeImageList(const ImageList& images, std::int32_t dpi) {
+  const int size = Scaled(images.size, dpi, kDesignDpi);
+  ImageListHandle list(
+      ::ImageList_Create(size, size, ILC_COLOR32 | ILC_MASK, static_cast<int>(images.icons.size()), 0));
+  for (const std::int32_t number : images.icons) {
+    const IconImage image = LoadIconImage(number, size);
+    ::ImageList_ReplaceIcon(list.get(), -1, image ? image.get() : EmptyImage(size).get());
+  }
+  return list;
+}
+
+}  // namespace burrowmark
