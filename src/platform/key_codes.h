@@ -5,10 +5,21 @@
 
 namespace burrowmark {
 
+inline constexpr std::int32_t kKeyCodeBack = 8;
 inline constexpr std::int32_t kKeyCodeTab = 9;
 inline constexpr std::int32_t kKeyCodeReturn = 13;
 inline constexpr std::int32_t kKeyCodeEscape = 27;
 inline constexpr std::int32_t kKeyCodeSpace = 32;
+inline constexpr std::int32_t kKeyCodePageUp = 33;
+inline constexpr std::int32_t kKeyCodePageDown = 34;
+inline constexpr std::int32_t kKeyCodeEnd = 35;
+inline constexpr std::int32_t kKeyCodeHome = 36;
+inline constexpr std::int32_t kKeyCodeLeft = 37;
+inline constexpr std::int32_t kKeyCodeUp = 38;
+inline constexpr std::int32_t kKeyCodeRight = 39;
+inline constexpr std::int32_t kKeyCodeDown = 40;
+inline constexpr std::int32_t kKeyCodeInsert = 45;
+inline constexpr std::int32_t kKeyCodeDelete = 46;
 
 inline constexpr std::int32_t kShiftMask = 1;
 inline constexpr std::int32_t kCtrlMask = 2;

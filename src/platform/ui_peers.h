@@ -6,7 +6,9 @@
 #include <string>
 
 #include "platform/ui_bar_peers.h"
+#include "platform/ui_container_peers.h"
 #include "platform/ui_control.h"
+#include "platform/ui_entry_peers.h"
 #include "platform/ui_simple_peers.h"
 #include "platform/ui_view_peers.h"
 
@@ -95,6 +97,8 @@ class Peers {
   virtual std::unique_ptr<LabelPeer> MakePeer(WindowHandle parent, LabelState& label) = 0;
   virtual std::unique_ptr<ButtonPeer> MakePeer(WindowHandle parent, ButtonState& button) = 0;
   virtual std::unique_ptr<AnimationPeer> MakePeer(WindowHandle parent, AnimationState& animation) = 0;
+  virtual std::unique_ptr<TextBoxPeer> MakePeer(WindowHandle parent, TextBoxState& box) = 0;
+  virtual std::unique_ptr<PicturePeer> MakePeer(WindowHandle parent, PictureState& picture) = 0;
 };
 
 }  // namespace burrowmark

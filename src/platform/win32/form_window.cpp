@@ -147,11 +147,8 @@ void FormWindow::IconChanged() {
   smallIcon_ = std::move(small);
 }
 
-FormWindow::IconImage FormWindow::LoadIconImage(int designSize) const {
-  if (form_->Icon() == 0) return nullptr;
-  const int size = Scaled(designSize, dpi_, kDesignDpi);
-  return IconImage(static_cast<HICON>(
-      ::LoadImageW(WindowClass::Module(), MAKEINTRESOURCEW(form_->Icon()), IMAGE_ICON, size, size, LR_DEFAULTCOLOR)));
+IconImage FormWindow::LoadIconImage(int designSize) const {
+  return LoadProgramIcon(form_->Icon(), Scaled(designSize, dpi_, kDesignDpi));
 }
 
 void FormWindow::BringToFront() {
@@ -386,7 +383,10 @@ void FormWindow::FocusSomething() {
 void FormWindow::MoveToControl(WPARAM wParam, LPARAM lParam) {
   const HWND next =
       LOWORD(lParam) != 0 ? reinterpret_cast<HWND>(wParam) : ::GetNextDlgTabItem(window_, ::GetFocus(), wParam != 0);
-  if (next != nullptr) ::SetFocus(next);
+  if (next == nullptr) return;
+  ::SetFocus(next);
+  // A text box is left with all of its text selected, as where the Tab key comes to it.
+  if ((::SendMessageW(next, WM_GETDLGCODE, 0, 0) & DLGC_HASSETSEL) != 0) ::SendMessageW(next, EM_SETSEL, 0, -1);
 }
 
 }  // namespace burrowmark

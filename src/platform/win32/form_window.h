@@ -12,6 +12,7 @@
 #include "platform/ui_peers.h"
 #include "platform/win32/control_fonts.h"
 #include "platform/win32/mouse_message.h"
+#include "platform/win32/program_icon.h"
 #include "platform/win32/screen_dpi.h"
 #include "platform/win32/system_library.h"
 
@@ -67,11 +68,6 @@ class FormWindow final : public FormPeer {
   std::int32_t Dpi() const override { return dpi_; }
 
  private:
-  struct DestroyIconImage {
-    void operator()(HICON icon) const { ::DestroyIcon(icon); }
-  };
-  using IconImage = std::unique_ptr<std::remove_pointer_t<HICON>, DestroyIconImage>;
-
   LRESULT Receive(UINT message, WPARAM wParam, LPARAM lParam);
   LRESULT Answer(UINT message, WPARAM wParam, LPARAM lParam);
   LRESULT EnterButtonId() const;

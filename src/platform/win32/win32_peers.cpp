@@ -6,6 +6,7 @@
 
 #include "platform/win32/control_peers.h"
 #include "platform/win32/handles.h"
+#include "platform/win32/text_box_peer.h"
 
 namespace burrowmark {
 namespace {
@@ -49,6 +50,14 @@ std::unique_ptr<ButtonPeer> Win32Peers::MakePeer(WindowHandle parent, ButtonStat
 
 std::unique_ptr<AnimationPeer> Win32Peers::MakePeer(WindowHandle parent, AnimationState& animation) {
   return std::make_unique<Win32Animation>(PlaceIn(parent), animation);
+}
+
+std::unique_ptr<TextBoxPeer> Win32Peers::MakePeer(WindowHandle parent, TextBoxState& box) {
+  return std::make_unique<Win32TextBox>(PlaceIn(parent), box);
+}
+
+std::unique_ptr<PicturePeer> Win32Peers::MakePeer(WindowHandle parent, PictureState& picture) {
+  return std::make_unique<Win32Picture>(PlaceIn(parent), picture);
 }
 
 }  // namespace burrowmark
