@@ -71,4 +71,12 @@ class ControlPeer : public Peer {
   virtual void TakeFocus() = 0;
 };
 
+class CaptionPeer : public ControlPeer {
+ public:
+  virtual void CaptionChanged() = 0;
+  // Twips that the caption needs at the scale of now, with what the control draws around it. A text that wraps needs
+  // the height that it has in the control's width.
+  virtual Size NeededSize() const = 0;
+};
+
 }  // namespace burrowmark

@@ -7,7 +7,9 @@
 #include <vector>
 
 #include "platform/ui_bar_peers.h"
+#include "platform/ui_container_peers.h"
 #include "platform/ui_control.h"
+#include "platform/ui_entry_peers.h"
 #include "platform/ui_simple_peers.h"
 #include "platform/ui_view_peers.h"
 
@@ -115,6 +117,8 @@ class Peers {
 
   virtual std::unique_ptr<ToolbarPeer> MakePeer(WindowHandle parent, ToolbarState& toolbar) = 0;
   virtual std::unique_ptr<StatusBarPeer> MakePeer(WindowHandle parent, StatusBarState& bar) = 0;
+  virtual std::unique_ptr<TextBoxPeer> MakePeer(WindowHandle parent, TextBoxState& box) = 0;
+  virtual std::unique_ptr<PicturePeer> MakePeer(WindowHandle parent, PictureState& picture) = 0;
 };
 
 }  // namespace burrowmark

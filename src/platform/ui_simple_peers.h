@@ -18,9 +18,8 @@ class LabelState : public virtual ControlState {
   ~LabelState() = default;
 };
 
-class LabelPeer : public ControlPeer {
+class LabelPeer : public CaptionPeer {
  public:
-  virtual void CaptionChanged() = 0;
   virtual void StyleChanged() = 0;  // alignment or mnemonic
 };
 
@@ -36,9 +35,8 @@ class ButtonState : public virtual ControlState {
   ~ButtonState() = default;
 };
 
-class ButtonPeer : public ControlPeer {
+class ButtonPeer : public CaptionPeer {
  public:
-  virtual void CaptionChanged() = 0;
   virtual void DefaultChanged() = 0;
 };
 

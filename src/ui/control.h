@@ -19,6 +19,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -133,6 +134,8 @@ class Control : public virtual ControlState {
   ControlParent& Parent() const { return parent_; }
   // It needs this key itself, so that it is no shortcut of the form's menus.
   virtual bool UsesKey(std::int32_t, std::int32_t) const { return false; }
+  // What its caption needs at the scale of now; 0 without a caption, and while the form isn't loaded.
+  virtual Size NeededSize() const = 0;
 
   void UserFocus(bool has) final;
   void UserMouse(MouseAction action, const MouseEvent& event) final;
@@ -179,6 +182,12 @@ class ControlOf : public Control, public State {
   }
   // None while the form isn't loaded.
   KindPeer* KindsPeer() const { return peer_.get(); }
+  Size NeededSize() const final {
+    if constexpr (std::is_base_of_v<CaptionPeer, KindPeer>) {
+      if (peer_) return peer_->NeededSize();
+    }
+    return {};
+  }
   ControlPeer* ThePeer() const final { return peer_.get(); }
 
  private:

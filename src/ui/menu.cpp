@@ -23,32 +23,32 @@ bool IsShown(const MenuEntryState& entry) {
 
 }  // namespace
 
-MenuEntry::MenuEntry(FormMenus& menus, std::wstring name) : menus_(menus), name_(std::move(name)) {}
+FormMenuEntry::FormMenuEntry(FormMenus& menus, std::wstring name) : menus_(menus), name_(std::move(name)) {}
 
-void MenuEntry::SetCaption(std::wstring newCaption) {
+void FormMenuEntry::SetCaption(std::wstring newCaption) {
   if (Assign(caption, std::move(newCaption))) menus_.Changed(*this);
 }
 
-void MenuEntry::SetVisible(bool on) {
+void FormMenuEntry::SetVisible(bool on) {
   if (Assign(visible, on)) menus_.Changed(*this);
 }
 
-void MenuEntry::SetEnabled(bool on) {
+void FormMenuEntry::SetEnabled(bool on) {
   if (Assign(enabled, on)) menus_.Changed(*this);
 }
 
-void MenuEntry::SetChecked(bool on) {
+void FormMenuEntry::SetChecked(bool on) {
   if (Assign(checked, on)) menus_.Changed(*this);
 }
 
-void MenuEntry::SetRadio(bool on) {
+void FormMenuEntry::SetRadio(bool on) {
   if (Assign(radio, on)) menus_.Changed(*this);
 }
 
 FormMenus::FormMenus(Form& form, std::span<const MenuRow> rows) : form_(form) {
   std::vector<std::pair<std::int32_t, MenuEntryState*>> above;
   for (const MenuRow& row : rows) {
-    entries_.push_back(std::make_unique<MenuEntry>(*this, row.name));
+    entries_.push_back(std::make_unique<FormMenuEntry>(*this, row.name));
     byName_.emplace(row.name, entries_.back().get());
     MenuEntryState& entry = *entries_.back();
     entry.caption = row.caption;
@@ -63,14 +63,14 @@ FormMenus::FormMenus(Form& form, std::span<const MenuRow> rows) : form_(form) {
 
 FormMenus::~FormMenus() { form_.LeaveMenus(); }
 
-MenuEntry& FormMenus::operator[](const std::wstring& name) const {
+FormMenuEntry& FormMenus::operator[](const std::wstring& name) const {
   const auto found = byName_.find(name);
   if (found == byName_.end()) throw std::out_of_range("there is no menu entry " + ToUtf8(name));
   return *found->second;
 }
 
 // The system shows the others as they are when their menu opens.
-void FormMenus::Changed(const MenuEntry& entry) {
+void FormMenus::Changed(const FormMenuEntry& entry) {
   if (entry.parent == nullptr) form_.Tell(&FormPeer::MenusChanged);
 }
 
@@ -91,7 +91,7 @@ bool FormMenus::CanBeChosen(const MenuEntryState& entry) const {
 
 void FormMenus::RaiseClick(MenuEntryState& entry) {
   const ControlSite::Running running(form_);
-  Raise(static_cast<MenuEntry&>(entry).Click);
+  Raise(static_cast<FormMenuEntry&>(entry).Click);
 }
 
 void FormMenus::UserOpen(MenuEntryState& entry) {

@@ -16,9 +16,9 @@ namespace burrowmark {
 class Form;
 class FormMenus;
 
-class MenuEntry final : private MenuEntryState {
+class FormMenuEntry final : private MenuEntryState {
  public:
-  MenuEntry(FormMenus& menus, std::wstring name);
+  FormMenuEntry(FormMenus& menus, std::wstring name);
 
   // Chosen, by the mouse, its letter or its shortcut; of one with entries below it: before they are shown.
   std::function<void()> Click;
@@ -62,7 +62,7 @@ class FormMenus {
   FormMenus& operator=(const FormMenus&) = delete;
 
   // Throws std::out_of_range for a name that no row has.
-  MenuEntry& operator[](const std::wstring& name) const;
+  FormMenuEntry& operator[](const std::wstring& name) const;
   // Opens an entry's children at the mouse, or at the control with the focus where the keyboard asked for it, and
   // returns when they are gone. `defaultEntry` is drawn bold. What was chosen has had its Click then.
   void PopupMenu(const std::wstring& name, const std::wstring& defaultEntry = {});
@@ -77,7 +77,7 @@ class FormMenus {
   bool UserShortcut(const MenuShortcut& shortcut);
 
  private:
-  friend class MenuEntry;
+  friend class FormMenuEntry;
 
   // Lets an entry pop up as long as it lives.
   class Popping {
@@ -93,14 +93,14 @@ class FormMenus {
     const MenuEntryState* before_;
   };
 
-  void Changed(const MenuEntry& entry);
+  void Changed(const FormMenuEntry& entry);
   bool CanBeChosen(const MenuEntryState& entry) const;
   void RaiseClick(MenuEntryState& entry);
 
   Form& form_;
   MenuEntryState root_;
-  std::vector<std::unique_ptr<MenuEntry>> entries_;
-  std::unordered_map<std::wstring, MenuEntry*> byName_;
+  std::vector<std::unique_ptr<FormMenuEntry>> entries_;
+  std::unordered_map<std::wstring, FormMenuEntry*> byName_;
   const MenuEntryState* popup_ = nullptr;  // shows whether or not it is visible on the bar
 };
 

@@ -48,7 +48,15 @@ WindowHandle LocalScreen::OwnerOf(WindowHandle form) { return Form(form)->owner;
 
 bool LocalScreen::IsDefault(WindowHandle button) { return Control(button)->isDefault; }
 
-Rect LocalScreen::PlaceOf(WindowHandle, WindowHandle control) { return Control(control)->place; }
+Rect LocalScreen::PlaceOf(WindowHandle, WindowHandle control) {
+  const ShownControl* shown = Control(control);
+  Rect place = shown->place;
+  for (shown = Control(shown->parent); shown != nullptr; shown = Control(shown->parent)) {
+    place = {place.left + shown->place.left, place.top + shown->place.top, place.right + shown->place.left,
+             place.bottom + shown->place.top};
+  }
+  return place;
+}
 
 Size LocalScreen::ClientOf(WindowHandle form) { return {Form(form)->client.right, Form(form)->client.bottom}; }
 
@@ -67,6 +75,13 @@ void LocalScreen::Resize(WindowHandle form, std::int32_t width, std::int32_t hei
 }
 
 void LocalScreen::ChangeScale(WindowHandle form, std::int32_t dpi) { Form(form)->ChangeScale(dpi); }
+
+void LocalScreen::Type(WindowHandle form, const std::wstring& text) { Form(form)->Type(text); }
+
+std::pair<std::int32_t, std::int32_t> LocalScreen::SelectedIn(WindowHandle box) {
+  const TextSelection& selection = Control(box)->selection;
+  return {selection.start, selection.start + selection.length};
+}
 
 void LocalScreen::NextWindow(const std::wstring& caption, std::function<void()> script) {
   machine_.user.NextWindow(caption, [script = std::move(script)](ShownWindow&) { script(); });

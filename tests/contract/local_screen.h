@@ -27,6 +27,8 @@ class LocalScreen final : public ScreenUnderTest {
   void Close(WindowHandle form) override;
   void Resize(WindowHandle form, std::int32_t width, std::int32_t height) override;
   void ChangeScale(WindowHandle form, std::int32_t dpi) override;
+  void Type(WindowHandle form, const std::wstring& text) override;
+  std::pair<std::int32_t, std::int32_t> SelectedIn(WindowHandle box) override;
   void NextWindow(const std::wstring& caption, std::function<void()> script) override;
   std::string Complaints() override { return machine_.user.TakeComplaints(); }
 

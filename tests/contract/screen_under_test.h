@@ -3,6 +3,7 @@
 
 #include <functional>
 #include <string>
+#include <utility>
 
 #include "platform/drawing.h"
 #include "platform/twips.h"
@@ -35,6 +36,11 @@ class ScreenUnderTest {
   virtual void Close(WindowHandle form) = 0;
   virtual void Resize(WindowHandle form, std::int32_t width, std::int32_t height) = 0;
   virtual void ChangeScale(WindowHandle form, std::int32_t dpi) = 0;
+
+  // Types a text where the focus is.
+  virtual void Type(WindowHandle form, const std::wstring& text) = 0;
+  // What is selected in a text box, from the first character to the one behind the last.
+  virtual std::pair<std::int32_t, std::int32_t> SelectedIn(WindowHandle box) = 0;
 
   // Runs when a modal window of that caption is up; it must go meanwhile.
   virtual void NextWindow(const std::wstring& caption, std::function<void()> script) = 0;

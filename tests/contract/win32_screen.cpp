@@ -16,19 +16,21 @@ constexpr std::int32_t kPause = 10;  // milliseconds
 constexpr LPARAM kWithAlt = LPARAM{1} << 29;
 constexpr BYTE kDown = 0x80;
 
-// Holds the shift key down while it lives.
-class HeldShift {
+// Holds the Shift and Ctrl keys down while it lives.
+class HeldDown {
  public:
-  explicit HeldShift(bool down) {
+  explicit HeldDown(std::int32_t shift) {
     ::GetKeyboardState(before_);
     BYTE now[256];
     ::GetKeyboardState(now);
-    now[VK_SHIFT] = down ? kDown : 0;
+    const BYTE up = 0;
+    now[VK_SHIFT] = (shift & kShiftMask) != 0 ? kDown : up;
+    now[VK_CONTROL] = (shift & kCtrlMask) != 0 ? kDown : up;
     ::SetKeyboardState(now);
   }
-  ~HeldShift() { ::SetKeyboardState(before_); }
-  HeldShift(const HeldShift&) = delete;
-  HeldShift& operator=(const HeldShift&) = delete;
+  ~HeldDown() { ::SetKeyboardState(before_); }
+  HeldDown(const HeldDown&) = delete;
+  HeldDown& operator=(const HeldDown&) = delete;
 
  private:
   BYTE before_[256] = {};
@@ -90,7 +92,7 @@ void Win32Screen::Click(WindowHandle, WindowHandle button) {
 }
 
 void Win32Screen::Press(WindowHandle form, std::int32_t keyCode, std::int32_t shift) {
-  const HeldShift held((shift & kShiftMask) != 0);
+  const HeldDown held(shift);
   const HWND target = KeyTarget(ToHwnd(form));
   ::PostMessageW(target, WM_KEYDOWN, static_cast<WPARAM>(keyCode), 1);
   ::PostMessageW(target, WM_KEYUP, static_cast<WPARAM>(keyCode), 1);
@@ -117,6 +119,18 @@ void Win32Screen::ChangeScale(WindowHandle form, std::int32_t dpi) {
   ::GetWindowRect(ToHwnd(form), &rect);
   ::SendMessageW(ToHwnd(form), WM_DPICHANGED, MAKEWPARAM(dpi, dpi), reinterpret_cast<LPARAM>(&rect));
   windows_.DoEvents();
+}
+
+void Win32Screen::Type(WindowHandle form, const std::wstring& text) {
+  for (const wchar_t character : text) ::PostMessageW(KeyTarget(ToHwnd(form)), WM_CHAR, character, 1);
+  windows_.DoEvents();
+}
+
+std::pair<std::int32_t, std::int32_t> Win32Screen::SelectedIn(WindowHandle box) {
+  DWORD start = 0;
+  DWORD end = 0;
+  ::SendMessageW(ToHwnd(box), EM_GETSEL, reinterpret_cast<WPARAM>(&start), reinterpret_cast<LPARAM>(&end));
+  return {static_cast<std::int32_t>(start), static_cast<std::int32_t>(end)};
 }
 
 void Win32Screen::NextWindow(const std::wstring& caption, std::function<void()> script) {

@@ -8,6 +8,7 @@
 
 #include "platform/local/local_desktop.h"
 #include "platform/local/local_process.h"
+#include "platform/local/text_needs.h"
 #include "platform/ui_peers.h"
 
 namespace burrowmark {
@@ -49,6 +50,8 @@ class LocalControl : public KindPeer {
     shown_->PressKey = nullptr;
     shown_->UserButtonClick = nullptr;
     shown_->UserButtonMenuClick = nullptr;
+    shown_->UserType = nullptr;
+    shown_->Entered = nullptr;
     retired_ = true;
   }
   WindowHandle Window() const final { return shown_->window; }
@@ -73,6 +76,11 @@ class LocalControl : public KindPeer {
   ShownWindow& FormWindow() const { return *form_; }
   LocalProcess& Process() const { return process_; }
   bool IsRetired() const { return retired_; }
+  // Twips; `around` is what the control adds to the text, and `width` that in which it wraps, 0 if it doesn't.
+  Size NeededByText(const std::wstring& text, const Size& around, std::int32_t width = 0) const {
+    const Size needed = EstimateText(shown_->useMnemonic ? WithoutMarks(text) : text, width);
+    return {needed.width + around.width, needed.height + around.height};
+  }
   bool HasFile(const std::wstring& path) const { return process_.HasFile(path); }
 
  private:

@@ -3,60 +3,12 @@
 #include "platform/local/local_bars.h"
 #include "platform/local/local_control.h"
 #include "platform/local/shown_menus.h"
+#include "platform/local/local_container_controls.h"
+#include "platform/local/local_entry_controls.h"
+#include "platform/local/local_simple_controls.h"
 
 namespace burrowmark {
 namespace {
-
-class LocalLabel final : public LocalControl<LabelPeer, LabelState> {
- public:
-  LocalLabel(LocalProcess& process, LocalDesktop& desktop, WindowHandle parent, LabelState& label)
-      : LocalControl(process, desktop, parent, ShownKind::kLabel, label) {
-    ShowAll();
-  }
-  void CaptionChanged() override { ShowAll(); }
-  void StyleChanged() override { ShowAll(); }
-
- private:
-  void ShowAll() {
-    Shown().text = Control().Caption();
-    Shown().alignment = Control().TextAlignment();
-    Shown().useMnemonic = Control().UseMnemonic();
-  }
-};
-
-class LocalButton final : public LocalControl<ButtonPeer, ButtonState> {
- public:
-  LocalButton(LocalProcess& process, LocalDesktop& desktop, WindowHandle parent, ButtonState& button)
-      : LocalControl(process, desktop, parent, ShownKind::kButton, button) {
-    Shown().UserClick = [&button] { button.UserClick(); };
-    ShowAll();
-  }
-  void CaptionChanged() override { ShowAll(); }
-  void DefaultChanged() override { ShowAll(); }
-
- private:
-  void ShowAll() {
-    Shown().text = Control().Caption();
-    Shown().isDefault = Control().ShowsDefault();
-  }
-};
-
-class LocalAnimation final : public LocalControl<AnimationPeer, AnimationState> {
- public:
-  LocalAnimation(LocalProcess& process, LocalDesktop& desktop, WindowHandle parent, AnimationState& animation)
-      : LocalControl(process, desktop, parent, ShownKind::kAnimation, animation) {
-    ShowAll();
-  }
-  void FileChanged() override { ShowAll(); }
-  void PlayingChanged() override { ShowAll(); }
-
- private:
-  void ShowAll() {
-    const bool there = HasFile(Control().File());
-    Shown().text = there ? Control().File() : L"";
-    Shown().playing = there && Control().Playing();
-  }
-};
 
 class LocalForm final : public FormPeer {
  public:
@@ -184,6 +136,14 @@ std::unique_ptr<ToolbarPeer> LocalPeers::MakePeer(WindowHandle parent, ToolbarSt
 
 std::unique_ptr<StatusBarPeer> LocalPeers::MakePeer(WindowHandle parent, StatusBarState& bar) {
   return std::make_unique<LocalStatusBar>(process_, desktop_, parent, bar);
+}
+
+std::unique_ptr<TextBoxPeer> LocalPeers::MakePeer(WindowHandle parent, TextBoxState& box) {
+  return std::make_unique<LocalTextBox>(process_, desktop_, parent, box);
+}
+
+std::unique_ptr<PicturePeer> LocalPeers::MakePeer(WindowHandle parent, PictureState& picture) {
+  return std::make_unique<LocalPicture>(process_, desktop_, parent, picture);
 }
 
 }  // namespace burrowmark

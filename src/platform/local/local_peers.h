@@ -16,6 +16,8 @@ class LocalPeers final : public Peers {
   std::unique_ptr<LabelPeer> MakePeer(WindowHandle parent, LabelState& label) override;
   std::unique_ptr<ButtonPeer> MakePeer(WindowHandle parent, ButtonState& button) override;
   std::unique_ptr<AnimationPeer> MakePeer(WindowHandle parent, AnimationState& animation) override;
+  std::unique_ptr<TextBoxPeer> MakePeer(WindowHandle parent, TextBoxState& box) override;
+  std::unique_ptr<PicturePeer> MakePeer(WindowHandle parent, PictureState& picture) override;
 
   std::unique_ptr<ToolbarPeer> MakePeer(WindowHandle parent, ToolbarState& toolbar) override;
   std::unique_ptr<StatusBarPeer> MakePeer(WindowHandle parent, StatusBarState& bar) override;

@@ -6,21 +6,12 @@
 
 #include "platform/characters.h"
 #include "platform/key_codes.h"
+#include "platform/local/text_needs.h"
 
 namespace burrowmark {
 namespace {
 
 constexpr wchar_t kMark = L'&';
-
-// Without the marks; two of them are one that shows.
-std::wstring WithoutMarks(const std::wstring& text) {
-  std::wstring plain;
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    if (text[i] == kMark && ++i == text.size()) break;
-    plain += text[i];
-  }
-  return plain;
-}
 
 wchar_t MarkedIn(const std::wstring& text) {
   for (std::size_t i = 0; i + 1 < text.size(); ++i) {
@@ -116,6 +107,18 @@ void ShownWindow::Click(const std::wstring& button) {
 
 void ShownWindow::Press(std::int32_t keyCode, std::int32_t shift) {
   Do([this, keyCode, shift] { RunKey(keyCode, shift); });
+}
+
+void ShownWindow::Type(const std::wstring& text) {
+  const ShownControl* focused = Focused();
+  if (focused == nullptr || !focused->UserType) throw std::logic_error("the focus is where nothing can be typed");
+  Do([this, text] {
+    for (const wchar_t character : text) {
+      const ShownControl* target = Focused();
+      const auto door = target == nullptr ? nullptr : target->UserType;
+      if (door) door(std::wstring(1, character));
+    }
+  });
 }
 
 void ShownWindow::PressAlt(wchar_t character) {
@@ -316,7 +319,8 @@ void ShownWindow::RunKey(std::int32_t keyCode, std::int32_t shift) {
     case kKeyCodeTab:
       return MoveFocus((shift & kShiftMask) != 0);
     case kKeyCodeReturn:
-      return PressEnter();
+      if (const ShownControl* focused = Focused(); focused == nullptr || !focused->wantsEnter) return PressEnter();
+      break;
     case kKeyCodeEscape:
       return form_->UserEscape();
     case kKeyCodeSpace:
@@ -346,9 +350,16 @@ void ShownWindow::MoveFocus(bool backwards) {
   if (stops.empty()) return;
   const auto now = std::find(stops.begin(), stops.end(), Focused());
   const std::size_t count = stops.size();
-  if (now == stops.end()) return SetFocus(backwards ? stops.back() : stops.front());
+  if (now == stops.end()) return EnterByKey(backwards ? stops.back() : stops.front());
   const auto at = static_cast<std::size_t>(now - stops.begin());
-  SetFocus(stops[(at + (backwards ? count - 1 : 1)) % count]);
+  EnterByKey(stops[(at + (backwards ? count - 1 : 1)) % count]);
+}
+
+void ShownWindow::EnterByKey(ShownControl* control) {
+  SetFocus(control);
+  const ShownControl* focused = Focused();
+  const auto door = focused == nullptr ? nullptr : focused->Entered;
+  if (door) door();
 }
 
 void ShownWindow::RunMnemonic(wchar_t character) {
@@ -367,7 +378,7 @@ void ShownWindow::RunMnemonic(wchar_t character) {
   // A text has no use for the focus itself: it goes to what the text stands in front of.
   const auto next = std::find_if(marked, controls.end(),
                                  [this](const auto& control) { return control->tabStop && CanBeUsed(*control); });
-  if (next != controls.end()) SetFocus(next->get());
+  if (next != controls.end()) EnterByKey(next->get());
 }
 
 // --- focus

@@ -32,7 +32,7 @@ class WindowStack {
   ~WindowStack() = default;
 };
 
-enum class ShownKind : std::uint8_t { kLabel, kButton, kAnimation, kToolbar, kStatusBar };
+enum class ShownKind : std::uint8_t { kLabel, kButton, kAnimation, kToolbar, kStatusBar, kTextBox, kPicture };
 
 struct ShownControl {
   ShownKind kind = ShownKind::kLabel;
@@ -48,6 +48,14 @@ struct ShownControl {
   bool playing = false;     // an animation whose file is there
   Alignment alignment = Alignment::kLeft;
 
+  TextSelection selection;     // of a text box
+  bool multiLine = false;      // likewise
+  bool readOnly = false;       // likewise
+  bool wantsEnter = false;     // has a use of its own for the Enter key
+  std::int32_t icon = 0;       // of a picture, by its number
+  std::int32_t backColor = 0;  // likewise, a system colour
+  bool border = false;         // likewise
+
   WindowHandle parent = 0;  // the form, or the control that it is in
 
   std::vector<ToolbarButtonState> buttons;  // of a toolbar
@@ -61,6 +69,8 @@ struct ShownControl {
   std::function<bool(std::int32_t keyCode, std::int32_t shift)> UserKeyDown;
   std::function<void()> UserClick;
   std::function<void(std::int32_t keyCode, std::int32_t shift)> PressKey;  // what the control itself does with a key
+  std::function<void(const std::wstring&)> UserType;
+  std::function<void()> Entered;  // the Tab key or a mnemonic brought the focus
 };
 
 // Gestures reach the program by its message queue, and run at once unless the program is busy. One that can't be made
@@ -107,6 +117,8 @@ class ShownWindow {
   // What the person does.
   void Click(const std::wstring& button);
   void Press(std::int32_t keyCode, std::int32_t shift = 0);
+  // Types a text where the focus is.
+  void Type(const std::wstring& text);
   // Alt and a character.
   void PressAlt(wchar_t character);
   void Close();
@@ -149,6 +161,7 @@ class ShownWindow {
   void RunKey(std::int32_t keyCode, std::int32_t shift);
   void RunMnemonic(wchar_t character);
   void MoveFocus(bool backwards);
+  void EnterByKey(ShownControl* control);
   void PressEnter();
   Rect PlacedRect() const;
   void FitClient();

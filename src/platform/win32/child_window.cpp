@@ -60,6 +60,19 @@ void ChildWindow::FollowScale() {
   Rescaled();
 }
 
+Size ChildWindow::NeededByText(const std::wstring& text, UINT format, SIZE around) const {
+  const HDC context = ::GetDC(window_);
+  const HGDIOBJ before = ::SelectObject(context, form_.Font());
+  RECT rect = {};
+  ::GetClientRect(window_, &rect);
+  ::DrawTextW(context, text.c_str(), static_cast<int>(text.size()), &rect, format | DT_CALCRECT);
+  ::SelectObject(context, before);
+  ::ReleaseDC(window_, context);
+  const int width = rect.right - rect.left + Scaled(around.cx, Dpi(), kDesignDpi);
+  const int height = rect.bottom - rect.top + Scaled(around.cy, Dpi(), kDesignDpi);
+  return {ToTwips(width, Dpi()), ToTwips(height, Dpi())};
+}
+
 LRESULT CALLBACK ChildWindow::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
                                         DWORD_PTR data) {
   auto* self = reinterpret_cast<ChildWindow*>(data);

@@ -50,6 +50,9 @@ class ChildWindow {
   virtual void Rescaled();
   FormWindow& TheForm() const { return form_; }
   std::int32_t Dpi() const { return form_.Dpi(); }
+  // Twips that a text needs in the control's font, drawn as DrawText does with `format`; `around` is what the control
+  // adds to that, in pixels of the design.
+  Size NeededByText(const std::wstring& text, UINT format, SIZE around) const;
 
  private:
   static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,

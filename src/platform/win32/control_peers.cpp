@@ -5,6 +5,8 @@
 namespace burrowmark {
 namespace {
 
+// Pixels of the design to both sides of a button's text, and above and below it.
+constexpr SIZE kAroundButtonText{10, 6};
 constexpr DWORD kLabelStyles = SS_TYPEMASK | SS_NOPREFIX;
 
 DWORD StyleOf(const LabelState& label) {
@@ -33,10 +35,17 @@ void Win32Label::StyleChanged() {
   ::InvalidateRect(Handle(), nullptr, TRUE);
 }
 
+Size Win32Label::NeededSize() const {
+  const UINT prefix = label_.UseMnemonic() ? 0 : DT_NOPREFIX;
+  return NeededByText(label_.Caption(), DT_WORDBREAK | DT_EXPANDTABS | prefix, {});
+}
+
 Win32Button::Win32Button(const ChildPlace& place, ButtonState& button)
     : ChildPeer(WC_BUTTONW, button.Caption(), StyleOf(button), place, button), button_(button) {}
 
 void Win32Button::DefaultChanged() { ::SendMessageW(Handle(), BM_SETSTYLE, StyleOf(button_), TRUE); }
+
+Size Win32Button::NeededSize() const { return NeededByText(button_.Caption(), DT_SINGLELINE, kAroundButtonText); }
 
 void Win32Button::Command(UINT notification) {
   if (notification == BN_CLICKED) button_.UserClick();

@@ -10,6 +10,7 @@ class Win32Label final : public ChildPeer<LabelPeer> {
   Win32Label(const ChildPlace& place, LabelState& label);
   void CaptionChanged() override { SetText(label_.Caption()); }
   void StyleChanged() override;
+  Size NeededSize() const override;
 
  private:
   LabelState& label_;
@@ -20,6 +21,7 @@ class Win32Button final : public ChildPeer<ButtonPeer> {
   Win32Button(const ChildPlace& place, ButtonState& button);
   void CaptionChanged() override { SetText(button_.Caption()); }
   void DefaultChanged() override;
+  Size NeededSize() const override;
 
  private:
   void Command(UINT notification) override;

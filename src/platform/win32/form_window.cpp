@@ -459,7 +459,10 @@ void FormWindow::FocusSomething() {
 void FormWindow::MoveToControl(WPARAM wParam, LPARAM lParam) {
   const HWND next =
       LOWORD(lParam) != 0 ? reinterpret_cast<HWND>(wParam) : ::GetNextDlgTabItem(window_, ::GetFocus(), wParam != 0);
-  if (next != nullptr) ::SetFocus(next);
+  if (next == nullptr) return;
+  ::SetFocus(next);
+  // A text box is left with all of its text selected, as where the Tab key comes to it.
+  if ((::SendMessageW(next, WM_GETDLGCODE, 0, 0) & DLGC_HASSETSEL) != 0) ::SendMessageW(next, EM_SETSEL, 0, -1);
 }
 
 }  // namespace burrowmark

@@ -7,6 +7,7 @@
 #include "platform/win32/bar_peers.h"
 #include "platform/win32/control_peers.h"
 #include "platform/win32/handles.h"
+#include "platform/win32/text_box_peer.h"
 
 namespace burrowmark {
 namespace {
@@ -58,6 +59,14 @@ std::unique_ptr<ToolbarPeer> Win32Peers::MakePeer(WindowHandle parent, ToolbarSt
 
 std::unique_ptr<StatusBarPeer> Win32Peers::MakePeer(WindowHandle parent, StatusBarState& bar) {
   return std::make_unique<Win32StatusBar>(PlaceIn(parent), bar);
+}
+
+std::unique_ptr<TextBoxPeer> Win32Peers::MakePeer(WindowHandle parent, TextBoxState& box) {
+  return std::make_unique<Win32TextBox>(PlaceIn(parent), box);
+}
+
+std::unique_ptr<PicturePeer> Win32Peers::MakePeer(WindowHandle parent, PictureState& picture) {
+  return std::make_unique<Win32Picture>(PlaceIn(parent), picture);
 }
 
 }  // namespace burrowmark

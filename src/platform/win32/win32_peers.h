@@ -7,6 +7,7 @@
 
 #include "platform/ui_peers.h"
 #include "platform/win32/child_window.h"
+#include "platform/win32/container_peers.h"
 #include "platform/win32/control_fonts.h"
 #include "platform/win32/form_window.h"
 #include "platform/win32/screen_dpi.h"
@@ -28,6 +29,8 @@ class Win32Peers final : public Peers {
   std::unique_ptr<LabelPeer> MakePeer(WindowHandle parent, LabelState& label) override;
   std::unique_ptr<ButtonPeer> MakePeer(WindowHandle parent, ButtonState& button) override;
   std::unique_ptr<AnimationPeer> MakePeer(WindowHandle parent, AnimationState& animation) override;
+  std::unique_ptr<TextBoxPeer> MakePeer(WindowHandle parent, TextBoxState& box) override;
+  std::unique_ptr<PicturePeer> MakePeer(WindowHandle parent, PictureState& picture) override;
 
   std::unique_ptr<ToolbarPeer> MakePeer(WindowHandle parent, ToolbarState& toolbar) override;
   std::unique_ptr<StatusBarPeer> MakePeer(WindowHandle parent, StatusBarState& bar) override;
@@ -38,6 +41,7 @@ class Win32Peers final : public Peers {
   const ScreenDpi& dpi_;
   ControlFonts fonts_;
   WindowClass class_;
+  PictureClass pictures_;
   std::map<HWND, FormWindow*> forms_;
 };
 

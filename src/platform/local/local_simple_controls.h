@@ -1,0 +1,62 @@
+// Labels, buttons and their like on the local machine.
+#pragma once
+
+#include "platform/local/local_control.h"
+
+namespace burrowmark {
+
+class LocalLabel final : public LocalControl<LabelPeer, LabelState> {
+ public:
+  LocalLabel(LocalProcess& process, LocalDesktop& desktop, WindowHandle parent, LabelState& label)
+      : LocalControl(process, desktop, parent, ShownKind::kLabel, label) {
+    ShowAll();
+  }
+  void CaptionChanged() override { ShowAll(); }
+  void StyleChanged() override { ShowAll(); }
+  Size NeededSize() const override { return NeededByText(Control().Caption(), {}, Control().Place().width); }
+
+ private:
+  void ShowAll() {
+    Shown().text = Control().Caption();
+    Shown().alignment = Control().TextAlignment();
+    Shown().useMnemonic = Control().UseMnemonic();
+  }
+};
+
+class LocalButton final : public LocalControl<ButtonPeer, ButtonState> {
+ public:
+  LocalButton(LocalProcess& process, LocalDesktop& desktop, WindowHandle parent, ButtonState& button)
+      : LocalControl(process, desktop, parent, ShownKind::kButton, button) {
+    Shown().UserClick = [&button] { button.UserClick(); };
+    ShowAll();
+  }
+  void CaptionChanged() override { ShowAll(); }
+  void DefaultChanged() override { ShowAll(); }
+  Size NeededSize() const override { return NeededByText(Control().Caption(), {150, 90}); }
+
+ private:
+  void ShowAll() {
+    Shown().text = Control().Caption();
+    Shown().isDefault = Control().ShowsDefault();
+  }
+};
+
+class LocalAnimation final : public LocalControl<AnimationPeer, AnimationState> {
+ public:
+  LocalAnimation(LocalProcess& process, LocalDesktop& desktop, WindowHandle parent, AnimationState& animation)
+      : LocalControl(process, desktop, parent, ShownKind::kAnimation, animation) {
+    Shown().useMnemonic = false;
+    ShowAll();
+  }
+  void FileChanged() override { ShowAll(); }
+  void PlayingChanged() override { ShowAll(); }
+
+ private:
+  void ShowAll() {
+    const bool there = HasFile(Control().File());
+    Shown().text = there ? Control().File() : L"";
+    Shown().playing = there && Control().Playing();
+  }
+};
+
+}  // namespace burrowmark
