@@ -1,3 +1,7 @@
+#include <algorithm>
+#include <iterator>
+#include <limits>
+
 #include "core/form_state.h"
 #include "organize/frm_organize.h"
 
