@@ -9,6 +9,14 @@ inline constexpr std::int32_t kKeyCodeTab = 9;
 inline constexpr std::int32_t kKeyCodeReturn = 13;
 inline constexpr std::int32_t kKeyCodeEscape = 27;
 inline constexpr std::int32_t kKeyCodeSpace = 32;
+inline constexpr std::int32_t kKeyCodeEnd = 35;
+inline constexpr std::int32_t kKeyCodeHome = 36;
+inline constexpr std::int32_t kKeyCodeLeft = 37;
+inline constexpr std::int32_t kKeyCodeUp = 38;
+inline constexpr std::int32_t kKeyCodeRight = 39;
+inline constexpr std::int32_t kKeyCodeDown = 40;
+inline constexpr std::int32_t kKeyCodeApps = 93;  // opens a context menu
+inline constexpr std::int32_t kKeyCodeF10 = 121;
 
 inline constexpr std::int32_t kShiftMask = 1;
 inline constexpr std::int32_t kCtrlMask = 2;

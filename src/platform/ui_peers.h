@@ -95,6 +95,8 @@ class Peers {
   virtual std::unique_ptr<LabelPeer> MakePeer(WindowHandle parent, LabelState& label) = 0;
   virtual std::unique_ptr<ButtonPeer> MakePeer(WindowHandle parent, ButtonState& button) = 0;
   virtual std::unique_ptr<AnimationPeer> MakePeer(WindowHandle parent, AnimationState& animation) = 0;
+  virtual std::unique_ptr<ListViewPeer> MakePeer(WindowHandle parent, ListViewState& list) = 0;
+  virtual std::unique_ptr<TreeViewPeer> MakePeer(WindowHandle parent, TreeViewState& tree) = 0;
 };
 
 }  // namespace burrowmark

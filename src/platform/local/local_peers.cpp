@@ -1,6 +1,8 @@
 #include "platform/local/local_peers.h"
 
 #include "platform/local/local_control.h"
+#include "platform/local/local_list_view.h"
+#include "platform/local/local_tree_view.h"
 
 namespace burrowmark {
 namespace {
@@ -158,6 +160,14 @@ std::unique_ptr<ButtonPeer> LocalPeers::MakePeer(WindowHandle parent, ButtonStat
 
 std::unique_ptr<AnimationPeer> LocalPeers::MakePeer(WindowHandle parent, AnimationState& animation) {
   return std::make_unique<LocalAnimation>(process_, desktop_, parent, animation);
+}
+
+std::unique_ptr<ListViewPeer> LocalPeers::MakePeer(WindowHandle parent, ListViewState& list) {
+  return std::make_unique<LocalListView>(process_, desktop_, parent, list);
+}
+
+std::unique_ptr<TreeViewPeer> LocalPeers::MakePeer(WindowHandle parent, TreeViewState& tree) {
+  return std::make_unique<LocalTreeView>(process_, desktop_, parent, tree);
 }
 
 }  // namespace burrowmark

@@ -18,6 +18,8 @@ class LocalProcess {
   virtual bool HasFile(const std::wstring& path) const = 0;
   // Runs something that the person did, by the message queue; at once unless the program is busy.
   virtual void RunGesture(std::function<void()> gesture) = 0;
+  // Runs something from the message queue.
+  virtual void Post(std::function<void()> work) = 0;
 
  protected:
   LocalProcess() = default;

@@ -6,6 +6,8 @@
 
 #include "platform/win32/control_peers.h"
 #include "platform/win32/handles.h"
+#include "platform/win32/list_view_peer.h"
+#include "platform/win32/tree_view_peer.h"
 
 namespace burrowmark {
 namespace {
@@ -19,7 +21,7 @@ Win32Peers::Win32Peers(const ScreenDpi& dpi)
       class_(FormWindow::kClassName, FormWindow::Procedure, BackgroundOfForms(), ::LoadCursorW(nullptr, IDC_ARROW)) {
   INITCOMMONCONTROLSEX classes = {};
   classes.dwSize = sizeof(classes);
-  classes.dwICC = ICC_STANDARD_CLASSES | ICC_ANIMATE_CLASS;
+  classes.dwICC = ICC_STANDARD_CLASSES | ICC_ANIMATE_CLASS | ICC_LISTVIEW_CLASSES | ICC_TREEVIEW_CLASSES;
   ::InitCommonControlsEx(&classes);
 }
 
@@ -49,6 +51,14 @@ std::unique_ptr<ButtonPeer> Win32Peers::MakePeer(WindowHandle parent, ButtonStat
 
 std::unique_ptr<AnimationPeer> Win32Peers::MakePeer(WindowHandle parent, AnimationState& animation) {
   return std::make_unique<Win32Animation>(PlaceIn(parent), animation);
+}
+
+std::unique_ptr<ListViewPeer> Win32Peers::MakePeer(WindowHandle parent, ListViewState& list) {
+  return std::make_unique<Win32ListView>(PlaceIn(parent), list);
+}
+
+std::unique_ptr<TreeViewPeer> Win32Peers::MakePeer(WindowHandle parent, TreeViewState& tree) {
+  return std::make_unique<Win32TreeView>(PlaceIn(parent), tree);
 }
 
 }  // namespace burrowmark

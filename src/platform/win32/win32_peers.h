@@ -28,6 +28,8 @@ class Win32Peers final : public Peers {
   std::unique_ptr<LabelPeer> MakePeer(WindowHandle parent, LabelState& label) override;
   std::unique_ptr<ButtonPeer> MakePeer(WindowHandle parent, ButtonState& button) override;
   std::unique_ptr<AnimationPeer> MakePeer(WindowHandle parent, AnimationState& animation) override;
+  std::unique_ptr<ListViewPeer> MakePeer(WindowHandle parent, ListViewState& list) override;
+  std::unique_ptr<TreeViewPeer> MakePeer(WindowHandle parent, TreeViewState& tree) override;
 
  private:
   ChildPlace PlaceIn(WindowHandle parent) const;
