@@ -323,4 +323,9 @@ bool EqualIgnoringCase(std::wstring_view left, std::wstring_view right) {
                     [](wchar_t a, wchar_t b) { return a == b || UpperCase(a) == UpperCase(b); });
 }
 
+bool LessIgnoringCase(std::wstring_view left, std::wstring_view right) {
+  return std::lexicographical_compare(left.begin(), left.end(), right.begin(), right.end(),
+                                      [](wchar_t a, wchar_t b) { return a != b && UpperCase(a) < UpperCase(b); });
+}
+
 }  // namespace burrowmark

@@ -19,5 +19,7 @@ std::wstring FromUtf8(std::string_view bytes);
 
 // True if the two texts are equal without regard to case.
 bool EqualIgnoringCase(std::wstring_view left, std::wstring_view right);
+// True if the left text stands ahead of the right one, by their characters in upper case.
+bool LessIgnoringCase(std::wstring_view left, std::wstring_view right);
 
 }  // namespace burrowmark

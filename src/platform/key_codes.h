@@ -20,9 +20,11 @@ inline constexpr std::int32_t kKeyCodeRight = 39;
 inline constexpr std::int32_t kKeyCodeDown = 40;
 inline constexpr std::int32_t kKeyCodeInsert = 45;
 inline constexpr std::int32_t kKeyCodeDelete = 46;
+inline constexpr std::int32_t kKeyCodeApps = 93;  // opens a context menu
 inline constexpr std::int32_t kKeyCodeF2 = 113;
 inline constexpr std::int32_t kKeyCodeF5 = 116;
 inline constexpr std::int32_t kKeyCodeF6 = 117;
+inline constexpr std::int32_t kKeyCodeF10 = 121;
 
 inline constexpr std::int32_t kShiftMask = 1;
 inline constexpr std::int32_t kCtrlMask = 2;

@@ -119,6 +119,8 @@ class Peers {
   virtual std::unique_ptr<StatusBarPeer> MakePeer(WindowHandle parent, StatusBarState& bar) = 0;
   virtual std::unique_ptr<TextBoxPeer> MakePeer(WindowHandle parent, TextBoxState& box) = 0;
   virtual std::unique_ptr<PicturePeer> MakePeer(WindowHandle parent, PictureState& picture) = 0;
+  virtual std::unique_ptr<ListViewPeer> MakePeer(WindowHandle parent, ListViewState& list) = 0;
+  virtual std::unique_ptr<TreeViewPeer> MakePeer(WindowHandle parent, TreeViewState& tree) = 0;
 };
 
 }  // namespace burrowmark

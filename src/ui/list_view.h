@@ -151,6 +151,16 @@ class ListView final : public ControlOf<ListViewState, ListViewPeer> {
  private:
   friend class ListItem;
 
+  static std::int32_t RowOf(const ListItem* item) { return item == nullptr ? -1 : item->row_; }
+  ListItem* ItemAt(std::int32_t row) const;
+  // The item shall stand behind the other one.
+  bool IsBehind(const ListItem& item, const ListItem& other) const;
+  void SortNow();
+  void Renumber(std::size_t from);
+  void DeselectOthers(const ListItem& item);
+  void Tell(void (ListViewPeer::*change)(std::int32_t), std::int32_t row);
+  using ControlOf::Tell;
+
   std::vector<std::unique_ptr<ListItem>> items_;
   std::unordered_map<std::wstring, ListItem*> byKey_;
   std::vector<ListColumn> columns_;

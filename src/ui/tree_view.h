@@ -118,6 +118,18 @@ class TreeView final : public ControlOf<TreeViewState, TreeViewPeer> {
  private:
   friend class TreeNode;
 
+  static TreeNode& Node(TreeNodeState& state) { return static_cast<TreeNode&>(state); }
+  static TreeNode* Node(TreeNodeState* state) { return static_cast<TreeNode*>(state); }
+  static bool IsIn(const TreeNodeState* node, const TreeNodeState& top);
+  std::vector<TreeNodeState*>& SiblingsOf(const TreeNodeState& node);
+  void Place(TreeNode& node, TreeNode* relative, TreeRelation relation);
+  TreeNode* NextSelection(const TreeNode& removed);
+  void Forget(TreeNode& node);
+  void Open(TreeNode& node, bool expanded);
+  void OpenAbove(const TreeNode& node);
+  void Tell(void (TreeViewPeer::*change)(TreeNodeState&), TreeNode& node);
+  using ControlOf::Tell;
+
   std::unordered_map<std::wstring, std::unique_ptr<TreeNode>> byKey_;
   std::vector<TreeNodeState*> roots_;
   TreeNode* selected_ = nullptr;

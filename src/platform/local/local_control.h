@@ -52,6 +52,10 @@ class LocalControl : public KindPeer {
     shown_->UserButtonMenuClick = nullptr;
     shown_->UserType = nullptr;
     shown_->Entered = nullptr;
+    shown_->labelEdit.reset();
+    shown_->EndLabelEdit = nullptr;
+    if (shown_->list) shown_->list->Retire();
+    if (shown_->tree) shown_->tree->Retire();
     retired_ = true;
   }
   WindowHandle Window() const final { return shown_->window; }

@@ -1,11 +1,13 @@
 #include "platform/local/local_peers.h"
 
 #include "platform/local/local_bars.h"
-#include "platform/local/local_control.h"
-#include "platform/local/shown_menus.h"
 #include "platform/local/local_container_controls.h"
+#include "platform/local/local_control.h"
 #include "platform/local/local_entry_controls.h"
+#include "platform/local/local_list_view.h"
 #include "platform/local/local_simple_controls.h"
+#include "platform/local/local_tree_view.h"
+#include "platform/local/shown_menus.h"
 
 namespace burrowmark {
 namespace {
@@ -144,6 +146,14 @@ std::unique_ptr<TextBoxPeer> LocalPeers::MakePeer(WindowHandle parent, TextBoxSt
 
 std::unique_ptr<PicturePeer> LocalPeers::MakePeer(WindowHandle parent, PictureState& picture) {
   return std::make_unique<LocalPicture>(process_, desktop_, parent, picture);
+}
+
+std::unique_ptr<ListViewPeer> LocalPeers::MakePeer(WindowHandle parent, ListViewState& list) {
+  return std::make_unique<LocalListView>(process_, desktop_, parent, list);
+}
+
+std::unique_ptr<TreeViewPeer> LocalPeers::MakePeer(WindowHandle parent, TreeViewState& tree) {
+  return std::make_unique<LocalTreeView>(process_, desktop_, parent, tree);
 }
 
 }  // namespace burrowmark

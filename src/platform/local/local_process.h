@@ -22,6 +22,8 @@ class LocalProcess {
   virtual void RunGesture(std::function<void()> gesture) = 0;
   // Shows a menu that popped up to the person, until they are done with it.
   virtual void MeetPopup(ShownPopup& popup) = 0;
+  // Runs something from the message queue.
+  virtual void Post(std::function<void()> work) = 0;
 
  protected:
   LocalProcess() = default;

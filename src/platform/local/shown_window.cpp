@@ -310,6 +310,7 @@ void ShownWindow::Report() {
 // --- keys
 
 void ShownWindow::RunKey(std::int32_t keyCode, std::int32_t shift) {
+  if (ShownControl* edited = Edited()) return RunEditKey(*edited, keyCode);
   if (form_->UserKey(keyCode, shift)) return;
   if (const ShownControl* focused = Focused(); focused != nullptr && focused->UserKeyDown) {
     const auto door = focused->UserKeyDown;
@@ -386,6 +387,7 @@ void ShownWindow::RunMnemonic(wchar_t character) {
 void ShownWindow::SetFocus(ShownControl* control) {
   ShownControl* before = Focused();
   if (before == control) return;
+  if (before != nullptr && before->labelEdit) RunEditKey(*before, kKeyCodeReturn);
   if (before != nullptr) {
     before->focused = false;
     if (const auto door = before->UserFocus) door(false);

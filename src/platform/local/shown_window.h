@@ -4,10 +4,12 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "platform/local/shown_menus.h"
+#include "platform/local/shown_views.h"
 #include "platform/ui_peers.h"
 
 namespace burrowmark {
@@ -32,7 +34,17 @@ class WindowStack {
   ~WindowStack() = default;
 };
 
-enum class ShownKind : std::uint8_t { kLabel, kButton, kAnimation, kToolbar, kStatusBar, kTextBox, kPicture };
+enum class ShownKind : std::uint8_t {
+  kLabel,
+  kButton,
+  kAnimation,
+  kToolbar,
+  kStatusBar,
+  kTextBox,
+  kPicture,
+  kListView,
+  kTreeView,
+};
 
 struct ShownControl {
   ShownKind kind = ShownKind::kLabel;
@@ -71,6 +83,12 @@ struct ShownControl {
   std::function<void(std::int32_t keyCode, std::int32_t shift)> PressKey;  // what the control itself does with a key
   std::function<void(const std::wstring&)> UserType;
   std::function<void()> Entered;  // the Tab key or a mnemonic brought the focus
+
+  // Lists and trees.
+  std::shared_ptr<ShownList> list;
+  std::shared_ptr<ShownTree> tree;
+  std::optional<std::wstring> labelEdit;                                      // the text in an open label edit
+  std::function<void(const std::optional<std::wstring>& text)> EndLabelEdit;  // none: given up
 };
 
 // Gestures reach the program by its message queue, and run at once unless the program is busy. One that can't be made
@@ -109,6 +127,8 @@ class ShownWindow {
   ShownControl* Find(const std::wstring& text) const;
   ShownControl* WithWindow(WindowHandle handle) const;
   ShownControl* Focused() const;
+  // The control whose label is being edited; mostly none.
+  ShownControl* Edited() const;
   // The form and all that it is in are visible and enabled.
   bool CanBeUsed(const ShownControl& control) const;
   // Texts of the visible labels, one below the other.
@@ -134,6 +154,24 @@ class ShownWindow {
   std::vector<std::wstring> PanelTexts(WindowHandle statusBar) const;
   // The mouse at a point of a control, or of the client area for 0; in twips from its corner.
   void Mouse(WindowHandle control, MouseAction action, const MouseEvent& event);
+
+  // In a list; rows and columns count from 0, and a row of -1 is the empty space below them.
+  void ClickRow(WindowHandle list, std::int32_t row, std::int32_t button = kLeftButton, std::int32_t shift = 0);
+  void DoubleClickRow(WindowHandle list, std::int32_t row);
+  void CheckRow(WindowHandle list, std::int32_t row);
+  void ClickColumn(WindowHandle list, std::int32_t column);
+  // To a width in twips.
+  void DragColumn(WindowHandle list, std::int32_t column, std::int32_t width);
+  // In a tree; the node is the first with that text that no closed node hides, none for the empty space below them.
+  void ClickNode(WindowHandle tree, const std::wstring& text, std::int32_t button = kLeftButton,
+                 std::int32_t shift = 0);
+  void DoubleClickNode(WindowHandle tree, const std::wstring& text);
+  void CheckNode(WindowHandle tree, const std::wstring& text);
+  // The button that opens or closes it.
+  void ToggleNode(WindowHandle tree, const std::wstring& text);
+  // Into the open label edit, instead of what is there. Enter takes it, Esc gives it up.
+  void TypeLabel(const std::wstring& text);
+
   void MoveTo(std::int32_t left, std::int32_t top);
   void Resize(std::int32_t width, std::int32_t height);
   void SetState(FormWindowState newState);
@@ -158,6 +196,12 @@ class ShownWindow {
   std::int32_t FrameHeight() const { return kFrame.top + kFrame.bottom + (hasBar ? kBarHeight : 0); }
   void Do(const std::function<void()>& gesture);
   void ClickOn(const ShownControl* control) const;
+  ShownControl& Get(WindowHandle control) const;
+  ShownControl& GetList(WindowHandle control) const;
+  ShownControl& GetTree(WindowHandle control) const;
+  void Press(WindowHandle control, const MouseEvent& event);
+  void PressTwice(WindowHandle control, const MouseEvent& event);
+  void RunEditKey(ShownControl& edited, std::int32_t keyCode);
   void RunKey(std::int32_t keyCode, std::int32_t shift);
   void RunMnemonic(wchar_t character);
   void MoveFocus(bool backwards);

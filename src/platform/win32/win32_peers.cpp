@@ -7,7 +7,9 @@
 #include "platform/win32/bar_peers.h"
 #include "platform/win32/control_peers.h"
 #include "platform/win32/handles.h"
+#include "platform/win32/list_view_peer.h"
 #include "platform/win32/text_box_peer.h"
+#include "platform/win32/tree_view_peer.h"
 
 namespace burrowmark {
 namespace {
@@ -21,7 +23,8 @@ Win32Peers::Win32Peers(const ScreenDpi& dpi)
       class_(FormWindow::kClassName, FormWindow::Procedure, BackgroundOfForms(), ::LoadCursorW(nullptr, IDC_ARROW)) {
   INITCOMMONCONTROLSEX classes = {};
   classes.dwSize = sizeof(classes);
-  classes.dwICC = ICC_STANDARD_CLASSES | ICC_ANIMATE_CLASS | ICC_BAR_CLASSES;
+  classes.dwICC =
+      ICC_STANDARD_CLASSES | ICC_ANIMATE_CLASS | ICC_BAR_CLASSES | ICC_LISTVIEW_CLASSES | ICC_TREEVIEW_CLASSES;
   ::InitCommonControlsEx(&classes);
 }
 
@@ -67,6 +70,14 @@ std::unique_ptr<TextBoxPeer> Win32Peers::MakePeer(WindowHandle parent, TextBoxSt
 
 std::unique_ptr<PicturePeer> Win32Peers::MakePeer(WindowHandle parent, PictureState& picture) {
   return std::make_unique<Win32Picture>(PlaceIn(parent), picture);
+}
+
+std::unique_ptr<ListViewPeer> Win32Peers::MakePeer(WindowHandle parent, ListViewState& list) {
+  return std::make_unique<Win32ListView>(PlaceIn(parent), list);
+}
+
+std::unique_ptr<TreeViewPeer> Win32Peers::MakePeer(WindowHandle parent, TreeViewState& tree) {
+  return std::make_unique<Win32TreeView>(PlaceIn(parent), tree);
 }
 
 }  // namespace burrowmark

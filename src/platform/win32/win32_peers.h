@@ -34,6 +34,8 @@ class Win32Peers final : public Peers {
 
   std::unique_ptr<ToolbarPeer> MakePeer(WindowHandle parent, ToolbarState& toolbar) override;
   std::unique_ptr<StatusBarPeer> MakePeer(WindowHandle parent, StatusBarState& bar) override;
+  std::unique_ptr<ListViewPeer> MakePeer(WindowHandle parent, ListViewState& list) override;
+  std::unique_ptr<TreeViewPeer> MakePeer(WindowHandle parent, TreeViewState& tree) override;
 
  private:
   ChildPlace PlaceIn(WindowHandle parent) const;
