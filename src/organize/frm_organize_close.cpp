@@ -15,7 +15,7 @@ namespace {
 
 constexpr wchar_t kTitle[] = L"Burrowmark";
 constexpr std::size_t kRefreshAtClosing = 6;  // ADVC
-constexpr std::size_t kSystemFolders = 2;     // AC
+constexpr std::size_t kSystemFolders = 0;     // AC
 
 }  // namespace
 
@@ -86,8 +86,8 @@ bool frmOrganize::SaveBeforeOpening() {
 }
 
 std::int32_t frmOrganize::AskToSave() {
-  const std::wstring question = L"Do you want to save the changes you made to " +
-                                GetFileName(app_.CurrentConfigFile) + L"?";
+  const std::wstring question =
+      L"Do you want to save the changes you made to " + GetFileName(app_.CurrentConfigFile) + L"?";
   return app_.platform.dialogs.MessageBoxA(Window(), question, kTitle, kBoxYesNoCancel | kBoxWarning);
 }
 

@@ -16,7 +16,7 @@ constexpr wchar_t kTitle[] = L"Burrowmark";
 constexpr wchar_t kWebSite[] = L"http://www.kestrelan.example";
 constexpr std::int32_t kGroupImage = 2;
 constexpr std::int32_t kDoublePaneImage = 4;
-constexpr std::size_t kSystemFolders = 2;  // AC
+constexpr std::size_t kSystemFolders = 0;  // AC
 constexpr std::int32_t kHelpContents = 1;
 constexpr std::int32_t kHelpIndex = 2;
 
@@ -62,8 +62,8 @@ void frmOrganize::SetMenuState(MenuKind Kind, const std::wstring& Key, std::int3
       menus_[L"mnuPopupPaste"].SetEnabled(pastes);
       SetPopupState(Key, Image, Expanded);
       enable(PopupEnabling());
-      return menus_.PopupMenu(L"mnuPopup", menus_[L"mnuPopupWindowsExplorer"].Visible() ? L"mnuPopupWindowsExplorer"
-                                                                                       : L"mnuPopupExplore");
+      return menus_.PopupMenu(
+          L"mnuPopup", menus_[L"mnuPopupWindowsExplorer"].Visible() ? L"mnuPopupWindowsExplorer" : L"mnuPopupExplore");
     case MenuKind::kPopup2:
       menus_[L"mnuPopup2Paste"].SetEnabled(pastes);
       return menus_.PopupMenu(L"mnuPopup2");

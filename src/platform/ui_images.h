@@ -19,7 +19,6 @@ struct ImageList {
     return image > 0 && static_cast<std::size_t>(image) <= icons.size() ? icons[static_cast<std::size_t>(image) - 1]
                                                                         : 0;
   }
-  friend bool operator==(const ImageList&, const ImageList&) = default;
 };
 
 }  // namespace burrowmark

@@ -28,6 +28,7 @@ void AddNodes(const ShownNode& node, int level, std::wstring& texts) {
 
 OrganizeScene::OrganizeScene() : form(app, Recording(heard)) {
   app.ConfigFile = app.CurrentConfigFile = L"C:\\default.bwmk";
+  app.AC[0] = false;  // without System Folders
   AddPersonal();
   AddGroup(L"A", L"Alpha");
   AddShortcut(L"I", L"Inner", L"C:\\Inner", L"A");
@@ -57,14 +58,15 @@ ShownControl& OrganizeScene::Control(ShownKind kind) {
 
 std::wstring OrganizeScene::Nodes() {
   std::wstring texts;
-  for (const auto& root : Control(ShownKind::kTreeView).tree->roots) AddNodes(*root, 0, texts);
+  for (const auto& root : Control(ShownKind::kTreeView).tree->top.children) AddNodes(*root, 0, texts);
   return texts;
 }
 
 std::wstring OrganizeScene::Column(std::size_t column) {
   std::wstring texts;
-  for (const ListItemState& row : Control(ShownKind::kListView).list->rows) {
-    texts += (texts.empty() ? L"" : L"|") + (column < row.texts.size() ? row.texts[column] : L"");
+  const auto& rows = Control(ShownKind::kListView).list->rows;
+  for (std::size_t row = 0; row < rows.size(); ++row) {
+    texts += (row == 0 ? L"" : L"|") + (column < rows[row].texts.size() ? rows[row].texts[column] : L"");
   }
   return texts;
 }
