@@ -30,8 +30,9 @@ class HeldMasks {
     ::GetKeyboardState(before_);
     BYTE now[256];
     ::GetKeyboardState(now);
-    now[VK_SHIFT] = (shift & kShiftMask) != 0 ? kDown : 0;
-    now[VK_CONTROL] = (shift & kCtrlMask) != 0 ? kDown : 0;
+    const auto held = [shift](std::int32_t mask) { return (shift & mask) != 0 ? kDown : BYTE{0}; };
+    now[VK_SHIFT] = held(kShiftMask);
+    now[VK_CONTROL] = held(kCtrlMask);
     ::SetKeyboardState(now);
   }
   ~HeldMasks() { ::SetKeyboardState(before_); }
