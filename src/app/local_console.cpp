@@ -77,7 +77,7 @@ void LocalConsole::ShowMenu(const std::string&) {
 }
 
 void LocalConsole::ShowEntries(MenuHandle menu, int level) {
-  for (const MenuEntry& entry : machine_.menus.Entries(menu)) {
+  for (const LocalMenuEntry& entry : machine_.menus.Entries(menu)) {
     out_ << std::string(static_cast<std::size_t>(level) * 2, ' ');
     out_ << (entry.IsSeparator() ? "----" : ToUtf8(entry.text)) << (entry.popup != 0 ? " >" : "") << '\n';
     if (entry.popup != 0) ShowEntries(entry.popup, level + 1);

@@ -4,8 +4,6 @@
 #include <iterator>
 #include <utility>
 
-#include "ui/menu.h"
-
 namespace burrowmark {
 namespace {
 
@@ -298,7 +296,7 @@ const std::vector<MenuEntryState*>& Form::MenuEntries() const {
   return menus_ == nullptr ? kNone : menus_->Entries();
 }
 
-void Form::EnterMenus(FormMenus& menus) {
+void Form::EnterMenus(MenuDoors& menus) {
   menus_ = &menus;
   Tell(&FormPeer::MenusChanged);
 }
@@ -418,6 +416,9 @@ void Form::UserScale() {
   for (Control* control : controls_) {
     if (ControlPeer* peer = control->ThePeer()) peer->ScaleChanged();
   }
+  if (!peer_ || loading_) return;
+  const Running running(*this);
+  Form_Resize();  // bars may need another height
 }
 
 }  // namespace burrowmark

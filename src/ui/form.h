@@ -7,6 +7,7 @@
 
 #include "platform/window_system.h"
 #include "ui/control.h"
+#include "ui/menu_doors.h"
 
 namespace burrowmark {
 
@@ -122,7 +123,7 @@ class Form : public FormState, public ControlSite {
   virtual void Form_Load() {}
   virtual void Form_QueryUnload(bool& Cancel, UnloadMode mode);
   virtual void Form_Unload(bool& Cancel);
-  // The client area has another size; once after the loading too.
+  // The client area has another size, or its screen another scale; once after the loading too.
   virtual void Form_Resize() {}
   virtual void Form_Activate() {}
   virtual void Form_Deactivate() {}
@@ -173,7 +174,7 @@ class Form : public FormState, public ControlSite {
 
   void TellDefaultMoved(Control* before);
   bool RunShortcut(std::int32_t keyCode, std::int32_t shift);
-  void EnterMenus(FormMenus& menus);
+  void EnterMenus(MenuDoors& menus);
   void LeaveMenus();
 
   template <typename Change>
@@ -207,7 +208,7 @@ class Form : public FormState, public ControlSite {
   Control* default_ = nullptr;
   Control* cancel_ = nullptr;
 
-  FormMenus* menus_ = nullptr;
+  MenuDoors* menus_ = nullptr;
   std::vector<SystemMenuEntry> systemMenu_;
 
   std::unique_ptr<FormPeer> peer_;

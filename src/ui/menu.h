@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "platform/ui_bar_peers.h"
+#include "ui/menu_doors.h"
 
 namespace burrowmark {
 
@@ -54,7 +55,7 @@ struct MenuRow {
 };
 
 // Belongs to a form, which it must not outlive; there is one for a form.
-class FormMenus {
+class FormMenus final : public MenuDoors {
  public:
   FormMenus(Form& form, std::span<const MenuRow> rows);
   ~FormMenus();
@@ -67,14 +68,10 @@ class FormMenus {
   // returns when they are gone. `defaultEntry` is drawn bold. What was chosen has had its Click then.
   void PopupMenu(const std::wstring& name, const std::wstring& defaultEntry = {});
 
-  // The entries of level 0.
-  const std::vector<MenuEntryState*>& Entries() const { return root_.children; }
-  // Doors. An entry that is disabled or hidden, or in one that is, isn't chosen.
-  void UserOpen(MenuEntryState& entry);
-  void UserChoose(MenuEntryState& entry);
-  // True if an entry that shows has this shortcut; those above it hear that they open before it is chosen. A disabled
-  // one keeps it from everybody else and does nothing.
-  bool UserShortcut(const MenuShortcut& shortcut);
+  const std::vector<MenuEntryState*>& Entries() const override { return root_.children; }
+  void UserOpen(MenuEntryState& entry) override;
+  void UserChoose(MenuEntryState& entry) override;
+  bool UserShortcut(const MenuShortcut& shortcut) override;
 
  private:
   friend class FormMenuEntry;

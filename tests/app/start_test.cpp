@@ -47,7 +47,7 @@ class Start : public testing::Test {
   std::wstring Menu() {
     std::wstring texts;
     const MenuHandle root = machine_.menus.GetSubMenu(machine_.menus.GetMenu(machine_.windows.Main()), 0);
-    for (const MenuEntry& entry : machine_.menus.Entries(root)) {
+    for (const LocalMenuEntry& entry : machine_.menus.Entries(root)) {
       texts += (entry.IsSeparator() ? L"-" : entry.text) + L";";
     }
     return texts;

@@ -1,5 +1,8 @@
 #include "tests/contract/local_screen.h"
 
+#include <optional>
+#include <stdexcept>
+
 namespace burrowmark {
 
 ShownWindow* LocalScreen::Form(WindowHandle form) const { return machine_.windows.Desktop.Find(form).get(); }
@@ -85,6 +88,69 @@ std::pair<std::int32_t, std::int32_t> LocalScreen::SelectedIn(WindowHandle box) 
 
 void LocalScreen::NextWindow(const std::wstring& caption, std::function<void()> script) {
   machine_.user.NextWindow(caption, [script = std::move(script)](ShownWindow&) { script(); });
+}
+
+// --- menus and bars
+
+LocalScreen::Titles LocalScreen::MenuTexts(WindowHandle form, const Titles& path) {
+  return Form(form)->MenuTexts(path);
+}
+
+bool LocalScreen::ChooseMenu(WindowHandle form, const Titles& path) {
+  try {
+    Form(form)->ChooseMenu(path);
+    return true;
+  } catch (const std::logic_error&) {
+    return false;
+  }
+}
+
+void LocalScreen::OpenMenuByLetter(WindowHandle form, wchar_t character) { Form(form)->PressAlt(character); }
+
+LocalScreen::Titles LocalScreen::SystemMenuTexts(WindowHandle form) {
+  Titles texts;
+  for (const SystemMenuEntry& entry : Form(form)->systemMenu) {
+    texts.push_back(entry.checked ? L"[x] " + entry.text : entry.text);
+  }
+  return texts;
+}
+
+void LocalScreen::ChooseSystemMenu(WindowHandle form, const std::wstring& text) { Form(form)->ChooseSystemMenu(text); }
+
+void LocalScreen::NextPopup(const std::wstring& title, Titles& seen) {
+  machine_.user.NextPopup([title, &seen](ShownPopup& popup) {
+    seen = popup.Texts();
+    for (std::wstring& text : seen) {
+      if (text == popup.Default()) text.insert(0, L"* ");
+    }
+    if (!title.empty()) popup.Choose({title});
+  });
+}
+
+LocalScreen::Titles LocalScreen::ButtonTexts(WindowHandle toolbar) {
+  Titles texts;
+  for (const ToolbarButtonState& button : Control(toolbar)->buttons) {
+    texts.push_back(button.enabled ? button.caption : button.caption + L" (disabled)");
+  }
+  return texts;
+}
+
+void LocalScreen::ClickButton(WindowHandle form, WindowHandle toolbar, std::size_t button) {
+  const ToolbarButtonState& state = Control(toolbar)->buttons.at(button);
+  if (state.enabled) Form(form)->ClickButton(toolbar, state.key);
+}
+
+void LocalScreen::ChooseButtonMenu(WindowHandle form, WindowHandle toolbar, std::size_t button,
+                                   const std::wstring& text) {
+  Form(form)->ChooseButtonMenu(toolbar, Control(toolbar)->buttons.at(button).key, text);
+}
+
+LocalScreen::Titles LocalScreen::PanelTexts(WindowHandle form, WindowHandle statusBar) {
+  return Form(form)->PanelTexts(statusBar);
+}
+
+void LocalScreen::NextFile(const std::wstring& title, const std::wstring& path) {
+  machine_.user.NextFile(title, path.empty() ? std::nullopt : std::optional(path));
 }
 
 }  // namespace burrowmark

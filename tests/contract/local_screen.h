@@ -32,6 +32,18 @@ class LocalScreen final : public ScreenUnderTest {
   void NextWindow(const std::wstring& caption, std::function<void()> script) override;
   std::string Complaints() override { return machine_.user.TakeComplaints(); }
 
+  Titles MenuTexts(WindowHandle form, const Titles& path) override;
+  bool ChooseMenu(WindowHandle form, const Titles& path) override;
+  void OpenMenuByLetter(WindowHandle form, wchar_t character) override;
+  Titles SystemMenuTexts(WindowHandle form) override;
+  void ChooseSystemMenu(WindowHandle form, const std::wstring& text) override;
+  void NextPopup(const std::wstring& title, Titles& seen) override;
+  Titles ButtonTexts(WindowHandle toolbar) override;
+  void ClickButton(WindowHandle form, WindowHandle toolbar, std::size_t button) override;
+  void ChooseButtonMenu(WindowHandle form, WindowHandle toolbar, std::size_t button, const std::wstring& text) override;
+  Titles PanelTexts(WindowHandle form, WindowHandle statusBar) override;
+  void NextFile(const std::wstring& title, const std::wstring& path) override;
+
  private:
   ShownWindow* Form(WindowHandle form) const;
   ShownControl* Control(WindowHandle control) const;

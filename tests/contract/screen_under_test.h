@@ -4,6 +4,7 @@
 #include <functional>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "platform/drawing.h"
 #include "platform/twips.h"
@@ -41,6 +42,28 @@ class ScreenUnderTest {
   virtual void Type(WindowHandle form, const std::wstring& text) = 0;
   // What is selected in a text box, from the first character to the one behind the last.
   virtual std::pair<std::int32_t, std::int32_t> SelectedIn(WindowHandle box) = 0;
+  // Menus: titles on the way from the bar on, without ampersands. Texts are as LookOf has them.
+  using Titles = std::vector<std::wstring>;
+  virtual Titles MenuTexts(WindowHandle form, const Titles& path) = 0;
+  // False if there is no such entry, or it can't be chosen.
+  virtual bool ChooseMenu(WindowHandle form, const Titles& path) = 0;
+  // Alt and a character, and Esc when the menu is open.
+  virtual void OpenMenuByLetter(WindowHandle form, wchar_t character) = 0;
+  // Those that aren't the system's own.
+  virtual Titles SystemMenuTexts(WindowHandle form) = 0;
+  virtual void ChooseSystemMenu(WindowHandle form, const std::wstring& text) = 0;
+  // What is chosen in the next menu that pops up, none for Esc; what shows of it goes into `seen`, the one drawn bold
+  // with an asterisk in front.
+  virtual void NextPopup(const std::wstring& title, Titles& seen) = 0;
+
+  // Bars. A disabled button has " (disabled)" behind its text.
+  virtual Titles ButtonTexts(WindowHandle toolbar) = 0;
+  virtual void ClickButton(WindowHandle form, WindowHandle toolbar, std::size_t button) = 0;
+  virtual void ChooseButtonMenu(WindowHandle form, WindowHandle toolbar, std::size_t button,
+                                const std::wstring& text) = 0;
+  virtual Titles PanelTexts(WindowHandle form, WindowHandle statusBar) = 0;
+  // What is typed into the next file dialog of that title; nothing cancels it.
+  virtual void NextFile(const std::wstring& title, const std::wstring& path) = 0;
 
   // Runs when a modal window of that caption is up; it must go meanwhile.
   virtual void NextWindow(const std::wstring& caption, std::function<void()> script) = 0;

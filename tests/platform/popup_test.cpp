@@ -285,7 +285,7 @@ TEST_F(PopupTest, MenusThatNoEntryHoldsAreCountedUntilTheyAreDestroyed) {
 }
 
 TEST_F(PopupTest, ATestReadsTheEntriesOfAMenu) {
-  const std::vector<MenuEntry>& entries = menus_.Entries(root_);
+  const std::vector<LocalMenuEntry>& entries = menus_.Entries(root_);
   ASSERT_EQ(entries.size(), 5U);
   EXPECT_EQ(entries[0].text, L"Alpha");
   EXPECT_EQ(entries[0].id, 1);

@@ -41,7 +41,7 @@ MenuHandle MenuScene::Root() { return machine.menus.GetSubMenu(machine.menus.Get
 
 std::wstring MenuScene::NativeTexts(MenuHandle handle) {
   std::wstring texts;
-  for (const MenuEntry& entry : machine.menus.Entries(handle)) {
+  for (const LocalMenuEntry& entry : machine.menus.Entries(handle)) {
     texts += (texts.empty() ? L"" : L" ") + (entry.IsSeparator() ? std::wstring(L"-") : entry.text);
     if (entry.popup != 0) texts += L"[" + NativeTexts(entry.popup) + L"]";
   }
@@ -55,7 +55,7 @@ std::string MenuScene::WrongNumbers() {
     const std::string name = ToUtf8(item.Name());
     const auto& siblings = machine.menus.Entries(item.OwnerID);
     if (item.Position < 0 || static_cast<std::size_t>(item.Position) >= siblings.size()) return name + " has no place";
-    const MenuEntry& entry = siblings[static_cast<std::size_t>(item.Position)];
+    const LocalMenuEntry& entry = siblings[static_cast<std::size_t>(item.Position)];
     if (entry.text != item.Caption() || !entry.IsOwnerDrawn()) return name + " has another entry at its place";
     if ((item.SubMenu() ? entry.popup : entry.id) != item.ID) return name + " has another number";
     if (!item.SubMenu() && (item.ID < 50 || item.ID >= 0xF000)) return name + " has a number out of range";

@@ -30,13 +30,13 @@ LocalMenus::LocalMenus(MenuTree& tree, LocalWindows& windows, LocalDrawing& draw
                        LocalUser& user, Faults& faults)
     : tree_(tree), windows_(windows), drawing_(drawing), facts_(facts), user_(user), faults_(faults) {}
 
-const std::vector<MenuEntry>& LocalMenus::Entries(MenuHandle menu) const {
-  const std::vector<MenuEntry>* entries = tree_.Entries(menu);
+const std::vector<LocalMenuEntry>& LocalMenus::Entries(MenuHandle menu) const {
+  const std::vector<LocalMenuEntry>* entries = tree_.Entries(menu);
   return entries == nullptr ? none_ : *entries;
 }
 
 MenuHandle LocalMenus::GetSubMenu(MenuHandle menu, std::int32_t position) {
-  const MenuEntry* entry = tree_.Entry(menu, position);
+  const LocalMenuEntry* entry = tree_.Entry(menu, position);
   return entry == nullptr ? 0 : entry->popup;
 }
 
@@ -63,12 +63,12 @@ bool LocalMenus::DeleteMenu(MenuHandle menu, std::int32_t position, std::int32_t
 }
 
 std::int32_t LocalMenus::GetMenuItemCount(MenuHandle menu) {
-  const std::vector<MenuEntry>* entries = tree_.Entries(menu);
+  const std::vector<LocalMenuEntry>* entries = tree_.Entries(menu);
   return entries == nullptr ? -1 : static_cast<std::int32_t>(entries->size());
 }
 
 std::int32_t LocalMenus::GetMenuItemID(MenuHandle menu, std::int32_t position) {
-  const MenuEntry* entry = tree_.Entry(menu, position);
+  const LocalMenuEntry* entry = tree_.Entry(menu, position);
   return entry == nullptr || entry->popup != 0 ? -1 : entry->id;
 }
 

@@ -26,7 +26,7 @@ class LocalMenus final : public Menus {
 
   // For tests. The entries of a menu, none if there is no such menu; all menus that exist, those of the main window
   // (its bar and the popup in it) among them.
-  const std::vector<MenuEntry>& Entries(MenuHandle menu) const;
+  const std::vector<LocalMenuEntry>& Entries(MenuHandle menu) const;
   std::size_t LiveMenus() const { return tree_.Count(); }
   // What the last TrackPopupMenu did. Contexts in it stay until the next one.
   const PopupHistory& History() const { return history_; }
@@ -59,7 +59,7 @@ class LocalMenus final : public Menus {
   Faults& faults_;
   PopupHistory history_;
   bool showing_ = false;
-  const std::vector<MenuEntry> none_;
+  const std::vector<LocalMenuEntry> none_;
 };
 
 }  // namespace burrowmark

@@ -9,7 +9,7 @@ namespace {
 bool Has(std::int32_t flags, std::int32_t flag) { return (flags & flag) != 0; }
 
 // A negative position is past any end, as the system takes it for an unsigned number.
-bool IsPlaceIn(const std::vector<MenuEntry>& entries, std::int32_t position) {
+bool IsPlaceIn(const std::vector<LocalMenuEntry>& entries, std::int32_t position) {
   return position >= 0 && static_cast<std::size_t>(position) < entries.size();
 }
 
@@ -23,9 +23,9 @@ MenuHandle MenuTree::Create(bool held) {
 void MenuTree::Destroy(MenuHandle menu) {
   const auto found = menus_.find(menu);
   if (found == menus_.end()) return;
-  const std::vector<MenuEntry> entries = std::move(found->second.entries);
+  const std::vector<LocalMenuEntry> entries = std::move(found->second.entries);
   menus_.erase(found);
-  for (const MenuEntry& entry : entries) Destroy(entry.popup);
+  for (const LocalMenuEntry& entry : entries) Destroy(entry.popup);
 }
 
 bool MenuTree::IsHeld(MenuHandle menu) const {
@@ -33,18 +33,18 @@ bool MenuTree::IsHeld(MenuHandle menu) const {
   return found != menus_.end() && found->second.held;
 }
 
-const std::vector<MenuEntry>* MenuTree::Entries(MenuHandle menu) const {
+const std::vector<LocalMenuEntry>* MenuTree::Entries(MenuHandle menu) const {
   const auto found = menus_.find(menu);
   return found == menus_.end() ? nullptr : &found->second.entries;
 }
 
-const MenuEntry* MenuTree::Entry(MenuHandle menu, std::int32_t position) const {
-  const std::vector<MenuEntry>* entries = Entries(menu);
+const LocalMenuEntry* MenuTree::Entry(MenuHandle menu, std::int32_t position) const {
+  const std::vector<LocalMenuEntry>* entries = Entries(menu);
   if (entries == nullptr || !IsPlaceIn(*entries, position)) return nullptr;
   return &(*entries)[static_cast<std::size_t>(position)];
 }
 
-MenuEntry* MenuTree::Find(MenuHandle menu, std::int32_t position) {
+LocalMenuEntry* MenuTree::Find(MenuHandle menu, std::int32_t position) {
   const auto found = menus_.find(menu);
   if (found == menus_.end() || !IsPlaceIn(found->second.entries, position)) return nullptr;
   return &found->second.entries[static_cast<std::size_t>(position)];
@@ -52,7 +52,7 @@ MenuEntry* MenuTree::Find(MenuHandle menu, std::int32_t position) {
 
 void MenuTree::SetMeasure(MenuHandle menu, std::int32_t position, std::int32_t dpi, std::int32_t width,
                           std::int32_t height) {
-  MenuEntry* entry = Find(menu, position);
+  LocalMenuEntry* entry = Find(menu, position);
   if (entry == nullptr) return;
   entry->measuredDpi = dpi;
   entry->width = std::max(width, 0);
@@ -61,8 +61,8 @@ void MenuTree::SetMeasure(MenuHandle menu, std::int32_t position, std::int32_t d
 
 bool MenuTree::HoldsBelow(MenuHandle menu, MenuHandle wanted) const {
   if (menu == wanted) return true;
-  const std::vector<MenuEntry>* entries = Entries(menu);
-  return entries != nullptr && std::any_of(entries->begin(), entries->end(), [&](const MenuEntry& entry) {
+  const std::vector<LocalMenuEntry>* entries = Entries(menu);
+  return entries != nullptr && std::any_of(entries->begin(), entries->end(), [&](const LocalMenuEntry& entry) {
            return entry.popup != 0 && HoldsBelow(entry.popup, wanted);
          });
 }
@@ -74,8 +74,8 @@ bool MenuTree::MayHold(MenuHandle menu, std::int32_t flags, std::int32_t id, Men
   return id == own || (!IsHeld(id) && !HoldsBelow(id, menu));
 }
 
-MenuEntry MenuTree::MakeEntry(std::int32_t flags, std::int32_t id, const std::wstring& text) {
-  MenuEntry entry;
+LocalMenuEntry MenuTree::MakeEntry(std::int32_t flags, std::int32_t id, const std::wstring& text) {
+  LocalMenuEntry entry;
   entry.flags = flags;
   entry.id = id;
   entry.text = text;
@@ -89,7 +89,7 @@ MenuEntry MenuTree::MakeEntry(std::int32_t flags, std::int32_t id, const std::ws
 bool MenuTree::Insert(MenuHandle menu, std::int32_t position, std::int32_t flags, std::int32_t id,
                       const std::wstring& text) {
   if (!Exists(menu) || !MayHold(menu, flags, id, 0)) return false;
-  std::vector<MenuEntry>& entries = menus_[menu].entries;
+  std::vector<LocalMenuEntry>& entries = menus_[menu].entries;
   const auto place = IsPlaceIn(entries, position) ? entries.begin() + position : entries.end();
   entries.insert(place, MakeEntry(flags, id, text));
   return true;
@@ -97,7 +97,7 @@ bool MenuTree::Insert(MenuHandle menu, std::int32_t position, std::int32_t flags
 
 bool MenuTree::Modify(MenuHandle menu, std::int32_t position, std::int32_t flags, std::int32_t id,
                       const std::wstring& text) {
-  MenuEntry* entry = Find(menu, position);
+  LocalMenuEntry* entry = Find(menu, position);
   if (entry == nullptr) return false;
   const MenuHandle old = entry->popup;
   if (!MayHold(menu, flags, id, old)) return false;
@@ -108,10 +108,10 @@ bool MenuTree::Modify(MenuHandle menu, std::int32_t position, std::int32_t flags
 }
 
 bool MenuTree::Delete(MenuHandle menu, std::int32_t position) {
-  const MenuEntry* entry = Find(menu, position);
+  const LocalMenuEntry* entry = Find(menu, position);
   if (entry == nullptr) return false;
   Destroy(entry->popup);
-  std::vector<MenuEntry>& entries = menus_[menu].entries;
+  std::vector<LocalMenuEntry>& entries = menus_[menu].entries;
   entries.erase(entries.begin() + position);
   return true;
 }

@@ -11,7 +11,7 @@
 
 namespace burrowmark {
 
-struct MenuEntry {
+struct LocalMenuEntry {
   std::int32_t flags = 0;  // as they were given
   std::int32_t id = 0;     // as it was given: the number of its command, or its popup
   std::wstring text;
@@ -38,9 +38,9 @@ class MenuTree {
   // True for a popup of an entry and for a bar.
   bool IsHeld(MenuHandle menu) const;
   // Nothing if there is no such menu.
-  const std::vector<MenuEntry>* Entries(MenuHandle menu) const;
+  const std::vector<LocalMenuEntry>* Entries(MenuHandle menu) const;
   // Nothing if there is no such menu or it has no such position.
-  const MenuEntry* Entry(MenuHandle menu, std::int32_t position) const;
+  const LocalMenuEntry* Entry(MenuHandle menu, std::int32_t position) const;
   void SetMeasure(MenuHandle menu, std::int32_t position, std::int32_t dpi, std::int32_t width, std::int32_t height);
   std::size_t Count() const { return menus_.size(); }
 
@@ -52,13 +52,13 @@ class MenuTree {
  private:
   struct Menu {
     bool held = false;
-    std::vector<MenuEntry> entries;
+    std::vector<LocalMenuEntry> entries;
   };
   MenuHandle Create(bool held);
-  MenuEntry* Find(MenuHandle menu, std::int32_t position);
+  LocalMenuEntry* Find(MenuHandle menu, std::int32_t position);
   bool HoldsBelow(MenuHandle menu, MenuHandle wanted) const;
   bool MayHold(MenuHandle menu, std::int32_t flags, std::int32_t id, MenuHandle own) const;
-  MenuEntry MakeEntry(std::int32_t flags, std::int32_t id, const std::wstring& text);
+  LocalMenuEntry MakeEntry(std::int32_t flags, std::int32_t id, const std::wstring& text);
 
   std::map<MenuHandle, Menu> menus_;
   MenuHandle lastHandle_ = 0x20000;  // command numbers have 16 bits

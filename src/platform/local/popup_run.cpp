@@ -24,11 +24,11 @@ constexpr std::int64_t kCharSelect = 3;
 
 std::int32_t Scaled(std::int32_t pixels, std::int32_t dpi) { return pixels * dpi / kDesignDpi; }
 
-std::int32_t CountOf(const std::vector<MenuEntry>* entries) {
+std::int32_t CountOf(const std::vector<LocalMenuEntry>* entries) {
   return entries == nullptr ? 0 : static_cast<std::int32_t>(entries->size());
 }
 
-std::int32_t ItemNumber(const MenuEntry& entry) { return entry.popup != 0 ? entry.popup : entry.id; }
+std::int32_t ItemNumber(const LocalMenuEntry& entry) { return entry.popup != 0 ? entry.popup : entry.id; }
 
 }  // namespace
 
@@ -55,7 +55,7 @@ void PopupRun::Open(MenuHandle menu) {
 
 void PopupRun::Measure(MenuHandle menu) {
   for (std::int32_t i = 0; i < CountOf(tree_.Entries(menu)); ++i) {
-    const MenuEntry& entry = *tree_.Entry(menu, i);
+    const LocalMenuEntry& entry = *tree_.Entry(menu, i);
     if (entry.measuredDpi == windows_.Dpi) continue;
     MeasureRecord record{.controlType = kControlMenu, .itemID = ItemNumber(entry)};
     if (entry.IsOwnerDrawn()) {
@@ -72,15 +72,15 @@ void PopupRun::Measure(MenuHandle menu) {
 }
 
 void PopupRun::LayOut(PopupView& view) const {
-  const std::vector<MenuEntry>* entries = tree_.Entries(view.menu);
+  const std::vector<LocalMenuEntry>* entries = tree_.Entries(view.menu);
   if (entries == nullptr) return;
   const std::int32_t dpi = windows_.Dpi;
   std::int32_t width = 0;
-  for (const MenuEntry& entry : *entries) width = std::max(width, entry.width);
+  for (const LocalMenuEntry& entry : *entries) width = std::max(width, entry.width);
   const std::int32_t border = Scaled(kBorder, dpi);
   const std::int32_t right = border + width + Scaled(kCheckWidth, dpi);
   std::int32_t top = border;
-  for (const MenuEntry& entry : *entries) {
+  for (const LocalMenuEntry& entry : *entries) {
     view.rects.push_back({border, top, right, top + entry.height});
     top += entry.height;
   }
@@ -88,7 +88,7 @@ void PopupRun::LayOut(PopupView& view) const {
 }
 
 void PopupRun::Draw(const PopupView& view, std::int32_t position) {
-  const MenuEntry* entry = tree_.Entry(view.menu, position);
+  const LocalMenuEntry* entry = tree_.Entry(view.menu, position);
   const auto index = static_cast<std::size_t>(position);
   if (entry == nullptr || !entry->IsOwnerDrawn() || index >= view.rects.size()) return;
   const DrawRecord record{.controlType = kControlMenu,
@@ -113,13 +113,13 @@ void PopupRun::Select(std::int32_t position) {
   if (position >= 0) Draw(now, position);
 }
 
-const MenuEntry* PopupRun::Selected() { return tree_.Entry(Top().menu, Top().selected); }
+const LocalMenuEntry* PopupRun::Selected() { return tree_.Entry(Top().menu, Top().selected); }
 
 std::optional<PopupRun::Spot> PopupRun::FindTitle(const std::wstring& title) const {
   for (std::size_t level = levels_.size(); level > 0; --level) {
-    const std::vector<MenuEntry>* entries = tree_.Entries(history_.popups[levels_[level - 1]].menu);
+    const std::vector<LocalMenuEntry>* entries = tree_.Entries(history_.popups[levels_[level - 1]].menu);
     if (entries == nullptr) continue;
-    const auto found = std::find_if(entries->begin(), entries->end(), [&title](const MenuEntry& entry) {
+    const auto found = std::find_if(entries->begin(), entries->end(), [&title](const LocalMenuEntry& entry) {
       return entry.text == title || WithoutPrefixes(entry.text) == title;
     });
     if (found != entries->end()) return Spot{level - 1, static_cast<std::int32_t>(found - entries->begin())};
@@ -233,14 +233,14 @@ void PopupRun::ObeyMenuChar(std::int64_t value) {
 }
 
 void PopupRun::OpenSelected(bool byKey) {
-  const MenuEntry* entry = Selected();
+  const LocalMenuEntry* entry = Selected();
   if (entry == nullptr || entry->popup == 0) return;
   Open(entry->popup);
   if (byKey && IsOpen()) Select(NextSelectable(-1, 1));
 }
 
 void PopupRun::Execute(bool byKey) {
-  const MenuEntry* entry = Selected();
+  const LocalMenuEntry* entry = Selected();
   if (entry != nullptr && entry->popup != 0) return OpenSelected(byKey);
   if (entry != nullptr) chosen_ = entry->id;
   levels_.clear();

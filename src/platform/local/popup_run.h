@@ -65,7 +65,7 @@ class PopupRun {
   };
 
   PopupView& Top() { return history_.popups[levels_.back()]; }
-  const MenuEntry* Selected();
+  const LocalMenuEntry* Selected();
   std::optional<Spot> FindTitle(const std::wstring& title) const;
   std::int32_t NextStartingWith(wchar_t letter);
   std::int32_t NextSelectable(std::int32_t from, std::int32_t step);
