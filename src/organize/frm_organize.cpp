@@ -86,6 +86,7 @@ frmOrganize::frmOrganize(Application& app, OrganizeCalls calls)
   txtInfoDrives.SetTabStop(false);
   txtInfoDrives.SetVisible(false);
   ConnectPanes();
+  ConnectLabels();
   ConnectBars();
   ConnectMenus();
 }

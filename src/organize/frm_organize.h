@@ -157,6 +157,12 @@ class frmOrganize final : public Form {
   void ListClick();
   void ListKeyDown(std::int32_t& KeyCode);
 
+  // --- renaming in place (frm_organize_rename.cpp)
+  void ConnectLabels();
+  void RenameCommand();
+  void RenameItem(const std::wstring& Key, bool& Cancel, const std::wstring& NewString);
+  void TellRenameError(const std::wstring& text);
+
   // --- commands (frm_organize_commands.cpp)
   struct Target {
     std::wstring Path;

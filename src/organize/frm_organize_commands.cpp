@@ -130,6 +130,7 @@ void frmOrganize::ConnectFileAndEditMenus() {
     const Target target = GetSelectedTarget();
     SetMenuState(MenuKind::kEdit, target.Key, target.Image, true);
   };
+  menus_[L"mnuEditRename"].Click = [this] { RenameCommand(); };
   menus_[L"mnuEditSelectAll"].Click = [this] { SetAllListItemsSelected(true); };
   menus_[L"mnuEditDeselectAll"].Click = [this] { SetAllListItemsSelected(false); };
   menus_[L"mnuEditInvertSelection"].Click = [this] { InvertSelection(); };
@@ -197,6 +198,7 @@ void frmOrganize::ConnectPopups() {
   menus_[L"mnuPopupFind"].Click = [this] { FindCommand(); };
   menus_[L"mnuPopupReport"].Click = [this] { ReportCommand(); };
   menus_[L"mnuPopupRestore"].Click = [this] { RestoreCommand(NameOfKey(GetSelectedTarget().Key)); };
+  menus_[L"mnuPopupRename"].Click = [this] { RenameCommand(); };
   menus_[L"mnuPopupProperties"].Click = [this] { ShowItemProperties(false); };
   menus_[L"mnuPopup2NewExplorer"].Click = [this] { NewItem(MIT_PATH_EXPLORER); };
   menus_[L"mnuPopup2NewShortcut"].Click = [this] { NewItem(MIT_PATH_SHORTCUT); };

@@ -258,6 +258,33 @@ TEST_F(Organize, CommandsGoToTheirWindows) {
   EXPECT_EQ(machine_.shell.Launches[1].file, L"http://www.kestrelan.example/products/bm/support.html");
 }
 
+TEST_F(Organize, LabelsAreRenamedInBothPanesAndBadOnesRefused) {
+  scene_.Open();
+  const auto rename = [this](const std::wstring& title) {
+    scene_.Window().Press(kKeyCodeF2);
+    scene_.Window().TypeLabel(title);
+    scene_.Window().Press(kKeyCodeReturn);
+  };
+  scene_.ClickRow(L"Alpha");
+  rename(L"Omega");
+  EXPECT_EQ(scene_.Rows(), L"Omega|Beta|Gamma");
+  EXPECT_EQ(scene_.Nodes(), L"0 Organized Folders|1 Personal|2 Omega|3 Inner|2 Beta|2 Gamma|1 Drives");
+  EXPECT_EQ(form_.WorkCollection->GetMenuItemFromName(L"I")->ItemLocation, L"\\\\Personal\\Omega");
+  EXPECT_TRUE(form_.Changed);
+  form_.Changed = false;
+  machine_.user.NextBox(L"cannot contain any of the following characters", kAnswerOk);
+  rename(L"a*b");
+  scene_.ClickRow(L"Beta");
+  machine_.user.NextBox(L"Cannot rename Gamma: An item with the name you specified already exists.", kAnswerOk);
+  rename(L"Gamma");
+  for (const wchar_t* same : {L"Beta", L""}) rename(same);
+  EXPECT_EQ(scene_.Rows(), L"Omega|Beta|Gamma");
+  EXPECT_FALSE(form_.Changed);
+  scene_.Window().ClickNode(scene_.Tree(), L"Drives");
+  scene_.Window().Press(kKeyCodeF2);
+  EXPECT_THROW(scene_.Window().TypeLabel(L"x"), std::logic_error);
+}
+
 // --- layout
 
 TEST_F(Organize, PanesShareTheRoom) {

@@ -1,0 +1,130 @@
+#!/usr/bin/env python3
+"""Shows the editor on virtual screens and saves pictures of it: editor_pictures.py [--exe EXE] [--driver DRIVER]
+[--build FOLDER] [--output FOLDER] [--dpi 96 144]
+"""
+
+import argparse
+import os
+import signal
+import sys
+import time
+from pathlib import Path
+
+sys.path.insert(0, str(Path(__file__).resolve().parent))
+
+import bwmk  # noqa: E402  (needs the path above)
+from burrowmark import Program  # noqa: E402
+from editor import FORM, Editor  # noqa: E402
+from harness import REPOSITORY, Desktop, Settings  # noqa: E402
+
+SCREENS = {96: (1280, 900), 144: (1920, 1350)}
+GROUPS = ("Clients", "Finance", "Garden", "House", "Music", "Photos")
+TOPICS = ("Archive", "Contracts", "Drafts", "Letters", "Plans")
+VIEWS = (("large-icons", "g"), ("small-icons", "m"), ("list", "l"), ("details", "d"), ("grid", "i"))
+
+
+def tree():
+    """Forty items: six groups with five shortcuts each, and four shortcuts beside them."""
+    groups = [bwmk.group(name, *[bwmk.folder(topic, "C:\\%s\\%s" % (name, topic), number % 2 == 1)
+                                 for number, topic in enumerate(TOPICS)]) for name in GROUPS]
+    return groups + [bwmk.open_all(), bwmk.folder("Downloads", "C:\\Downloads"),
+                     bwmk.folder("Projects", "C:\\Projects", True, hot_key=53),
+                     bwmk.folder("Shared with everybody in the office", "\\\\server\\share\\Everybody")]
+
+
+class Album:
+    def __init__(self, desktop, output):
+        self.desktop, self.output, self.saved = desktop, output, 0
+
+    def save(self, name):
+        time.sleep(0.4)  # for the last painting
+        self.saved += 1
+        path = self.output / ("editor-%d-%02d-%s.png" % (self.desktop.dpi, self.saved, name))
+        self.desktop.picture().save_png(path)
+        print(path)
+
+
+def take_views(desktop, editor, album):
+    for name, letter in VIEWS:
+        desktop.keys("alt+v", letter)
+        album.save(name)
+    desktop.keys("alt+v", "d")
+
+
+def take_menus(desktop, editor, album):
+    for number, letter in enumerate("fevth"):
+        desktop.keys("alt+" + letter)
+        album.save("menu-%d" % number)
+        desktop.keys("Esc", "Esc")
+    editor.click_row("Projects", "right")
+    album.save("popup-of-a-shortcut")
+    desktop.keys("Esc")
+    editor.click_node("Personal", "right")
+    album.save("popup-of-the-personal-group")
+    desktop.keys("Esc")
+    desktop.keys("alt+v", "t", "l")
+    album.save("small-buttons")
+    desktop.keys("alt+v", "t", "t")
+    album.save("small-buttons-without-text")
+    desktop.keys("alt+v", "t", "l")
+    desktop.keys("alt+v", "t", "t")
+
+
+def take_sizes(desktop, editor, album):
+    editor.click_node("Drives")
+    album.save("drives")
+    editor.click_node("Organized Folders")
+    album.save("root")
+    editor.click_node("Personal")
+    desktop.keys("alt+Space", "x")
+    album.save("maximised")
+    desktop.keys("alt+Space", "r")
+
+
+def take_all(settings, output, dpi):
+    with Desktop(settings, SCREENS[dpi], dpi) as desktop:
+        program = Program(desktop, settings.exe)
+        program.set_option("AC0", True)
+        program.set_option("AC1", True)
+        program.write_tree(*tree())
+        program.start()
+        editor = Editor.open(program)
+        album = Album(desktop, output)
+        album.save("start")
+        editor.click_row("Projects")
+        album.save("a-row")
+        take_views(desktop, editor, album)
+        left, top, _, _ = editor.child("SysHeader32").rectangle
+        desktop.click((left + 40, top + 8))
+        album.save("sorted")
+        take_menus(desktop, editor, album)
+        take_sizes(desktop, editor, album)
+        program.end()
+        return album.saved
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
+    parser.add_argument("--exe")
+    parser.add_argument("--driver")
+    parser.add_argument("--build")
+    parser.add_argument("--output", type=Path, default=REPOSITORY / "build" / "pictures")
+    parser.add_argument("--dpi", type=int, nargs="+", default=sorted(SCREENS))
+    arguments = parser.parse_args()
+    for name, value in (("BURROWMARK_EXE", arguments.exe), ("ACCEPTANCE_DRIVER", arguments.driver),
+                        ("ACCEPTANCE_BUILD", arguments.build)):
+        if value:
+            os.environ[name] = value
+    settings = Settings.from_environment()
+    if settings.exe is None or not settings.exe.is_file():
+        print("burrowmark.exe isn't there")
+        return 2
+    arguments.output.mkdir(parents=True, exist_ok=True)
+    signal.signal(signal.SIGTERM, lambda *_: sys.exit(1))
+    saved = sum(take_all(settings, arguments.output, dpi) for dpi in arguments.dpi)
+    print("%d pictures" % saved)
+    return 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
