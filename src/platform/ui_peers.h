@@ -99,6 +99,12 @@ class Peers {
   virtual std::unique_ptr<AnimationPeer> MakePeer(WindowHandle parent, AnimationState& animation) = 0;
   virtual std::unique_ptr<TextBoxPeer> MakePeer(WindowHandle parent, TextBoxState& box) = 0;
   virtual std::unique_ptr<PicturePeer> MakePeer(WindowHandle parent, PictureState& picture) = 0;
+  virtual std::unique_ptr<LinePeer> MakePeer(WindowHandle parent, LineState& line) = 0;
+  virtual std::unique_ptr<CheckBoxPeer> MakePeer(WindowHandle parent, CheckBoxState& box) = 0;
+  virtual std::unique_ptr<OptionPeer> MakePeer(WindowHandle parent, OptionState& option) = 0;
+  virtual std::unique_ptr<ComboBoxPeer> MakePeer(WindowHandle parent, ComboBoxState& box) = 0;
+  virtual std::unique_ptr<FramePeer> MakePeer(WindowHandle parent, FrameState& frame) = 0;
+  virtual std::unique_ptr<TabStripPeer> MakePeer(WindowHandle parent, TabStripState& strip) = 0;
 };
 
 }  // namespace burrowmark

@@ -339,10 +339,12 @@ void Form::UserActivate(bool active) {
 }
 
 bool Form::UserKey(std::int32_t keyCode, std::int32_t shift) {
-  if (!keyPreview_ || !IsReachable()) return false;
+  if (!IsReachable()) return false;
   const Running running(*this);
-  Form_KeyDown(keyCode, shift);
-  return keyCode == 0 || !IsReachable();
+  if (keyPreview_) Form_KeyDown(keyCode, shift);
+  if (keyCode == 0 || !IsReachable()) return true;
+  return std::any_of(controls_.begin(), controls_.end(),
+                     [=](Control* control) { return control->UserFormKey(keyCode, shift); });
 }
 
 void Form::UserEscape() {

@@ -4,6 +4,8 @@
 
 #include <windows.h>
 
+#include <commctrl.h>
+
 #include "platform/key_codes.h"
 #include "platform/win32/form_window.h"
 #include "platform/win32/handles.h"
@@ -40,6 +42,11 @@ class HeldDown {
 HWND KeyTarget(HWND form) {
   const HWND focus = ::GetFocus();
   return focus != nullptr && (focus == form || ::IsChild(form, focus) != FALSE) ? focus : form;
+}
+
+void ClickAt(HWND window, const POINT& point) {
+  ::PostMessageW(window, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(point.x, point.y));
+  ::PostMessageW(window, WM_LBUTTONUP, 0, MAKELPARAM(point.x, point.y));
 }
 
 }  // namespace
@@ -86,8 +93,7 @@ Size Win32Screen::ClientOf(WindowHandle form) {
 }
 
 void Win32Screen::Click(WindowHandle, WindowHandle button) {
-  ::PostMessageW(ToHwnd(button), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(2, 2));
-  ::PostMessageW(ToHwnd(button), WM_LBUTTONUP, 0, MAKELPARAM(2, 2));
+  ClickAt(ToHwnd(button), {2, 2});
   windows_.DoEvents();
 }
 
@@ -131,6 +137,37 @@ std::pair<std::int32_t, std::int32_t> Win32Screen::SelectedIn(WindowHandle box) 
   DWORD end = 0;
   ::SendMessageW(ToHwnd(box), EM_GETSEL, reinterpret_cast<WPARAM>(&start), reinterpret_cast<LPARAM>(&end));
   return {static_cast<std::int32_t>(start), static_cast<std::int32_t>(end)};
+}
+
+std::int32_t Win32Screen::CheckOf(WindowHandle box) {
+  return static_cast<std::int32_t>(::SendMessageW(ToHwnd(box), BM_GETCHECK, 0, 0));
+}
+
+std::int32_t Win32Screen::EntryCountOf(WindowHandle combo) {
+  return static_cast<std::int32_t>(::SendMessageW(ToHwnd(combo), CB_GETCOUNT, 0, 0));
+}
+
+void Win32Screen::ChooseEntry(WindowHandle, WindowHandle combo, std::int32_t index) {
+  ClickAt(ToHwnd(combo), {2, 2});
+  windows_.DoEvents();
+  COMBOBOXINFO info = {};
+  info.cbSize = sizeof(info);
+  ::GetComboBoxInfo(ToHwnd(combo), &info);
+  RECT entry = {};
+  ::SendMessageW(info.hwndList, LB_GETITEMRECT, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&entry));
+  ClickAt(info.hwndList, {(entry.left + entry.right) / 2, (entry.top + entry.bottom) / 2});
+  windows_.DoEvents();
+}
+
+void Win32Screen::ChooseTab(WindowHandle, WindowHandle strip, std::int32_t index) {
+  RECT tab = {};
+  ::SendMessageW(ToHwnd(strip), TCM_GETITEMRECT, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&tab));
+  ClickAt(ToHwnd(strip), {(tab.left + tab.right) / 2, (tab.top + tab.bottom) / 2});
+  windows_.DoEvents();
+}
+
+std::int32_t Win32Screen::TabOf(WindowHandle strip) {
+  return static_cast<std::int32_t>(::SendMessageW(ToHwnd(strip), TCM_GETCURSEL, 0, 0));
 }
 
 void Win32Screen::NextWindow(const std::wstring& caption, std::function<void()> script) {

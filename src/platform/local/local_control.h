@@ -49,6 +49,7 @@ class LocalControl : public KindPeer {
     shown_->UserClick = nullptr;
     shown_->PressKey = nullptr;
     shown_->UserType = nullptr;
+    shown_->UserChoose = nullptr;
     shown_->Entered = nullptr;
     retired_ = true;
   }

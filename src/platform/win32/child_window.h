@@ -44,6 +44,8 @@ class ChildWindow {
   virtual LRESULT Notify(NMHDR& record);
   // Any other message before the system's own procedure sees it. None: that goes on.
   virtual std::optional<LRESULT> Handle(UINT message, WPARAM wParam, LPARAM lParam);
+  // The height in pixels that the system is told where the control is as high as this.
+  virtual int NativeHeight(int height) const { return height; }
   FormWindow& TheForm() const { return form_; }
   std::int32_t Dpi() const { return form_.Dpi(); }
   // Twips that a text needs in the control's font, drawn as DrawText does with `format`; `around` is what the control

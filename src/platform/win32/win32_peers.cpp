@@ -4,8 +4,11 @@
 
 #include <stdexcept>
 
+#include "platform/win32/check_peers.h"
+#include "platform/win32/combo_box_peer.h"
 #include "platform/win32/control_peers.h"
 #include "platform/win32/handles.h"
+#include "platform/win32/tab_strip_peer.h"
 #include "platform/win32/text_box_peer.h"
 
 namespace burrowmark {
@@ -20,7 +23,7 @@ Win32Peers::Win32Peers(const ScreenDpi& dpi)
       class_(FormWindow::kClassName, FormWindow::Procedure, BackgroundOfForms(), ::LoadCursorW(nullptr, IDC_ARROW)) {
   INITCOMMONCONTROLSEX classes = {};
   classes.dwSize = sizeof(classes);
-  classes.dwICC = ICC_STANDARD_CLASSES | ICC_ANIMATE_CLASS;
+  classes.dwICC = ICC_STANDARD_CLASSES | ICC_ANIMATE_CLASS | ICC_TAB_CLASSES;
   ::InitCommonControlsEx(&classes);
 }
 
@@ -58,6 +61,30 @@ std::unique_ptr<TextBoxPeer> Win32Peers::MakePeer(WindowHandle parent, TextBoxSt
 
 std::unique_ptr<PicturePeer> Win32Peers::MakePeer(WindowHandle parent, PictureState& picture) {
   return std::make_unique<Win32Picture>(PlaceIn(parent), picture);
+}
+
+std::unique_ptr<LinePeer> Win32Peers::MakePeer(WindowHandle parent, LineState& line) {
+  return std::make_unique<Win32Line>(PlaceIn(parent), line);
+}
+
+std::unique_ptr<CheckBoxPeer> Win32Peers::MakePeer(WindowHandle parent, CheckBoxState& box) {
+  return std::make_unique<Win32CheckBox>(PlaceIn(parent), box);
+}
+
+std::unique_ptr<OptionPeer> Win32Peers::MakePeer(WindowHandle parent, OptionState& option) {
+  return std::make_unique<Win32Option>(PlaceIn(parent), option);
+}
+
+std::unique_ptr<ComboBoxPeer> Win32Peers::MakePeer(WindowHandle parent, ComboBoxState& box) {
+  return std::make_unique<Win32ComboBox>(PlaceIn(parent), box);
+}
+
+std::unique_ptr<FramePeer> Win32Peers::MakePeer(WindowHandle parent, FrameState& frame) {
+  return std::make_unique<Win32Frame>(PlaceIn(parent), frame);
+}
+
+std::unique_ptr<TabStripPeer> Win32Peers::MakePeer(WindowHandle parent, TabStripState& strip) {
+  return std::make_unique<Win32TabStrip>(PlaceIn(parent), strip);
 }
 
 }  // namespace burrowmark
