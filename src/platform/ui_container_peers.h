@@ -1,6 +1,9 @@
 // Controls that others are in, or on.
 #pragma once
 
+#include <string>
+#include <vector>
+
 #include "platform/ui_control.h"
 
 namespace burrowmark {
@@ -25,6 +28,35 @@ class PicturePeer : public ControlPeer {
   virtual void IconChanged() = 0;
   virtual void BackColorChanged() = 0;
   virtual void BorderChanged() = 0;
+};
+
+class FrameState : public virtual ControlState {
+ public:
+  // "&" underlines the character behind it, and Alt with that character goes to the next tab stop.
+  virtual const std::wstring& Caption() const = 0;
+
+ protected:
+  ~FrameState() = default;
+};
+
+class FramePeer : public CaptionPeer {};
+
+class TabStripState : public virtual ControlState {
+ public:
+  virtual const std::vector<std::wstring>& Tabs() const = 0;
+  virtual std::int32_t SelectedTab() const = 0;  // from 1; 0 where there are no tabs
+
+  virtual void UserSelect(std::int32_t tab) = 0;
+
+ protected:
+  ~TabStripState() = default;
+};
+
+class TabStripPeer : public ControlPeer {
+ public:
+  virtual void SelectedTabChanged() = 0;
+  // What is free below the tabs, within what the strip is in.
+  virtual Box AreaBelow() const = 0;
 };
 
 }  // namespace burrowmark

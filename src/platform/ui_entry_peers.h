@@ -1,5 +1,8 @@
-// Controls that the user enters something in: text boxes.
+// Controls that the user enters something in: text boxes and combo boxes.
 #pragma once
+
+#include <string>
+#include <vector>
 
 #include "platform/ui_control.h"
 
@@ -35,6 +38,25 @@ class TextBoxPeer : public ControlPeer {
   virtual void SelectionChanged() = 0;
   virtual void ReadOnlyChanged() = 0;
   virtual void MaxLengthChanged() = 0;
+};
+
+class ComboBoxState : public virtual ControlState {
+ public:
+  virtual const std::vector<std::wstring>& Items() const = 0;
+  virtual std::int32_t ListIndex() const = 0;  // from 0; -1 for none
+
+  virtual void UserChoose(std::int32_t index) = 0;
+
+ protected:
+  ~ComboBoxState() = default;
+};
+
+// Its list opens for up to twelve entries at a time.
+class ComboBoxPeer : public ControlPeer {
+ public:
+  virtual void ItemAdded() = 0;  // the last one
+  virtual void ItemsChanged() = 0;
+  virtual void IndexChanged() = 0;
 };
 
 }  // namespace burrowmark

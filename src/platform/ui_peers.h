@@ -121,6 +121,12 @@ class Peers {
   virtual std::unique_ptr<PicturePeer> MakePeer(WindowHandle parent, PictureState& picture) = 0;
   virtual std::unique_ptr<ListViewPeer> MakePeer(WindowHandle parent, ListViewState& list) = 0;
   virtual std::unique_ptr<TreeViewPeer> MakePeer(WindowHandle parent, TreeViewState& tree) = 0;
+  virtual std::unique_ptr<LinePeer> MakePeer(WindowHandle parent, LineState& line) = 0;
+  virtual std::unique_ptr<CheckBoxPeer> MakePeer(WindowHandle parent, CheckBoxState& box) = 0;
+  virtual std::unique_ptr<OptionPeer> MakePeer(WindowHandle parent, OptionState& option) = 0;
+  virtual std::unique_ptr<ComboBoxPeer> MakePeer(WindowHandle parent, ComboBoxState& box) = 0;
+  virtual std::unique_ptr<FramePeer> MakePeer(WindowHandle parent, FrameState& frame) = 0;
+  virtual std::unique_ptr<TabStripPeer> MakePeer(WindowHandle parent, TabStripState& strip) = 0;
 };
 
 }  // namespace burrowmark

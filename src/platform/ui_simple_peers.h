@@ -56,4 +56,47 @@ class AnimationPeer : public ControlPeer {
   virtual void PlayingChanged() = 0;
 };
 
+// Etched: horizontal if it is wider than high, and vertical otherwise.
+class LineState : public virtual ControlState {
+ protected:
+  ~LineState() = default;
+};
+
+class LinePeer : public ControlPeer {};
+
+enum class CheckValue : std::uint8_t { kUnchecked, kChecked, kGrayed };
+
+class CheckBoxState : public virtual ControlState {
+ public:
+  virtual const std::wstring& Caption() const = 0;
+  virtual CheckValue Value() const = 0;
+
+  virtual void UserClick() = 0;
+
+ protected:
+  ~CheckBoxState() = default;
+};
+
+class CheckBoxPeer : public CaptionPeer {
+ public:
+  virtual void ValueChanged() = 0;
+};
+
+class OptionState : public virtual ControlState {
+ public:
+  virtual const std::wstring& Caption() const = 0;
+  virtual bool Value() const = 0;
+
+  virtual void UserClick() = 0;
+  virtual void UserArrow(bool forward) = 0;
+
+ protected:
+  ~OptionState() = default;
+};
+
+class OptionPeer : public CaptionPeer {
+ public:
+  virtual void ValueChanged() = 0;
+};
+
 }  // namespace burrowmark

@@ -156,6 +156,10 @@ class Control : public virtual ControlState {
   friend class Form;  // which makes the peers and takes them away
   virtual void MakePeer(Peers& peers) = 0;
   virtual std::unique_ptr<ControlPeer> TakePeer() = 0;
+  // A key wherever the focus is on its form. True: nobody else shall have it.
+  virtual bool UserFormKey(std::int32_t, std::int32_t) { return false; }
+  // The focus has come, and everybody knows.
+  virtual void UserArrived() {}
   // What Enter does when it is the form's button for that.
   virtual bool ShowsDefaultWithFocus() const { return false; }
   virtual void DefaultMoved() {}

@@ -369,11 +369,11 @@ void Form::UserActivate(bool active) {
 bool Form::UserKey(std::int32_t keyCode, std::int32_t shift) {
   if (!IsReachable()) return false;
   const Running running(*this);
-  if (keyPreview_) {
-    Form_KeyDown(keyCode, shift);
-    if (keyCode == 0 || !IsReachable()) return true;
-  }
-  return RunShortcut(keyCode, shift);
+  if (keyPreview_) Form_KeyDown(keyCode, shift);
+  if (keyCode == 0 || !IsReachable()) return true;
+  const bool used = std::any_of(controls_.begin(), controls_.end(),
+                                [=](Control* control) { return control->UserFormKey(keyCode, shift); });
+  return used || !IsReachable() || RunShortcut(keyCode, shift);
 }
 
 bool Form::RunShortcut(std::int32_t keyCode, std::int32_t shift) {

@@ -86,6 +86,22 @@ std::pair<std::int32_t, std::int32_t> LocalScreen::SelectedIn(WindowHandle box) 
   return {selection.start, selection.start + selection.length};
 }
 
+std::int32_t LocalScreen::CheckOf(WindowHandle box) { return static_cast<std::int32_t>(Control(box)->check); }
+
+std::int32_t LocalScreen::EntryCountOf(WindowHandle combo) {
+  return static_cast<std::int32_t>(Control(combo)->items.size());
+}
+
+void LocalScreen::ChooseEntry(WindowHandle form, WindowHandle combo, std::int32_t index) {
+  Form(form)->Choose(combo, index);
+}
+
+void LocalScreen::ChooseTab(WindowHandle form, WindowHandle strip, std::int32_t index) {
+  Form(form)->Choose(strip, index);
+}
+
+std::int32_t LocalScreen::TabOf(WindowHandle strip) { return Control(strip)->index; }
+
 void LocalScreen::NextWindow(const std::wstring& caption, std::function<void()> script) {
   machine_.user.NextWindow(caption, [script = std::move(script)](ShownWindow&) { script(); });
 }

@@ -65,6 +65,14 @@ class ScreenUnderTest {
   // What is typed into the next file dialog of that title; nothing cancels it.
   virtual void NextFile(const std::wstring& title, const std::wstring& path) = 0;
 
+  // 1 for a check box or an option that is on, 2 for a grey one.
+  virtual std::int32_t CheckOf(WindowHandle box) = 0;
+  virtual std::int32_t EntryCountOf(WindowHandle combo) = 0;
+  // Takes an entry of a combo box or a tab of a strip with the mouse; both count from 0.
+  virtual void ChooseEntry(WindowHandle form, WindowHandle combo, std::int32_t index) = 0;
+  virtual void ChooseTab(WindowHandle form, WindowHandle strip, std::int32_t index) = 0;
+  virtual std::int32_t TabOf(WindowHandle strip) = 0;
+
   // Runs when a modal window of that caption is up; it must go meanwhile.
   virtual void NextWindow(const std::wstring& caption, std::function<void()> script) = 0;
   // Everything that wasn't as expected.

@@ -111,6 +111,11 @@ WindowHandle PopupWindow() {
 
 void PressInMenu(HWND popup, int key) { ::PostMessageW(popup, WM_KEYDOWN, static_cast<WPARAM>(key), 1); }
 
+void ClickAt(HWND window, const POINT& point) {
+  ::PostMessageW(window, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(point.x, point.y));
+  ::PostMessageW(window, WM_LBUTTONUP, 0, MAKELPARAM(point.x, point.y));
+}
+
 }  // namespace
 
 bool Win32Screen::Exists(WindowHandle window) { return ::IsWindow(ToHwnd(window)) != FALSE; }
@@ -155,8 +160,7 @@ Size Win32Screen::ClientOf(WindowHandle form) {
 }
 
 void Win32Screen::Click(WindowHandle, WindowHandle button) {
-  ::PostMessageW(ToHwnd(button), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(2, 2));
-  ::PostMessageW(ToHwnd(button), WM_LBUTTONUP, 0, MAKELPARAM(2, 2));
+  ClickAt(ToHwnd(button), {2, 2});
   windows_.DoEvents();
 }
 
@@ -200,6 +204,37 @@ std::pair<std::int32_t, std::int32_t> Win32Screen::SelectedIn(WindowHandle box) 
   DWORD end = 0;
   ::SendMessageW(ToHwnd(box), EM_GETSEL, reinterpret_cast<WPARAM>(&start), reinterpret_cast<LPARAM>(&end));
   return {static_cast<std::int32_t>(start), static_cast<std::int32_t>(end)};
+}
+
+std::int32_t Win32Screen::CheckOf(WindowHandle box) {
+  return static_cast<std::int32_t>(::SendMessageW(ToHwnd(box), BM_GETCHECK, 0, 0));
+}
+
+std::int32_t Win32Screen::EntryCountOf(WindowHandle combo) {
+  return static_cast<std::int32_t>(::SendMessageW(ToHwnd(combo), CB_GETCOUNT, 0, 0));
+}
+
+void Win32Screen::ChooseEntry(WindowHandle, WindowHandle combo, std::int32_t index) {
+  ClickAt(ToHwnd(combo), {2, 2});
+  windows_.DoEvents();
+  COMBOBOXINFO info = {};
+  info.cbSize = sizeof(info);
+  ::GetComboBoxInfo(ToHwnd(combo), &info);
+  RECT entry = {};
+  ::SendMessageW(info.hwndList, LB_GETITEMRECT, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&entry));
+  ClickAt(info.hwndList, {(entry.left + entry.right) / 2, (entry.top + entry.bottom) / 2});
+  windows_.DoEvents();
+}
+
+void Win32Screen::ChooseTab(WindowHandle, WindowHandle strip, std::int32_t index) {
+  RECT tab = {};
+  ::SendMessageW(ToHwnd(strip), TCM_GETITEMRECT, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&tab));
+  ClickAt(ToHwnd(strip), {(tab.left + tab.right) / 2, (tab.top + tab.bottom) / 2});
+  windows_.DoEvents();
+}
+
+std::int32_t Win32Screen::TabOf(WindowHandle strip) {
+  return static_cast<std::int32_t>(::SendMessageW(ToHwnd(strip), TCM_GETCURSEL, 0, 0));
 }
 
 // --- menus and bars

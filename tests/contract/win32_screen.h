@@ -31,6 +31,11 @@ class Win32Screen final : public ScreenUnderTest {
   void ChangeScale(WindowHandle form, std::int32_t dpi) override;
   void Type(WindowHandle form, const std::wstring& text) override;
   std::pair<std::int32_t, std::int32_t> SelectedIn(WindowHandle box) override;
+  std::int32_t CheckOf(WindowHandle box) override;
+  std::int32_t EntryCountOf(WindowHandle combo) override;
+  void ChooseEntry(WindowHandle form, WindowHandle combo, std::int32_t index) override;
+  void ChooseTab(WindowHandle form, WindowHandle strip, std::int32_t index) override;
+  std::int32_t TabOf(WindowHandle strip) override;
   void NextWindow(const std::wstring& caption, std::function<void()> script) override;
   std::string Complaints() override;
 

@@ -51,6 +51,7 @@ class LocalControl : public KindPeer {
     shown_->UserButtonClick = nullptr;
     shown_->UserButtonMenuClick = nullptr;
     shown_->UserType = nullptr;
+    shown_->UserChoose = nullptr;
     shown_->Entered = nullptr;
     shown_->labelEdit.reset();
     shown_->EndLabelEdit = nullptr;

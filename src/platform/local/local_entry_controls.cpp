@@ -77,4 +77,39 @@ void LocalTextBox::Report(const std::wstring& text, const TextSelection& selecti
   if (!IsRetired()) ShowAll();
 }
 
+LocalComboBox::LocalComboBox(LocalProcess& process, LocalDesktop& desktop, WindowHandle parent, ComboBoxState& box)
+    : LocalControl(process, desktop, parent, ShownKind::kComboBox, box) {
+  Shown().useMnemonic = false;
+  Shown().UserChoose = [&box](std::int32_t index) { box.UserChoose(index); };
+  Shown().PressKey = [this](std::int32_t keyCode, std::int32_t) { Press(keyCode); };
+  ItemsChanged();
+}
+
+void LocalComboBox::ItemsChanged() {
+  Shown().items = Control().Items();
+  IndexChanged();
+}
+
+void LocalComboBox::IndexChanged() {
+  const std::int32_t index = Control().ListIndex();
+  Shown().index = index;
+  Shown().text = index < 0 ? L"" : Control().Items()[static_cast<std::size_t>(index)];
+}
+
+void LocalComboBox::Press(std::int32_t keyCode) {
+  const auto last = static_cast<std::int32_t>(Control().Items().size()) - 1;
+  switch (keyCode) {
+    case kKeyCodeUp:
+      return Control().UserChoose(std::max(Control().ListIndex() - 1, 0));
+    case kKeyCodeDown:
+      return Control().UserChoose(std::min(Control().ListIndex() + 1, last));
+    case kKeyCodeHome:
+      return Control().UserChoose(0);
+    case kKeyCodeEnd:
+      return Control().UserChoose(last);
+    default:
+      return;
+  }
+}
+
 }  // namespace burrowmark

@@ -21,4 +21,15 @@ class LocalTextBox final : public LocalControl<TextBoxPeer, TextBoxState> {
   void ShowAll();
 };
 
+class LocalComboBox final : public LocalControl<ComboBoxPeer, ComboBoxState> {
+ public:
+  LocalComboBox(LocalProcess& process, LocalDesktop& desktop, WindowHandle parent, ComboBoxState& box);
+  void ItemAdded() override { ItemsChanged(); }
+  void ItemsChanged() override;
+  void IndexChanged() override;
+
+ private:
+  void Press(std::int32_t keyCode);
+};
+
 }  // namespace burrowmark

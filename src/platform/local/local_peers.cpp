@@ -156,4 +156,28 @@ std::unique_ptr<TreeViewPeer> LocalPeers::MakePeer(WindowHandle parent, TreeView
   return std::make_unique<LocalTreeView>(process_, desktop_, parent, tree);
 }
 
+std::unique_ptr<LinePeer> LocalPeers::MakePeer(WindowHandle parent, LineState& line) {
+  return std::make_unique<LocalLine>(process_, desktop_, parent, line);
+}
+
+std::unique_ptr<CheckBoxPeer> LocalPeers::MakePeer(WindowHandle parent, CheckBoxState& box) {
+  return std::make_unique<LocalCheckBox>(process_, desktop_, parent, box);
+}
+
+std::unique_ptr<OptionPeer> LocalPeers::MakePeer(WindowHandle parent, OptionState& option) {
+  return std::make_unique<LocalOption>(process_, desktop_, parent, option);
+}
+
+std::unique_ptr<ComboBoxPeer> LocalPeers::MakePeer(WindowHandle parent, ComboBoxState& box) {
+  return std::make_unique<LocalComboBox>(process_, desktop_, parent, box);
+}
+
+std::unique_ptr<FramePeer> LocalPeers::MakePeer(WindowHandle parent, FrameState& frame) {
+  return std::make_unique<LocalFrame>(process_, desktop_, parent, frame);
+}
+
+std::unique_ptr<TabStripPeer> LocalPeers::MakePeer(WindowHandle parent, TabStripState& strip) {
+  return std::make_unique<LocalTabStrip>(process_, desktop_, parent, strip);
+}
+
 }  // namespace burrowmark

@@ -18,6 +18,12 @@ class LocalPeers final : public Peers {
   std::unique_ptr<AnimationPeer> MakePeer(WindowHandle parent, AnimationState& animation) override;
   std::unique_ptr<TextBoxPeer> MakePeer(WindowHandle parent, TextBoxState& box) override;
   std::unique_ptr<PicturePeer> MakePeer(WindowHandle parent, PictureState& picture) override;
+  std::unique_ptr<LinePeer> MakePeer(WindowHandle parent, LineState& line) override;
+  std::unique_ptr<CheckBoxPeer> MakePeer(WindowHandle parent, CheckBoxState& box) override;
+  std::unique_ptr<OptionPeer> MakePeer(WindowHandle parent, OptionState& option) override;
+  std::unique_ptr<ComboBoxPeer> MakePeer(WindowHandle parent, ComboBoxState& box) override;
+  std::unique_ptr<FramePeer> MakePeer(WindowHandle parent, FrameState& frame) override;
+  std::unique_ptr<TabStripPeer> MakePeer(WindowHandle parent, TabStripState& strip) override;
 
   std::unique_ptr<ToolbarPeer> MakePeer(WindowHandle parent, ToolbarState& toolbar) override;
   std::unique_ptr<StatusBarPeer> MakePeer(WindowHandle parent, StatusBarState& bar) override;

@@ -1,6 +1,7 @@
 // Labels, buttons and their like on the local machine.
 #pragma once
 
+#include "platform/key_codes.h"
 #include "platform/local/local_control.h"
 
 namespace burrowmark {
@@ -57,6 +58,44 @@ class LocalAnimation final : public LocalControl<AnimationPeer, AnimationState> 
     Shown().text = there ? Control().File() : L"";
     Shown().playing = there && Control().Playing();
   }
+};
+
+class LocalLine final : public LocalControl<LinePeer, LineState> {
+ public:
+  LocalLine(LocalProcess& process, LocalDesktop& desktop, WindowHandle parent, LineState& line)
+      : LocalControl(process, desktop, parent, ShownKind::kLine, line) {}
+};
+
+// Glyph and gap to the left of a text.
+inline constexpr Size kAroundCheckText{300, 30};
+
+class LocalCheckBox final : public LocalControl<CheckBoxPeer, CheckBoxState> {
+ public:
+  LocalCheckBox(LocalProcess& process, LocalDesktop& desktop, WindowHandle parent, CheckBoxState& box)
+      : LocalControl(process, desktop, parent, ShownKind::kCheckBox, box) {
+    Shown().UserClick = [&box] { box.UserClick(); };
+    CaptionChanged();
+    ValueChanged();
+  }
+  void CaptionChanged() override { Shown().text = Control().Caption(); }
+  void ValueChanged() override { Shown().check = Control().Value(); }
+  Size NeededSize() const override { return NeededByText(Control().Caption(), kAroundCheckText); }
+};
+
+class LocalOption final : public LocalControl<OptionPeer, OptionState> {
+ public:
+  LocalOption(LocalProcess& process, LocalDesktop& desktop, WindowHandle parent, OptionState& option)
+      : LocalControl(process, desktop, parent, ShownKind::kOption, option) {
+    Shown().UserClick = [&option] { option.UserClick(); };
+    Shown().PressKey = [&option](std::int32_t keyCode, std::int32_t) {
+      if (keyCode >= kKeyCodeLeft && keyCode <= kKeyCodeDown) option.UserArrow(keyCode >= kKeyCodeRight);
+    };
+    CaptionChanged();
+    ValueChanged();
+  }
+  void CaptionChanged() override { Shown().text = Control().Caption(); }
+  void ValueChanged() override { Shown().check = Control().Value() ? CheckValue::kChecked : CheckValue::kUnchecked; }
+  Size NeededSize() const override { return NeededByText(Control().Caption(), kAroundCheckText); }
 };
 
 }  // namespace burrowmark

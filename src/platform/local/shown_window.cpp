@@ -121,6 +121,19 @@ void ShownWindow::Type(const std::wstring& text) {
   });
 }
 
+void ShownWindow::Choose(WindowHandle control, std::int32_t index) {
+  const ShownControl* shown = WithWindow(control);
+  if (shown == nullptr || !shown->UserChoose) throw std::logic_error("there is nothing to choose from");
+  if (!CanBeUsed(*shown)) throw std::logic_error("nothing can be chosen there now");
+  if (index < 0 || static_cast<std::size_t>(index) >= shown->items.size()) throw std::logic_error("no such entry");
+  Do([this, control, index] {
+    SetFocus(WithWindow(control));
+    const ShownControl* chosen = WithWindow(control);
+    const auto door = chosen == nullptr ? nullptr : chosen->UserChoose;
+    if (door) door(index);
+  });
+}
+
 void ShownWindow::PressAlt(wchar_t character) {
   Do([this, character] {
     const auto key = static_cast<std::int32_t>(std::towupper(static_cast<std::wint_t>(character)));

@@ -44,6 +44,12 @@ enum class ShownKind : std::uint8_t {
   kPicture,
   kListView,
   kTreeView,
+  kLine,
+  kCheckBox,
+  kOption,
+  kComboBox,
+  kFrame,
+  kTabStrip,
 };
 
 struct ShownControl {
@@ -60,13 +66,16 @@ struct ShownControl {
   bool playing = false;     // an animation whose file is there
   Alignment alignment = Alignment::kLeft;
 
-  TextSelection selection;     // of a text box
-  bool multiLine = false;      // likewise
-  bool readOnly = false;       // likewise
-  bool wantsEnter = false;     // has a use of its own for the Enter key
-  std::int32_t icon = 0;       // of a picture, by its number
-  std::int32_t backColor = 0;  // likewise, a system colour
-  bool border = false;         // likewise
+  TextSelection selection;                    // of a text box
+  bool multiLine = false;                     // likewise
+  bool readOnly = false;                      // likewise
+  bool wantsEnter = false;                    // has a use of its own for the Enter key
+  std::int32_t icon = 0;                      // of a picture, by its number
+  std::int32_t backColor = 0;                 // likewise, a system colour
+  bool border = false;                        // likewise
+  CheckValue check = CheckValue::kUnchecked;  // of a check box or an option
+  std::vector<std::wstring> items;            // of a combo box; the tabs of a strip
+  std::int32_t index = -1;                    // which of them is chosen
 
   WindowHandle parent = 0;  // the form, or the control that it is in
 
@@ -82,6 +91,7 @@ struct ShownControl {
   std::function<void()> UserClick;
   std::function<void(std::int32_t keyCode, std::int32_t shift)> PressKey;  // what the control itself does with a key
   std::function<void(const std::wstring&)> UserType;
+  std::function<void(std::int32_t index)> UserChoose;
   std::function<void()> Entered;  // the Tab key or a mnemonic brought the focus
 
   // Lists and trees.
@@ -139,6 +149,8 @@ class ShownWindow {
   void Press(std::int32_t keyCode, std::int32_t shift = 0);
   // Types a text where the focus is.
   void Type(const std::wstring& text);
+  // Takes one of the entries of a combo box, or of the tabs of a strip, from 0.
+  void Choose(WindowHandle control, std::int32_t index);
   // Alt and a character.
   void PressAlt(wchar_t character);
   void Close();

@@ -41,7 +41,7 @@ std::optional<LRESULT> ChildWindow::Handle(UINT, WPARAM, LPARAM) { return std::n
 
 void ChildWindow::Place() const {
   const Rect at = ToPixels(control_->Place(), form_.Dpi());
-  ::SetWindowPos(window_, nullptr, at.left, at.top, at.right - at.left, at.bottom - at.top,
+  ::SetWindowPos(window_, nullptr, at.left, at.top, at.right - at.left, NativeHeight(at.bottom - at.top),
                  SWP_NOZORDER | SWP_NOACTIVATE);
 }
 

@@ -48,6 +48,8 @@ class ChildWindow {
   virtual std::optional<LRESULT> Handle(UINT message, WPARAM wParam, LPARAM lParam);
   // The form has another scale; font and place are those of the new one.
   virtual void Rescaled();
+  // The height in pixels that the system is told where the control is as high as this.
+  virtual int NativeHeight(int height) const { return height; }
   FormWindow& TheForm() const { return form_; }
   std::int32_t Dpi() const { return form_.Dpi(); }
   // Twips that a text needs in the control's font, drawn as DrawText does with `format`; `around` is what the control

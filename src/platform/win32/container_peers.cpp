@@ -5,6 +5,9 @@
 namespace burrowmark {
 namespace {
 
+// Pixels of the design beside the caption, in the line of the frame.
+constexpr SIZE kAroundFrameCaption{20, 0};
+
 DWORD BorderOf(const PictureState& picture) { return picture.Border() ? WS_EX_STATICEDGE : 0; }
 
 int TextColorOn(std::int32_t background) { return background == kColorWindow ? COLOR_WINDOWTEXT : COLOR_BTNTEXT; }
@@ -69,6 +72,34 @@ LRESULT Win32Picture::BehindTexts(HDC context) const {
   ::SetBkColor(context, ::GetSysColor(picture_.BackColor()));
   ::SetTextColor(context, ::GetSysColor(TextColorOn(picture_.BackColor())));
   return reinterpret_cast<LRESULT>(::GetSysColorBrush(picture_.BackColor()));
+}
+
+// --- frames
+
+Win32Frame::Win32Frame(const ChildPlace& place, FrameState& frame)
+    : ChildPeer(WC_BUTTONW, frame.Caption(), BS_GROUPBOX | WS_CLIPCHILDREN, place, frame, WS_EX_CONTROLPARENT),
+      frame_(frame) {}
+
+Size Win32Frame::NeededSize() const { return NeededByText(frame_.Caption(), DT_SINGLELINE, kAroundFrameCaption); }
+
+std::optional<LRESULT> Win32Frame::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
+  if (const auto result = ReflectToControl(message, wParam, lParam)) return *result;
+  if (AsksForBackground(message)) return AskBackground(reinterpret_cast<HDC>(wParam), reinterpret_cast<HWND>(lParam));
+  // A group box leaves what is behind it to the window that it is in, which doesn't draw where this one is.
+  if (message != WM_ERASEBKGND) return std::nullopt;
+  Erase(reinterpret_cast<HDC>(wParam));
+  return 1;
+}
+
+LRESULT Win32Frame::AskBackground(HDC context, HWND control) const {
+  return ::SendMessageW(::GetParent(Handle()), WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(context),
+                        reinterpret_cast<LPARAM>(control));
+}
+
+void Win32Frame::Erase(HDC context) const {
+  RECT client = {};
+  ::GetClientRect(Handle(), &client);
+  ::FillRect(context, &client, reinterpret_cast<HBRUSH>(AskBackground(context, Handle())));
 }
 
 }  // namespace burrowmark

@@ -34,4 +34,20 @@ class Win32Picture final : public ChildPeer<PicturePeer> {
   std::int32_t iconDpi_ = 0;  // that it was loaded for
 };
 
+class Win32Frame final : public ChildPeer<FramePeer> {
+ public:
+  Win32Frame(const ChildPlace& place, FrameState& frame);
+  void CaptionChanged() override { SetText(frame_.Caption()); }
+  Size NeededSize() const override;
+
+ private:
+  std::optional<LRESULT> Handle(UINT message, WPARAM wParam, LPARAM lParam) override;
+  using ChildWindow::Handle;
+
+  LRESULT AskBackground(HDC context, HWND control) const;
+  void Erase(HDC context) const;
+
+  FrameState& frame_;
+};
+
 }  // namespace burrowmark

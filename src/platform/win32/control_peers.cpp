@@ -73,4 +73,8 @@ void Win32Animation::PlayingChanged() {
   }
 }
 
+Win32Line::Win32Line(const ChildPlace& place, LineState& line)
+    : ChildPeer(WC_STATICW, L"", line.Place().width > line.Place().height ? SS_ETCHEDHORZ : SS_ETCHEDVERT, place,
+                line) {}
+
 }  // namespace burrowmark

@@ -39,4 +39,9 @@ class Win32Animation final : public ChildPeer<AnimationPeer> {
   AnimationState& animation_;
 };
 
+class Win32Line final : public ChildPeer<LinePeer> {
+ public:
+  Win32Line(const ChildPlace& place, LineState& line);
+};
+
 }  // namespace burrowmark

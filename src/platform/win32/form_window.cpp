@@ -456,9 +456,17 @@ void FormWindow::FocusSomething() {
   if (next != nullptr && next != window_) ::SetFocus(next);
 }
 
+HWND FormWindow::NextControl(bool backwards) const {
+  const HWND focus = ::GetFocus();
+  // The mnemonic of a frame brings the focus to the frame itself, from where it goes on to what is in it.
+  const bool holdsOthers =
+      focus != window_ && (::GetWindowLongPtrW(focus, GWL_EXSTYLE) & WS_EX_CONTROLPARENT) != 0 && !backwards;
+  const HWND inside = holdsOthers ? ::GetNextDlgTabItem(focus, nullptr, FALSE) : nullptr;
+  return inside != nullptr && inside != focus ? inside : ::GetNextDlgTabItem(window_, focus, backwards ? TRUE : FALSE);
+}
+
 void FormWindow::MoveToControl(WPARAM wParam, LPARAM lParam) {
-  const HWND next =
-      LOWORD(lParam) != 0 ? reinterpret_cast<HWND>(wParam) : ::GetNextDlgTabItem(window_, ::GetFocus(), wParam != 0);
+  const HWND next = LOWORD(lParam) != 0 ? reinterpret_cast<HWND>(wParam) : NextControl(wParam != 0);
   if (next == nullptr) return;
   ::SetFocus(next);
   // A text box is left with all of its text selected, as where the Tab key comes to it.

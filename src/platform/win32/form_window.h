@@ -96,6 +96,7 @@ class FormWindow final : public FormPeer {
 
   void Activate(bool active);
   void FocusSomething();
+  HWND NextControl(bool backwards) const;
   void MoveToControl(WPARAM wParam, LPARAM lParam);
   bool ShowPointer() const;
   IconImage LoadIcon(int designSize) const;

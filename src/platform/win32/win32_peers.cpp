@@ -5,9 +5,12 @@
 #include <stdexcept>
 
 #include "platform/win32/bar_peers.h"
+#include "platform/win32/check_peers.h"
+#include "platform/win32/combo_box_peer.h"
 #include "platform/win32/control_peers.h"
 #include "platform/win32/handles.h"
 #include "platform/win32/list_view_peer.h"
+#include "platform/win32/tab_strip_peer.h"
 #include "platform/win32/text_box_peer.h"
 #include "platform/win32/tree_view_peer.h"
 
@@ -23,8 +26,8 @@ Win32Peers::Win32Peers(const ScreenDpi& dpi)
       class_(FormWindow::kClassName, FormWindow::Procedure, BackgroundOfForms(), ::LoadCursorW(nullptr, IDC_ARROW)) {
   INITCOMMONCONTROLSEX classes = {};
   classes.dwSize = sizeof(classes);
-  classes.dwICC =
-      ICC_STANDARD_CLASSES | ICC_ANIMATE_CLASS | ICC_BAR_CLASSES | ICC_LISTVIEW_CLASSES | ICC_TREEVIEW_CLASSES;
+  classes.dwICC = ICC_STANDARD_CLASSES | ICC_ANIMATE_CLASS | ICC_BAR_CLASSES | ICC_LISTVIEW_CLASSES |
+                  ICC_TREEVIEW_CLASSES | ICC_TAB_CLASSES;
   ::InitCommonControlsEx(&classes);
 }
 
@@ -78,6 +81,30 @@ std::unique_ptr<ListViewPeer> Win32Peers::MakePeer(WindowHandle parent, ListView
 
 std::unique_ptr<TreeViewPeer> Win32Peers::MakePeer(WindowHandle parent, TreeViewState& tree) {
   return std::make_unique<Win32TreeView>(PlaceIn(parent), tree);
+}
+
+std::unique_ptr<LinePeer> Win32Peers::MakePeer(WindowHandle parent, LineState& line) {
+  return std::make_unique<Win32Line>(PlaceIn(parent), line);
+}
+
+std::unique_ptr<CheckBoxPeer> Win32Peers::MakePeer(WindowHandle parent, CheckBoxState& box) {
+  return std::make_unique<Win32CheckBox>(PlaceIn(parent), box);
+}
+
+std::unique_ptr<OptionPeer> Win32Peers::MakePeer(WindowHandle parent, OptionState& option) {
+  return std::make_unique<Win32Option>(PlaceIn(parent), option);
+}
+
+std::unique_ptr<ComboBoxPeer> Win32Peers::MakePeer(WindowHandle parent, ComboBoxState& box) {
+  return std::make_unique<Win32ComboBox>(PlaceIn(parent), box);
+}
+
+std::unique_ptr<FramePeer> Win32Peers::MakePeer(WindowHandle parent, FrameState& frame) {
+  return std::make_unique<Win32Frame>(PlaceIn(parent), frame);
+}
+
+std::unique_ptr<TabStripPeer> Win32Peers::MakePeer(WindowHandle parent, TabStripState& strip) {
+  return std::make_unique<Win32TabStrip>(PlaceIn(parent), strip);
 }
 
 }  // namespace burrowmark

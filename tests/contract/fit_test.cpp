@@ -1,0 +1,86 @@
+// No text of a form is cut off, whatever the scale of the screen.
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include "core/application.h"
+#include "platform/characters.h"
+#include "tests/contract/system_under_test.h"
+#include "tools/progress.h"
+#include "ui/check_box.h"
+#include "ui/frame.h"
+
+namespace burrowmark {
+namespace {
+
+constexpr std::int32_t kScales[] = {96, 120, 144, 192};
+
+// A form to look at, and how it is made.
+struct FormKind {
+  std::string name;
+  std::function<std::unique_ptr<Form>(Application& app)> make;
+};
+
+// All forms whose captions are known when they are made. One line each.
+std::vector<FormKind> FormKinds() {
+  return {
+      {"frmPause", [](Application& app) { return std::make_unique<frmPause>(app); }},
+  };
+}
+
+// Captions that need more room than their controls have, with the scale; a pixel more is nothing that anybody sees.
+std::vector<std::string> CutOff(ScreenUnderTest& screen, Form& form) {
+  std::vector<std::string> found;
+  form.Show();
+  for (const std::int32_t dpi : kScales) {
+    screen.ChangeScale(form.Window(), dpi);
+    for (const Control* control : form.Controls()) {
+      const Size needed = control->NeededSize();
+      const bool wide = ToPixels(needed.width, dpi) > ToPixels(control->Place().width, dpi) + 1;
+      const bool high = ToPixels(needed.height, dpi) > ToPixels(control->Place().height, dpi) + 1;
+      if (wide || high) found.push_back(ToUtf8(control->Name()) + " at " + std::to_string(dpi));
+    }
+  }
+  form.Unload();
+  return found;
+}
+
+class NarrowForm final : public Form {
+ public:
+  explicit NarrowForm(WindowSystem& windows) : Form(windows, L"frmNarrow", Size{6000, 3000}) {}
+
+  Label lblFits{*this, L"lblFits", Box{150, 150, 3000, 255}, L"Short"};
+  Label lblNarrow{*this, L"lblNarrow", Box{150, 450, 600, 255}, L"A text of many words in one line"};
+  Label lblWraps{*this, L"lblWraps", Box{150, 750, 2400, 1200}, L"A text of many words in some lines"};
+  Frame fraFits{*this, L"fraFits", Box{150, 1950, 3000, 900}, L"&Frame"};
+  CheckBox chkNarrow{fraFits, L"chkNarrow", Box{150, 300, 700, 255}, L"Check everything"};
+  CommandButton cmdNarrow{*this, L"cmdNarrow", Box{3300, 1950, 600, 375}, L"Press here"};
+};
+
+class FitContract : public ContractTest {
+ protected:
+  Application app_{platform_};
+};
+INSTANTIATE_TEST_SUITE_P(Systems, FitContract, ::testing::ValuesIn(Systems()), KindName);
+
+TEST_P(FitContract, NoCaptionIsCutOff) {
+  for (const FormKind& kind : FormKinds()) {
+    SCOPED_TRACE(kind.name);
+    const std::unique_ptr<Form> form = kind.make(app_);
+    EXPECT_EQ(CutOff(system_->screen(), *form), std::vector<std::string>());
+  }
+}
+
+TEST_P(FitContract, ACaptionThatIsCutOffIsFound) {
+  NarrowForm form(platform_.windows);
+  std::vector<std::string> expected;
+  for (const std::int32_t dpi : kScales) {
+    for (const char* name : {"lblNarrow", "chkNarrow", "cmdNarrow"}) {
+      expected.push_back(std::string(name) + " at " + std::to_string(dpi));
+    }
+  }
+  EXPECT_EQ(CutOff(system_->screen(), form), expected);
+}
+
+}  // namespace
+}  // namespace burrowmark
