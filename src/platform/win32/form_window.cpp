@@ -264,7 +264,10 @@ void FormWindow::FollowScale(std::int32_t dpi, const RECT& suggested) {
   IconChanged();
   const SIZE size = OuterSize();
   ::SetWindowPos(window_, nullptr, suggested.left, suggested.top, size.cx, size.cy, kKeepOrder);
-  if (form_ != nullptr) form_->UserScale();
+  if (form_ == nullptr) return;
+  form_->UserScale();
+  // Controls that lie on others were moved one by one, and took what was on the screen along with them.
+  ::RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
 }
 
 // --- messages
