@@ -55,12 +55,12 @@ TEST_F(Win32Bars, OnePanelTakesWhatTheOthersLeave) {
 }
 
 TEST_F(Win32Bars, ImagesHaveTheSizeOfTheScaleAndTheirOwnPlaces) {
-  for (const std::int32_t dpi : {96, 120, 192}) {
-    RECT rect = {};
-    ::GetWindowRect(ToHwnd(form_.Window()), &rect);
-    ::SendMessageW(ToHwnd(form_.Window()), WM_DPICHANGED, MAKEWPARAM(dpi, dpi), reinterpret_cast<LPARAM>(&rect));
-    for (const std::int32_t size : {16, 32}) {
-      bar_.SetImages({size, {kNoSuchIcon, 2}}, {size, {3, 4}});
+  for (const std::int32_t size : {16, 32}) {
+    bar_.SetImages({size, {kNoSuchIcon, 2}}, {size, {3, 4}});
+    for (const std::int32_t dpi : {120, 192, 96}) {
+      RECT rect = {};
+      ::GetWindowRect(ToHwnd(form_.Window()), &rect);
+      ::SendMessageW(ToHwnd(form_.Window()), WM_DPICHANGED, MAKEWPARAM(dpi, dpi), reinterpret_cast<LPARAM>(&rect));
       for (const UINT message : {TB_GETIMAGELIST, TB_GETDISABLEDIMAGELIST}) {
         int width = 0;
         int height = 0;
