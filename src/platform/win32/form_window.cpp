@@ -143,15 +143,15 @@ bool FormWindow::ShowPointer() const {
 }
 
 void FormWindow::IconChanged() {
-  IconImage big = LoadIcon(kBigIcon);
-  IconImage small = LoadIcon(kSmallIcon);
+  IconImage big = IconOfSize(kBigIcon);
+  IconImage small = IconOfSize(kSmallIcon);
   ::SendMessageW(window_, WM_SETICON, ICON_BIG, reinterpret_cast<LPARAM>(big.get()));
   ::SendMessageW(window_, WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(small.get()));
   bigIcon_ = std::move(big);
   smallIcon_ = std::move(small);
 }
 
-IconImage FormWindow::LoadIcon(int designSize) const {
+IconImage FormWindow::IconOfSize(int designSize) const {
   return LoadIconImage(form_->Icon(), Scaled(designSize, dpi_, kDesignDpi));
 }
 

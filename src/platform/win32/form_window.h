@@ -98,7 +98,7 @@ class FormWindow final : public FormPeer {
   void FocusSomething();
   void MoveToControl(WPARAM wParam, LPARAM lParam);
   bool ShowPointer() const;
-  IconImage LoadIcon(int designSize) const;
+  IconImage IconOfSize(int designSize) const;
 
   FormState* form_;  // none after the retirement
   FormWindowParts parts_;
