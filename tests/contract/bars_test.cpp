@@ -45,6 +45,17 @@ const std::vector<ToolbarButtonState> kButtons = {
     {L"cut", ToolbarButtonStyle::kButton, L"Cut", L"Cut it", 1, false, {}},
 };
 
+// A control that has a use for one key itself.
+class KeyUser final : public ControlOf<ButtonState, ButtonPeer> {
+ public:
+  explicit KeyUser(ControlParent& parent) : ControlOf(parent, L"Key", Box{1500, 1200, 1215, 375}) {}
+
+  const std::wstring& Caption() const override { return Name(); }
+  bool ShowsDefault() const override { return false; }
+  bool UsesKey(std::int32_t key, std::int32_t shift) const override { return key == L'X' && shift == kCtrlMask; }
+  void UserClick() override {}
+};
+
 class BarForm final : public Form {
  public:
   BarForm(WindowSystem& windows, Texts& heard) : Form(windows, L"frmBars", kClient), heard_(heard) {
@@ -61,6 +72,7 @@ class BarForm final : public Form {
   FormMenus menus{*this, kMenus};
   Toolbar tlbMain{*this, L"tlbMain", kButtons};
   CommandButton cmdOne{*this, L"cmdOne", Box{150, 1200, 1215, 375}, L"&One"};
+  KeyUser ctlKey{*this};
   StatusBar stbMain{*this, L"stbMain", {{L"First", 0, 1500}, {L"Spring", 2, 0}, {L"Last", 0, 1500}}};
 
   void Say(const std::wstring& what) { heard_.push_back(ToUtf8(what)); }
@@ -186,6 +198,16 @@ TEST_P(BarsContract, ShortcutsChooseWhatCanBeChosen) {
   EXPECT_EQ(press(L'X', kCtrlMask), Texts({"key 88"}));
 }
 
+TEST_P(BarsContract, AKeyThatTheControlWithTheFocusNeedsIsNoShortcut) {
+  form_.ctlKey.KeyDown = [this](std::int32_t& key, std::int32_t) { form_.Say(L"key " + std::to_wstring(key)); };
+  form_.Show();
+  form_.ctlKey.SetFocus();
+  screen_.Press(form_.Window(), L'X', kCtrlMask);
+  EXPECT_EQ(Heard(), Texts({"key 88"}));
+  screen_.Press(form_.Window(), kKeyDelete, 0);
+  EXPECT_EQ(Heard(), Texts({"mnuEdit", "mnuDelete"}));
+}
+
 TEST_P(BarsContract, APopupTellsWhatWasChosenBeforeItReturns) {
   Titles seen;
   menus_[L"mnuCutHere"].SetEnabled(false);
@@ -221,6 +243,8 @@ TEST_P(BarsContract, EntriesOfTheSystemMenuOutliveTheWindow) {
   EXPECT_EQ(texts(), (Titles{L"[x] Always Here"}));
   form_.Realise();
   EXPECT_EQ(texts(), (Titles{L"[x] Always Here"}));
+  EXPECT_TRUE(Choose({L"Edit", L"Delete"})) << "the bar is there again too";
+  EXPECT_EQ(Heard(), Texts({"mnuEdit", "mnuDelete"}));
   form_.AddSystemMenuEntry({560, L"Another"});
   EXPECT_EQ(texts(), (Titles{L"[x] Always Here", L"Another"}));
   form_.SetSystemMenuChecked(kSystemEntry, false);

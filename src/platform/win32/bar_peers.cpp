@@ -127,6 +127,8 @@ void Win32Toolbar::ShowAll() {
 }
 
 void Win32Toolbar::ShowImages() {
+  ShownImages wanted{toolbar_.Images(), toolbar_.DisabledImages(), Dpi()};
+  if (shown_ == wanted) return;
   ImageListHandle images = MakeImageList(toolbar_.Images(), Dpi());
   ImageListHandle disabled = MakeImageList(toolbar_.DisabledImages(), Dpi());
   Send(TB_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(images.get()));
@@ -134,6 +136,7 @@ void Win32Toolbar::ShowImages() {
   Send(TB_SETDISABLEDIMAGELIST, 0, reinterpret_cast<LPARAM>(hasDisabled ? disabled.get() : nullptr));
   images_ = std::move(images);
   disabledImages_ = std::move(disabled);
+  shown_ = std::move(wanted);
 }
 
 void Win32Toolbar::AddButtons() {

@@ -19,6 +19,12 @@ class Win32Toolbar final : public ChildPeer<ToolbarPeer> {
 
  private:
   struct Alive {};
+  struct ShownImages {
+    ImageList images;
+    ImageList disabled;
+    std::int32_t dpi = 0;
+    friend bool operator==(const ShownImages&, const ShownImages&) = default;
+  };
 
   void CommandFrom(UINT item, UINT notification) override;
   LRESULT Notify(NMHDR& record) override;
@@ -33,6 +39,7 @@ class Win32Toolbar final : public ChildPeer<ToolbarPeer> {
   SIZE ButtonSize() const;
 
   ToolbarState& toolbar_;
+  ShownImages shown_;
   ImageListHandle images_;
   ImageListHandle disabledImages_;
   std::shared_ptr<Alive> alive_ = std::make_shared<Alive>();

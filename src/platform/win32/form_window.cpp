@@ -143,15 +143,15 @@ bool FormWindow::ShowPointer() const {
 }
 
 void FormWindow::IconChanged() {
-  IconImage big = LoadIcon(kBigIcon);
-  IconImage small = LoadIcon(kSmallIcon);
+  IconImage big = IconOfSize(kBigIcon);
+  IconImage small = IconOfSize(kSmallIcon);
   ::SendMessageW(window_, WM_SETICON, ICON_BIG, reinterpret_cast<LPARAM>(big.get()));
   ::SendMessageW(window_, WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(small.get()));
   bigIcon_ = std::move(big);
   smallIcon_ = std::move(small);
 }
 
-IconImage FormWindow::LoadIcon(int designSize) const {
+IconImage FormWindow::IconOfSize(int designSize) const {
   return LoadIconImage(form_->Icon(), Scaled(designSize, dpi_, kDesignDpi));
 }
 
@@ -328,7 +328,10 @@ void FormWindow::FollowScale(std::int32_t dpi, const RECT& suggested) {
   IconChanged();
   const SIZE size = OuterSize();
   ::SetWindowPos(window_, nullptr, suggested.left, suggested.top, size.cx, size.cy, kKeepOrder);
-  if (form_ != nullptr) form_->UserScale();
+  if (form_ == nullptr) return;
+  form_->UserScale();
+  // Controls that lie on others were moved one by one, and took what was on the screen along with them.
+  ::RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
 }
 
 // --- messages

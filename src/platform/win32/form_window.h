@@ -99,7 +99,7 @@ class FormWindow final : public FormPeer {
   HWND NextControl(bool backwards) const;
   void MoveToControl(WPARAM wParam, LPARAM lParam);
   bool ShowPointer() const;
-  IconImage LoadIcon(int designSize) const;
+  IconImage IconOfSize(int designSize) const;
 
   FormState* form_;  // none after the retirement
   FormWindowParts parts_;

@@ -1,0 +1,104 @@
+// How toolbars and status bars stand on the real system: of no concern to any other system.
+#ifdef _WIN32
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include <vector>
+
+#include "platform/win32/handles.h"
+#include "platform/win32/win32_platform.h"
+#include "ui/form.h"
+#include "ui/status_bar.h"
+#include "ui/toolbar.h"
+
+namespace burrowmark {
+namespace {
+
+constexpr std::int32_t kNoSuchIcon = 999;
+
+class Win32Bars : public ::testing::Test {
+ protected:
+  Win32Bars() {
+    form_.SetBorder(FormBorder::kSizable);
+    form_.Show();
+    bar_.AlignTop(form_.Client());
+  }
+  ~Win32Bars() override { platform_.windows.DoEvents(); }
+
+  // Those of the panels, with the bar as wide as told, in pixels.
+  std::vector<int> EdgesIn(std::int32_t width) {
+    status_.SetPlace({0, 0, ToTwips(width, kDesignDpi), 300});
+    std::vector<int> edges(status_.Panels().size());
+    ::SendMessageW(ToHwnd(status_.Window()), SB_GETPARTS, edges.size(), reinterpret_cast<LPARAM>(edges.data()));
+    return edges;
+  }
+  HIMAGELIST ListOf(UINT message) const {
+    return reinterpret_cast<HIMAGELIST>(::SendMessageW(ToHwnd(bar_.Window()), message, 0, 0));
+  }
+
+  Win32Platform system_;
+  Platform platform_ = system_.platform();
+  Form form_{platform_.windows, L"frmBars", Size{6000, 3000}};
+  Toolbar bar_{form_,
+               L"tlb",
+               {{L"one", ToolbarButtonStyle::kButton, L"One", L"The first", 1, true, {}},
+                {L"two", ToolbarButtonStyle::kDropDown, L"Two", L"The second", 2, true, {{L"a", L"Entry"}}}}};
+  StatusBar status_{form_, L"stb", {{L"First", 0, 1500}, {L"Spring", 0, 0}, {L"Last", 0, 750}}};
+};
+
+TEST_F(Win32Bars, OnePanelTakesWhatTheOthersLeave) {
+  EXPECT_EQ(EdgesIn(400), (std::vector<int>{100, 350, -1}));
+  EXPECT_EQ(EdgesIn(300), (std::vector<int>{100, 250, -1}));
+  EXPECT_EQ(EdgesIn(120), (std::vector<int>{100, 100, -1}));
+}
+
+TEST_F(Win32Bars, ImagesHaveTheSizeOfTheScaleAndTheirOwnPlaces) {
+  for (const std::int32_t size : {16, 32}) {
+    bar_.SetImages({size, {kNoSuchIcon, 2}}, {size, {3, 4}});
+    for (const std::int32_t dpi : {120, 192, 96}) {
+      RECT rect = {};
+      ::GetWindowRect(ToHwnd(form_.Window()), &rect);
+      ::SendMessageW(ToHwnd(form_.Window()), WM_DPICHANGED, MAKEWPARAM(dpi, dpi), reinterpret_cast<LPARAM>(&rect));
+      for (const UINT message : {TB_GETIMAGELIST, TB_GETDISABLEDIMAGELIST}) {
+        int width = 0;
+        int height = 0;
+        ::ImageList_GetIconSize(ListOf(message), &width, &height);
+        EXPECT_EQ(width, size * dpi / 96);
+        EXPECT_EQ(height, width);
+        EXPECT_EQ(::ImageList_GetImageCount(ListOf(message)), 2);
+      }
+    }
+  }
+}
+
+TEST_F(Win32Bars, ATipIsAskedForAndCut) {
+  wchar_t text[6] = {};
+  NMTBGETINFOTIPW tip = {};
+  tip.hdr = {ToHwnd(bar_.Window()), 0, static_cast<UINT>(TBN_GETINFOTIPW)};
+  tip.pszText = text;
+  tip.cchTextMax = 6;
+  tip.iItem = 2;
+  ::SendMessageW(ToHwnd(form_.Window()), WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&tip));
+  EXPECT_EQ(std::wstring(text), L"The s");
+  tip.iItem = 77;
+  ::SendMessageW(ToHwnd(form_.Window()), WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&tip));
+  EXPECT_EQ(std::wstring(text), L"The s");
+}
+
+TEST_F(Win32Bars, AFormMayGoWhileTheMenuOfAButtonIsOpen) {
+  bar_.ButtonMenuClick = [](const std::wstring&) { FAIL() << "its form has gone"; };
+  constexpr std::int32_t kSoon = 100;
+  platform_.windows.PostLater(kSoon, [this] { form_.Unload(); });
+  platform_.windows.PostLater(2 * kSoon, [] { ::EndMenu(); });
+  NMTOOLBARW dropDown = {};
+  dropDown.hdr = {ToHwnd(bar_.Window()), 0, static_cast<UINT>(TBN_DROPDOWN)};
+  dropDown.iItem = 2;
+  ::SendMessageW(ToHwnd(form_.Window()), WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&dropDown));
+  EXPECT_FALSE(form_.Loaded());
+}
+
+}  // namespace
+}  // namespace burrowmark
+#endif
