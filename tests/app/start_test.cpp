@@ -11,6 +11,7 @@
 #include "core/numbers.h"
 #include "core/registry.h"
 #include "core/registry_keys.h"
+#include "platform/key_codes.h"
 #include "tests/support/scratch_machine.h"
 
 namespace burrowmark {
@@ -241,6 +242,54 @@ TEST_F(Start, CommandsOfOtherProcesses) {
          SecondProcess(L"/unknown");
        },
        [&] { EXPECT_EQ(machine_.windows.Beeps(), 2U); }});
+}
+
+TEST_F(Start, TheEditorOpensOnceComesForwardAndClosesWithTheProgram) {
+  const std::wstring title = L"Organize Folders";
+  SetValue(L"AC0", L"0");  // without System Folders
+  machine_.AddFile(kBeside, FileWith(L"Mine"));
+  machine_.AddFile(L"C:\\other.bwmk", FileWith(L"Other"));
+  Run({[&] { SecondProcess(L"/OF"); },
+       [&] {
+         machine_.user.Window(title).SetState(FormWindowState::kMinimized);
+         SecondProcess(L"/OF");
+       },
+       [&] {
+         EXPECT_EQ(machine_.user.Window(title).state, FormWindowState::kNormal);
+         machine_.user.Window(title).Close();
+         SecondProcess(L"/OPEN \"C:\\other.bwmk\"");
+       },
+       [&] {
+         machine_.user.ClickTray(LocalUser::Button::kLeft);  // no menu: the window comes forward
+         EXPECT_EQ(machine_.user.Window(title + L" - other.bwmk").caption, title + L" - other.bwmk");
+       }});
+}
+
+TEST_F(Start, AnEditorWithChangesCanStopTheEndOfTheProgram) {
+  const std::wstring title = L"Organize Folders - other.bwmk";
+  SetValue(L"AC0", L"0");  // without System Folders
+  machine_.AddFile(kBeside, FileWith(L"Mine"));
+  machine_.AddFile(L"C:\\other.bwmk", FileWith(L"Other"));
+  const auto rename = [&](const std::wstring& name) {
+    ShownWindow& window = machine_.user.Window(title);
+    window.Press(kKeyCodeF2);
+    window.TypeLabel(name);
+    window.Press(kKeyCodeReturn);
+  };
+  Run({[&] { SecondProcess(L"/OPEN C:\\other.bwmk"); },
+       [&] {
+         rename(L"First");
+         machine_.user.NextBox(L"Do you want to save the changes you made to other.bwmk?", kAnswerCancel);
+         SecondProcess(L"/EXIT");
+       },
+       [&] {
+         EXPECT_NE(machine_.windows.Main(), 0);
+         EXPECT_EQ(machine_.BytesOf(L"C:\\other.bwmk").find("First"), std::string::npos);
+         machine_.user.EndSession();  // nobody is asked then
+         EXPECT_NE(machine_.BytesOf(L"C:\\other.bwmk").find("First"), std::string::npos);
+         machine_.user.NextBox(L"Do you want to save the changes you made to other.bwmk?", kAnswerNo);
+       }});
+  EXPECT_EQ(machine_.BytesOf(kBeside).find("First"), std::string::npos);
 }
 
 TEST_F(Start, ExitReachesAProgramWhoseMenuIsOpen) {
