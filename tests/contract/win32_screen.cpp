@@ -7,6 +7,7 @@
 #include "platform/key_codes.h"
 #include "platform/win32/form_window.h"
 #include "platform/win32/handles.h"
+#include "tests/contract/held_modifiers.h"
 
 namespace burrowmark {
 namespace {
@@ -14,25 +15,6 @@ namespace {
 constexpr int kTries = 500;
 constexpr std::int32_t kPause = 10;  // milliseconds
 constexpr LPARAM kWithAlt = LPARAM{1} << 29;
-constexpr BYTE kDown = 0x80;
-
-// Holds the shift key down while it lives.
-class HeldShift {
- public:
-  explicit HeldShift(bool down) {
-    ::GetKeyboardState(before_);
-    BYTE now[256];
-    ::GetKeyboardState(now);
-    now[VK_SHIFT] = down ? kDown : 0;
-    ::SetKeyboardState(now);
-  }
-  ~HeldShift() { ::SetKeyboardState(before_); }
-  HeldShift(const HeldShift&) = delete;
-  HeldShift& operator=(const HeldShift&) = delete;
-
- private:
-  BYTE before_[256] = {};
-};
 
 // Where keys go: the control with the focus, or the form itself.
 HWND KeyTarget(HWND form) {
@@ -90,9 +72,9 @@ void Win32Screen::Click(WindowHandle, WindowHandle button) {
 }
 
 void Win32Screen::Press(WindowHandle form, std::int32_t keyCode, std::int32_t shift) {
-  const HeldShift held((shift & kShiftMask) != 0);
+  const HeldModifiers held(shift);
   const HWND target = KeyTarget(ToHwnd(form));
-  ::PostMessageW(target, WM_KEYDOWN, static_cast<WPARAM>(keyCode), 1);
+  ::PostMessageW(target, keyCode == kKeyCodeF10 ? WM_SYSKEYDOWN : WM_KEYDOWN, static_cast<WPARAM>(keyCode), 1);
   ::PostMessageW(target, WM_KEYUP, static_cast<WPARAM>(keyCode), 1);
   windows_.DoEvents();
 }
@@ -113,6 +95,7 @@ void Win32Screen::Resize(WindowHandle form, std::int32_t width, std::int32_t hei
 }
 
 void Win32Screen::ChangeScale(WindowHandle form, std::int32_t dpi) {
+  scales_[form] = dpi;
   RECT rect = {};
   ::GetWindowRect(ToHwnd(form), &rect);
   ::SendMessageW(ToHwnd(form), WM_DPICHANGED, MAKEWPARAM(dpi, dpi), reinterpret_cast<LPARAM>(&rect));
