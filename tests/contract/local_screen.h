@@ -34,6 +34,25 @@ class LocalScreen final : public ScreenUnderTest {
   void ChooseEntry(WindowHandle form, WindowHandle combo, std::int32_t index) override;
   void ChooseTab(WindowHandle form, WindowHandle strip, std::int32_t index) override;
   std::int32_t TabOf(WindowHandle strip) override;
+  void ClickRow(WindowHandle form, WindowHandle list, std::int32_t row, std::int32_t button,
+                std::int32_t shift) override;
+  void DoubleClickRow(WindowHandle form, WindowHandle list, std::int32_t row) override;
+  void CheckRow(WindowHandle form, WindowHandle list, std::int32_t row) override;
+  void ClickColumn(WindowHandle form, WindowHandle list, std::int32_t column) override;
+  void DragColumn(WindowHandle form, WindowHandle list, std::int32_t column, std::int32_t width) override;
+  std::wstring RowsOf(WindowHandle list) override;
+  std::wstring CellOf(WindowHandle list, std::int32_t row, std::int32_t column) override;
+  std::int32_t ColumnWidth(WindowHandle list, std::int32_t column) override;
+  std::wstring ColumnText(WindowHandle list, std::int32_t column) override;
+  MouseEvent PointOfRow(WindowHandle form, WindowHandle list, std::int32_t row) override;
+  void ClickNode(WindowHandle form, WindowHandle tree, const std::wstring& text, std::int32_t button) override;
+  void DoubleClickNode(WindowHandle form, WindowHandle tree, const std::wstring& text) override;
+  void CheckNode(WindowHandle form, WindowHandle tree, const std::wstring& text) override;
+  void ToggleNode(WindowHandle form, WindowHandle tree, const std::wstring& text) override;
+  std::wstring NodesOf(WindowHandle tree) override;
+  MouseEvent PointOfNode(WindowHandle form, WindowHandle tree, const std::wstring& text) override;
+  bool EditsLabel(WindowHandle control) override;
+  void TypeLabel(WindowHandle form, WindowHandle control, const std::wstring& text) override;
   void NextWindow(const std::wstring& caption, std::function<void()> script) override;
   std::string Complaints() override { return machine_.user.TakeComplaints(); }
 

@@ -8,6 +8,7 @@
 
 #include "platform/drawing.h"
 #include "platform/twips.h"
+#include "platform/ui_control.h"
 #include "platform/window_handle.h"
 
 namespace burrowmark {
@@ -72,6 +73,34 @@ class ScreenUnderTest {
   virtual void ChooseEntry(WindowHandle form, WindowHandle combo, std::int32_t index) = 0;
   virtual void ChooseTab(WindowHandle form, WindowHandle strip, std::int32_t index) = 0;
   virtual std::int32_t TabOf(WindowHandle strip) = 0;
+  // Lists: rows and columns count from 0, and row -1 is the empty space below them.
+  virtual void ClickRow(WindowHandle form, WindowHandle list, std::int32_t row, std::int32_t button = kLeftButton,
+                        std::int32_t shift = 0) = 0;
+  virtual void DoubleClickRow(WindowHandle form, WindowHandle list, std::int32_t row) = 0;
+  virtual void CheckRow(WindowHandle form, WindowHandle list, std::int32_t row) = 0;
+  virtual void ClickColumn(WindowHandle form, WindowHandle list, std::int32_t column) = 0;
+  // The right edge of a column's header, to a width in twips.
+  virtual void DragColumn(WindowHandle form, WindowHandle list, std::int32_t column, std::int32_t width) = 0;
+  // "+" behind a selected row, "*" behind the current one, "~" behind a ghost, "v" behind a checked one and "<" behind
+  // the one to drop on.
+  virtual std::wstring RowsOf(WindowHandle list) = 0;
+  virtual std::wstring CellOf(WindowHandle list, std::int32_t row, std::int32_t column) = 0;
+  virtual std::int32_t ColumnWidth(WindowHandle list, std::int32_t column) = 0;  // pixels
+  virtual std::wstring ColumnText(WindowHandle list, std::int32_t column) = 0;
+  // In twips, somewhere in the row's text.
+  virtual MouseEvent PointOfRow(WindowHandle form, WindowHandle list, std::int32_t row) = 0;
+  // Trees: a node is the first visible one with that text; no text is the empty space below all.
+  virtual void ClickNode(WindowHandle form, WindowHandle tree, const std::wstring& text,
+                         std::int32_t button = kLeftButton) = 0;
+  virtual void DoubleClickNode(WindowHandle form, WindowHandle tree, const std::wstring& text) = 0;
+  virtual void CheckNode(WindowHandle form, WindowHandle tree, const std::wstring& text) = 0;
+  virtual void ToggleNode(WindowHandle form, WindowHandle tree, const std::wstring& text) = 0;
+  // The visible nodes with a "." for each level, marked as rows are.
+  virtual std::wstring NodesOf(WindowHandle tree) = 0;
+  virtual MouseEvent PointOfNode(WindowHandle form, WindowHandle tree, const std::wstring& text) = 0;
+  // Of lists and trees.
+  virtual bool EditsLabel(WindowHandle control) = 0;
+  virtual void TypeLabel(WindowHandle form, WindowHandle control, const std::wstring& text) = 0;
 
   // Runs when a modal window of that caption is up; it must go meanwhile.
   virtual void NextWindow(const std::wstring& caption, std::function<void()> script) = 0;

@@ -14,6 +14,7 @@
 #include "platform/ui_bar_peers.h"
 #include "platform/win32/form_window.h"
 #include "platform/win32/handles.h"
+#include "tests/contract/held_modifiers.h"
 
 namespace burrowmark {
 namespace {
@@ -21,27 +22,6 @@ namespace {
 constexpr int kTries = 500;
 constexpr std::int32_t kPause = 10;  // milliseconds
 constexpr LPARAM kWithAlt = LPARAM{1} << 29;
-constexpr BYTE kDown = 0x80;
-
-// Holds Shift and its like down while it lives.
-class HeldMasks {
- public:
-  explicit HeldMasks(std::int32_t shift) {
-    ::GetKeyboardState(before_);
-    BYTE now[256];
-    ::GetKeyboardState(now);
-    const auto held = [shift](std::int32_t mask) { return (shift & mask) != 0 ? kDown : BYTE{0}; };
-    now[VK_SHIFT] = held(kShiftMask);
-    now[VK_CONTROL] = held(kCtrlMask);
-    ::SetKeyboardState(now);
-  }
-  ~HeldMasks() { ::SetKeyboardState(before_); }
-  HeldMasks(const HeldMasks&) = delete;
-  HeldMasks& operator=(const HeldMasks&) = delete;
-
- private:
-  BYTE before_[256] = {};
-};
 
 // Where keys go: the control with the focus, or the form itself.
 HWND KeyTarget(HWND form) {
@@ -165,9 +145,9 @@ void Win32Screen::Click(WindowHandle, WindowHandle button) {
 }
 
 void Win32Screen::Press(WindowHandle form, std::int32_t keyCode, std::int32_t shift) {
-  const HeldMasks held(shift);
+  const HeldModifiers held(shift);
   const HWND target = KeyTarget(ToHwnd(form));
-  ::PostMessageW(target, WM_KEYDOWN, static_cast<WPARAM>(keyCode), 1);
+  ::PostMessageW(target, keyCode == kKeyCodeF10 ? WM_SYSKEYDOWN : WM_KEYDOWN, static_cast<WPARAM>(keyCode), 1);
   ::PostMessageW(target, WM_KEYUP, static_cast<WPARAM>(keyCode), 1);
   windows_.DoEvents();
 }
@@ -188,6 +168,7 @@ void Win32Screen::Resize(WindowHandle form, std::int32_t width, std::int32_t hei
 }
 
 void Win32Screen::ChangeScale(WindowHandle form, std::int32_t dpi) {
+  scales_[form] = dpi;
   RECT rect = {};
   ::GetWindowRect(ToHwnd(form), &rect);
   ::SendMessageW(ToHwnd(form), WM_DPICHANGED, MAKEWPARAM(dpi, dpi), reinterpret_cast<LPARAM>(&rect));

@@ -3,6 +3,8 @@
 
 #ifdef _WIN32
 
+#include <map>
+
 #include "platform/window_system.h"
 #include "tests/contract/screen_under_test.h"
 
@@ -36,6 +38,25 @@ class Win32Screen final : public ScreenUnderTest {
   void ChooseEntry(WindowHandle form, WindowHandle combo, std::int32_t index) override;
   void ChooseTab(WindowHandle form, WindowHandle strip, std::int32_t index) override;
   std::int32_t TabOf(WindowHandle strip) override;
+  void ClickRow(WindowHandle form, WindowHandle list, std::int32_t row, std::int32_t button,
+                std::int32_t shift) override;
+  void DoubleClickRow(WindowHandle form, WindowHandle list, std::int32_t row) override;
+  void CheckRow(WindowHandle form, WindowHandle list, std::int32_t row) override;
+  void ClickColumn(WindowHandle form, WindowHandle list, std::int32_t column) override;
+  void DragColumn(WindowHandle form, WindowHandle list, std::int32_t column, std::int32_t width) override;
+  std::wstring RowsOf(WindowHandle list) override;
+  std::wstring CellOf(WindowHandle list, std::int32_t row, std::int32_t column) override;
+  std::int32_t ColumnWidth(WindowHandle list, std::int32_t column) override;
+  std::wstring ColumnText(WindowHandle list, std::int32_t column) override;
+  MouseEvent PointOfRow(WindowHandle form, WindowHandle list, std::int32_t row) override;
+  void ClickNode(WindowHandle form, WindowHandle tree, const std::wstring& text, std::int32_t button) override;
+  void DoubleClickNode(WindowHandle form, WindowHandle tree, const std::wstring& text) override;
+  void CheckNode(WindowHandle form, WindowHandle tree, const std::wstring& text) override;
+  void ToggleNode(WindowHandle form, WindowHandle tree, const std::wstring& text) override;
+  std::wstring NodesOf(WindowHandle tree) override;
+  MouseEvent PointOfNode(WindowHandle form, WindowHandle tree, const std::wstring& text) override;
+  bool EditsLabel(WindowHandle control) override;
+  void TypeLabel(WindowHandle form, WindowHandle control, const std::wstring& text) override;
   void NextWindow(const std::wstring& caption, std::function<void()> script) override;
   std::string Complaints() override;
 
@@ -55,7 +76,10 @@ class Win32Screen final : public ScreenUnderTest {
   // Looks again and again, and runs the script once there is such a window.
   void WhenThereIs(std::function<WindowHandle()> find, std::function<void(WindowHandle)> script, int tries);
 
+  MouseEvent EventAt(WindowHandle form, std::int32_t x, std::int32_t y);
+
   WindowSystem& windows_;
+  std::map<WindowHandle, std::int32_t> scales_;  // of forms that were changed
   int waiting_ = 0;
 };
 

@@ -132,8 +132,7 @@ void Win32Toolbar::ShowImages() {
   ImageListHandle images = MakeImageList(toolbar_.Images(), Dpi());
   ImageListHandle disabled = MakeImageList(toolbar_.DisabledImages(), Dpi());
   Send(TB_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(images.get()));
-  const bool hasDisabled = !toolbar_.DisabledImages().icons.empty();
-  Send(TB_SETDISABLEDIMAGELIST, 0, reinterpret_cast<LPARAM>(hasDisabled ? disabled.get() : nullptr));
+  Send(TB_SETDISABLEDIMAGELIST, 0, reinterpret_cast<LPARAM>(disabled.get()));
   images_ = std::move(images);
   disabledImages_ = std::move(disabled);
   shown_ = std::move(wanted);
@@ -144,7 +143,7 @@ void Win32Toolbar::AddButtons() {
   for (const ToolbarButtonState& button : toolbar_.Buttons()) {
     const bool separator = button.style == ToolbarButtonStyle::kSeparator;
     TBBUTTON native = {};
-    native.iBitmap = button.image > 0 ? button.image - 1 : I_IMAGENONE;
+    native.iBitmap = button.image > 0 ? button.image : I_IMAGENONE;
     if (separator) native.iBitmap = Scaled(kSeparatorWidth, Dpi(), kDesignDpi);
     native.idCommand = ItemOf(natives.size());
     native.fsState = button.enabled ? TBSTATE_ENABLED : 0;

@@ -23,6 +23,7 @@ ChildWindow::ChildWindow(const wchar_t* className, const std::wstring& text, DWO
                         at.right - at.left, at.bottom - at.top, place.parent,
                         reinterpret_cast<HMENU>(static_cast<INT_PTR>(form_.NextId())), WindowClass::Module(), nullptr);
   if (window_ == nullptr) return;
+  native_ = reinterpret_cast<WNDPROC>(::GetWindowLongPtrW(window_, GWLP_WNDPROC));
   form_.AddControl(window_);
   ::SendMessageW(window_, WM_SETFONT, reinterpret_cast<WPARAM>(form_.Font()), FALSE);
   ::SetWindowSubclass(window_, Procedure, kSubclass, reinterpret_cast<DWORD_PTR>(this));
@@ -37,6 +38,10 @@ void ChildWindow::Command(UINT) {}
 void ChildWindow::CommandFrom(UINT, UINT notification) { Command(notification); }
 void ChildWindow::Rescaled() {}
 LRESULT ChildWindow::Notify(NMHDR&) { return 0; }
+std::optional<LRESULT> ChildWindow::Mouse(const MouseMessage& mouse, UINT, WPARAM, LPARAM) {
+  control_->UserMouse(mouse.action, mouse.event);
+  return std::nullopt;
+}
 std::optional<LRESULT> ChildWindow::Handle(UINT, WPARAM, LPARAM) { return std::nullopt; }
 
 void ChildWindow::Place() const {
@@ -98,15 +103,19 @@ std::optional<LRESULT> ChildWindow::Receive(UINT message, WPARAM wParam, LPARAM 
       return control_->UserKeyDown(static_cast<std::int32_t>(wParam), HeldKeys()) ? 1 : 0;
     case WM_SETFOCUS:
     case WM_KILLFOCUS: {
-      // The control draws itself first: what hears of the focus may unload the form.
+      // The control draws itself first: what hears of the focus may unload the form. Its own label edit is a part of
+      // it.
+      const bool within = ::IsChild(window_, reinterpret_cast<HWND>(wParam)) != FALSE;
       const LRESULT result = ::DefSubclassProc(window_, message, wParam, lParam);
-      if (control_ != nullptr) control_->UserFocus(message == WM_SETFOCUS);
+      if (control_ != nullptr && !within) control_->UserFocus(message == WM_SETFOCUS);
       return result;
     }
     default:
       break;
   }
-  if (const auto mouse = DecodeMouse(message, wParam, lParam, Dpi())) control_->UserMouse(mouse->action, mouse->event);
+  if (const auto mouse = DecodeMouse(message, wParam, lParam, Dpi())) {
+    if (const auto result = Mouse(*mouse, message, wParam, lParam)) return result;
+  }
   return IsRetired() ? std::nullopt : Handle(message, wParam, lParam);
 }
 

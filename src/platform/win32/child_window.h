@@ -44,12 +44,19 @@ class ChildWindow {
   // The same for a window of many items, with the number of the one that it is about.
   virtual void CommandFrom(UINT item, UINT notification);
   virtual LRESULT Notify(NMHDR& record);
+  // A message of the mouse before the system's own procedure sees it. None: that goes on.
+  virtual std::optional<LRESULT> Mouse(const MouseMessage& mouse, UINT message, WPARAM wParam, LPARAM lParam);
   // Any other message before the system's own procedure sees it. None: that goes on.
   virtual std::optional<LRESULT> Handle(UINT message, WPARAM wParam, LPARAM lParam);
   // The form has another scale; font and place are those of the new one.
   virtual void Rescaled();
   // The height in pixels that the system is told where the control is as high as this.
   virtual int NativeHeight(int height) const { return height; }
+  // To the control's class directly. To send a message costs several times as much, which counts where there are
+  // thousands.
+  LRESULT Native(UINT message, WPARAM wParam, LPARAM lParam) const {
+    return ::CallWindowProcW(native_, window_, message, wParam, lParam);
+  }
   FormWindow& TheForm() const { return form_; }
   std::int32_t Dpi() const { return form_.Dpi(); }
   // Twips that a text needs in the control's font, drawn as DrawText does with `format`; `around` is what the control
@@ -64,22 +71,23 @@ class ChildWindow {
   FormWindow& form_;
   ControlState* control_;  // none after the retirement
   HWND window_ = nullptr;
+  WNDPROC native_ = nullptr;
 };
 
 // The peer of a control whose window is a system's own.
-template <typename KindPeer>
-class ChildPeer : public KindPeer, protected ChildWindow {
+template <typename KindPeer, typename Base = ChildWindow>
+class ChildPeer : public KindPeer, protected Base {
  public:
-  using ChildWindow::ChildWindow;
+  using Base::Base;
 
   void Retire() final { ChildWindow::Retire(); }
-  WindowHandle Window() const final { return FromHwnd(Handle()); }
-  void PlaceChanged() final { Place(); }
-  void VisibleChanged() final { ShowOrHide(); }
-  void EnabledChanged() final { EnableOrDisable(); }
-  void TabStopChanged() final { FollowTabStop(); }
-  void ScaleChanged() final { FollowScale(); }
-  void TakeFocus() final { ::SetFocus(Handle()); }
+  WindowHandle Window() const final { return FromHwnd(ChildWindow::Handle()); }
+  void PlaceChanged() final { ChildWindow::Place(); }
+  void VisibleChanged() final { ChildWindow::ShowOrHide(); }
+  void EnabledChanged() final { ChildWindow::EnableOrDisable(); }
+  void TabStopChanged() final { ChildWindow::FollowTabStop(); }
+  void ScaleChanged() override { ChildWindow::FollowScale(); }
+  void TakeFocus() final { ::SetFocus(ChildWindow::Handle()); }
 };
 
 }  // namespace burrowmark

@@ -338,6 +338,7 @@ void FormWindow::FollowScale(std::int32_t dpi, const RECT& suggested) {
 
 bool FormWindow::Translate(MSG& message) {
   NoteInput(message.message);
+  if (message.hwnd == labelEdit_) return false;
   const bool key = message.message == WM_KEYDOWN || message.message == WM_SYSKEYDOWN;
   if (key && FromSystem([&] { return PreviewKey(message); }, false)) return true;
   return form_ != nullptr && ::IsDialogMessageW(window_, &message) != FALSE;
@@ -445,7 +446,8 @@ LRESULT FormWindow::EnterButtonId() const {
 void FormWindow::Activate(bool active) {
   if (!active) {
     const HWND focus = ::GetFocus();
-    if (::IsChild(window_, focus) != FALSE) focusBefore_ = focus;
+    // A label edit won't be there any more: the control that it is in.
+    if (::IsChild(window_, focus) != FALSE) focusBefore_ = controls_.contains(focus) ? focus : ::GetParent(focus);
   } else if (::IsIconic(window_) == FALSE) {
     ::SetFocus(window_);
   }

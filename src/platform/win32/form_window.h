@@ -52,6 +52,8 @@ class FormWindow final : public FormPeer {
   // Windows of controls; keys in others, as that of a label edit, are nobody's business.
   void AddControl(HWND control) { controls_.insert(control); }
   void RemoveControl(HWND control) { controls_.erase(control); }
+  // The edit of a label, for which Enter and Esc are nothing of the form's; none for no edit.
+  void LeaveKeysTo(HWND labelEdit) { labelEdit_ = labelEdit; }
 
   void Retire() override;
   WindowHandle Window() const override;
@@ -109,6 +111,7 @@ class FormWindow final : public FormPeer {
   int lastId_ = 100;  // the low numbers are those of Enter and Esc
   bool making_ = true;
   std::set<HWND> controls_;
+  HWND labelEdit_ = nullptr;
   HWND focusBefore_ = nullptr;  // had it when the window was left
   HWND blockedOwner_ = nullptr;
   EntryMenus menus_;

@@ -19,12 +19,15 @@ IconImage EmptyImage(int size) {
 }  // namespace
 
 ImageListHandle MakeImageList(const ImageList& images, std::int32_t dpi) {
+  if (images.icons.empty()) return nullptr;
   const int size = Scaled(images.size, dpi, kDesignDpi);
-  ImageListHandle list(
-      ::ImageList_Create(size, size, ILC_COLOR32 | ILC_MASK, static_cast<int>(images.icons.size()), 0));
+  const int count = static_cast<int>(images.icons.size()) + 1;
+  ImageListHandle list(::ImageList_Create(size, size, ILC_COLOR32 | ILC_MASK, count, 0));
+  const IconImage empty = EmptyImage(size);
+  ::ImageList_ReplaceIcon(list.get(), -1, empty.get());
   for (const std::int32_t number : images.icons) {
     const IconImage image = LoadIconImage(number, size);
-    ::ImageList_ReplaceIcon(list.get(), -1, image ? image.get() : EmptyImage(size).get());
+    ::ImageList_ReplaceIcon(list.get(), -1, image ? image.get() : empty.get());
   }
   return list;
 }

@@ -18,7 +18,8 @@ struct DestroyImageList {
 };
 using ImageListHandle = std::unique_ptr<std::remove_pointer_t<HIMAGELIST>, DestroyImageList>;
 
-// The pictures in the size that the scale asks for, in the same order. One that the program hasn't got is left empty.
+// The pictures in the size that the scale asks for: image n stands at index n, and an empty one at 0. One that the
+// program hasn't got is empty too. None for a list without images.
 ImageListHandle MakeImageList(const ImageList& images, std::int32_t dpi);
 
 }  // namespace burrowmark
