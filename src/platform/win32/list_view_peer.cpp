@@ -53,7 +53,6 @@ Win32ListView::Win32ListView(const ChildPlace& place, ListViewState& list)
   for (std::size_t column = 0; column < list.Columns().size(); ++column) {
     ColumnChanged(static_cast<std::int32_t>(column));
   }
-  LoadImages();
   ViewChanged();
   for (std::int32_t row = 0; row < list.RowCount(); ++row) RowAdded(row);
   CurrentRowChanged();
@@ -65,7 +64,6 @@ Win32ListView::Win32ListView(const ChildPlace& place, ListViewState& list)
 void Win32ListView::ScaleChanged() {
   const Telling telling(*this);
   FollowScale();
-  LoadImages();
   for (std::size_t column = 0; column < list_.Columns().size(); ++column) {
     ColumnChanged(static_cast<std::int32_t>(column));
   }
@@ -84,6 +82,9 @@ void Win32ListView::LoadImages() {
 void Win32ListView::ViewChanged() {
   const Telling telling(*this);
   LoadImages();
+  // While it is hidden the header doesn't hear of another font.
+  const auto header = reinterpret_cast<HWND>(Native(LVM_GETHEADER, 0, 0));
+  ::SendMessageW(header, WM_SETFONT, reinterpret_cast<WPARAM>(TheForm().Font()), FALSE);
   SetStyle(LVS_TYPEMASK, false);
   SetStyle(StyleOf(list_.View()), true);
   Native(LVM_SETEXTENDEDLISTVIEWSTYLE, LVS_EX_GRIDLINES, list_.GridLines() ? LVS_EX_GRIDLINES : 0);
@@ -360,7 +361,7 @@ void Win32ListView::StartLabelEdit(std::int32_t row) {
 }
 
 LRESULT Win32ListView::BeginLabelEdit(const NMLVDISPINFOW& record) {
-  if (!IsEditAsked() || !list_.UserBeginLabelEdit(record.item.iItem)) return TRUE;
+  if (!IsEditAsked() || !list_.UserBeginLabelEdit(record.item.iItem) || IsRetired()) return TRUE;
   LabelEditBegins(LVM_GETEDITCONTROL);
   return FALSE;
 }

@@ -268,7 +268,7 @@ void Win32TreeView::StartLabelEdit(TreeNodeState& node) { EditLabel(TVM_EDITLABE
 
 LRESULT Win32TreeView::BeginLabelEdit(const NMTVDISPINFOW& record) {
   auto* node = reinterpret_cast<TreeNodeState*>(record.item.lParam);
-  if (!IsEditAsked() || node == nullptr || !tree_.UserBeginLabelEdit(*node)) return TRUE;
+  if (!IsEditAsked() || node == nullptr || !tree_.UserBeginLabelEdit(*node) || IsRetired()) return TRUE;
   LabelEditBegins(TVM_GETEDITCONTROL);
   return FALSE;
 }
