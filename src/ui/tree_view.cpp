@@ -71,12 +71,12 @@ TreeNode* TreeView::Add(TreeNode* relative, TreeRelation relation, std::wstring 
   TreeNode& node = *place->second;
   node.text = std::move(text);
   node.image = image;
-  PutIn(node, relative, relation);
+  Insert(node, relative, relation);
   Tell(&TreeViewPeer::NodeAdded, node);
   return &node;
 }
 
-void TreeView::PutIn(TreeNode& node, TreeNode* relative, TreeRelation relation) {
+void TreeView::Insert(TreeNode& node, TreeNode* relative, TreeRelation relation) {
   if (relative == nullptr || relation == TreeRelation::kChild) {
     node.parent = relative;
     SiblingsOf(node).push_back(&node);

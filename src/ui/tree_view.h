@@ -122,7 +122,7 @@ class TreeView final : public ControlOf<TreeViewState, TreeViewPeer> {
   static TreeNode* Node(TreeNodeState* state) { return static_cast<TreeNode*>(state); }
   static bool IsIn(const TreeNodeState* node, const TreeNodeState& top);
   std::vector<TreeNodeState*>& SiblingsOf(const TreeNodeState& node);
-  void PutIn(TreeNode& node, TreeNode* relative, TreeRelation relation);
+  void Insert(TreeNode& node, TreeNode* relative, TreeRelation relation);
   TreeNode* NextSelection(const TreeNode& removed);
   void Forget(TreeNode& node);
   void Open(TreeNode& node, bool expanded);

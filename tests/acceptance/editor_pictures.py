@@ -87,7 +87,10 @@ def take_all(settings, output, dpi):
         program.set_option("AC0", True)
         program.set_option("AC1", True)
         program.write_tree(*tree())
-        program.start()
+        # The drives come with the first opening of the menu.
+        program.open_menu(program.start())
+        desktop.keys("Esc")
+        program.wait_no_menu()
         editor = Editor.open(program)
         album = Album(desktop, output)
         album.save("start")

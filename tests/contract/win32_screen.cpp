@@ -149,6 +149,8 @@ void Win32Screen::Press(WindowHandle form, std::int32_t keyCode, std::int32_t sh
   const HWND target = KeyTarget(ToHwnd(form));
   ::PostMessageW(target, keyCode == kKeyCodeF10 ? WM_SYSKEYDOWN : WM_KEYDOWN, static_cast<WPARAM>(keyCode), 1);
   ::PostMessageW(target, WM_KEYUP, static_cast<WPARAM>(keyCode), 1);
+  // The system makes this one itself of what comes from a keyboard.
+  if (keyCode == kKeyCodeApps) ::PostMessageW(target, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(target), -1);
   windows_.DoEvents();
 }
 

@@ -49,19 +49,26 @@ void LocalTreeView::Add(TreeNodeState& node) {
   shown.state = &node;
   shown.parent = &parent;
   Copy(node, shown);
-  node.native = reinterpret_cast<std::intptr_t>(&shown);
+  shown_[&node] = &shown;
   for (TreeNodeState* child : node.children) Add(*child);
+}
+
+void LocalTreeView::Forget(const TreeNodeState& node) {
+  for (const TreeNodeState* child : node.children) Forget(*child);
+  shown_.erase(&node);
 }
 
 void LocalTreeView::NodeRemoved(TreeNodeState& node) {
   ShownNode& shown = Of(node);
   pressedAgain_ = nullptr;
   Shown().labelEdit.reset();
+  Forget(node);
   std::erase_if(shown.parent->children, [&shown](const auto& child) { return child.get() == &shown; });
 }
 
 void LocalTreeView::NodesCleared() {
   tree_->top.children.clear();
+  shown_.clear();
   tree_->selected = nullptr;
   tree_->drop = nullptr;
   pressedAgain_ = nullptr;

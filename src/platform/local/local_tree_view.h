@@ -1,6 +1,8 @@
 // A tree view of the local machine.
 #pragma once
 
+#include <unordered_map>
+
 #include "platform/local/local_control.h"
 
 namespace burrowmark {
@@ -24,10 +26,11 @@ class LocalTreeView final : public LocalControl<TreeViewPeer, TreeViewState> {
   TreeNodeState* HitTest(std::int32_t x, std::int32_t y) const override;
 
  private:
-  static ShownNode& Of(TreeNodeState& node) { return *reinterpret_cast<ShownNode*>(node.native); }
-  static ShownNode* Of(TreeNodeState* node) { return node == nullptr ? nullptr : &Of(*node); }
+  ShownNode& Of(const TreeNodeState& node) const { return *shown_.at(&node); }
+  ShownNode* Of(const TreeNodeState* node) const { return node == nullptr ? nullptr : &Of(*node); }
   static void Copy(const TreeNodeState& node, ShownNode& shown);
   void Add(TreeNodeState& node);
+  void Forget(const TreeNodeState& node);
   void AddDoors();
   void Focus(bool has);
   void Mouse(MouseAction action, const MouseEvent& event);
@@ -44,6 +47,7 @@ class LocalTreeView final : public LocalControl<TreeViewPeer, TreeViewState> {
   void Expand(ShownNode& node, bool expanded);
 
   std::shared_ptr<ShownTree> tree_ = std::make_shared<ShownTree>();
+  std::unordered_map<const TreeNodeState*, ShownNode*> shown_;
   ShownNode* pressedAgain_ = nullptr;  // it was the selected one already
   bool pressed_ = false;
 };

@@ -47,7 +47,7 @@ std::optional<LRESULT> ChildWindow::Handle(UINT, WPARAM, LPARAM) { return std::n
 void ChildWindow::Place() const {
   const Rect at = ToPixels(control_->Place(), form_.Dpi());
   ::SetWindowPos(window_, nullptr, at.left, at.top, at.right - at.left, NativeHeight(at.bottom - at.top),
-                 SWP_NOZORDER | SWP_NOACTIVATE);
+                 SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOCOPYBITS);
 }
 
 void ChildWindow::ShowOrHide() const { ::ShowWindow(window_, control_->Visible() ? SW_SHOWNA : SW_HIDE); }

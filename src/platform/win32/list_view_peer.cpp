@@ -9,7 +9,8 @@
 namespace burrowmark {
 namespace {
 
-constexpr DWORD kStyle = LVS_SHAREIMAGELISTS | LVS_SHOWSELALWAYS | LVS_AUTOARRANGE;
+// Clipped: other controls may lie over it.
+constexpr DWORD kStyle = WS_CLIPSIBLINGS | LVS_SHAREIMAGELISTS | LVS_SHOWSELALWAYS | LVS_AUTOARRANGE;
 constexpr DWORD kExtendedStyle = LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER | LVS_EX_INFOTIP;
 constexpr UINT kSelection = LVIS_SELECTED | LVIS_FOCUSED;
 constexpr int kSpaceInListColumn = 12;  // pixels at 96 dots per inch, beside the icon and the text
@@ -53,7 +54,6 @@ Win32ListView::Win32ListView(const ChildPlace& place, ListViewState& list)
   for (std::size_t column = 0; column < list.Columns().size(); ++column) {
     ColumnChanged(static_cast<std::int32_t>(column));
   }
-  LoadImages();
   ViewChanged();
   for (std::int32_t row = 0; row < list.RowCount(); ++row) RowAdded(row);
   CurrentRowChanged();
@@ -65,7 +65,6 @@ Win32ListView::Win32ListView(const ChildPlace& place, ListViewState& list)
 void Win32ListView::ScaleChanged() {
   const Telling telling(*this);
   FollowScale();
-  LoadImages();
   for (std::size_t column = 0; column < list_.Columns().size(); ++column) {
     ColumnChanged(static_cast<std::int32_t>(column));
   }
@@ -84,6 +83,9 @@ void Win32ListView::LoadImages() {
 void Win32ListView::ViewChanged() {
   const Telling telling(*this);
   LoadImages();
+  // While it is hidden the header doesn't hear of another font.
+  const auto header = reinterpret_cast<HWND>(Native(LVM_GETHEADER, 0, 0));
+  ::SendMessageW(header, WM_SETFONT, reinterpret_cast<WPARAM>(TheForm().Font()), FALSE);
   SetStyle(LVS_TYPEMASK, false);
   SetStyle(StyleOf(list_.View()), true);
   Native(LVM_SETEXTENDEDLISTVIEWSTYLE, LVS_EX_GRIDLINES, list_.GridLines() ? LVS_EX_GRIDLINES : 0);
@@ -360,7 +362,7 @@ void Win32ListView::StartLabelEdit(std::int32_t row) {
 }
 
 LRESULT Win32ListView::BeginLabelEdit(const NMLVDISPINFOW& record) {
-  if (!IsEditAsked() || !list_.UserBeginLabelEdit(record.item.iItem)) return TRUE;
+  if (!IsEditAsked() || !list_.UserBeginLabelEdit(record.item.iItem) || IsRetired()) return TRUE;
   LabelEditBegins(LVM_GETEDITCONTROL);
   return FALSE;
 }

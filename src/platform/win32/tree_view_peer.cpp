@@ -8,7 +8,8 @@
 namespace burrowmark {
 namespace {
 
-constexpr DWORD kStyle = TVS_HASBUTTONS | TVS_HASLINES | TVS_LINESATROOT | TVS_SHOWSELALWAYS;
+// Clipped: other controls may lie over it.
+constexpr DWORD kStyle = WS_CLIPSIBLINGS | TVS_HASBUTTONS | TVS_HASLINES | TVS_LINESATROOT | TVS_SHOWSELALWAYS;
 constexpr int kIndent = 19;  // pixels at 96 dots per inch
 constexpr UINT kOnNode = TVHT_ONITEMICON | TVHT_ONITEMLABEL;
 constexpr UINT kStateBits = TVIS_CUT | TVIS_STATEIMAGEMASK;
@@ -268,7 +269,7 @@ void Win32TreeView::StartLabelEdit(TreeNodeState& node) { EditLabel(TVM_EDITLABE
 
 LRESULT Win32TreeView::BeginLabelEdit(const NMTVDISPINFOW& record) {
   auto* node = reinterpret_cast<TreeNodeState*>(record.item.lParam);
-  if (!IsEditAsked() || node == nullptr || !tree_.UserBeginLabelEdit(*node)) return TRUE;
+  if (!IsEditAsked() || node == nullptr || !tree_.UserBeginLabelEdit(*node) || IsRetired()) return TRUE;
   LabelEditBegins(TVM_GETEDITCONTROL);
   return FALSE;
 }

@@ -97,13 +97,9 @@ std::optional<LRESULT> ViewWindow::Handle(UINT message, WPARAM wParam, LPARAM lP
       if (!IsRetired()) KeyHandled();
       return result;
     }
-    // The system makes context menus of these too, but not everywhere, and may open the window's own menu as well.
+    // The system makes a context menu of this too, but may open the window's own menu behind it.
     case WM_SYSKEYDOWN:
       if (wParam != VK_F10 || HeldKeys() != kShiftMask) break;
-      ContextKey();
-      return 0;
-    case WM_KEYUP:
-      if (wParam != VK_APPS) break;
       ContextKey();
       return 0;
     case WM_CONTEXTMENU:
