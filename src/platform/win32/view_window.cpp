@@ -144,6 +144,7 @@ void ViewWindow::LabelEditBegins(UINT getEdit) {
 // The focus has left the label; it may have gone past the control that hasn't had it.
 LRESULT ViewWindow::EditTold(WPARAM wParam, LPARAM lParam) {
   const LRESULT result = ::DefSubclassProc(Handle(), WM_COMMAND, wParam, lParam);
+  LabelEditEnds();
   const HWND focus = ::GetFocus();
   if (!IsRetired() && focus != Handle() && ::IsChild(Handle(), focus) == FALSE) state_.UserFocus(false);
   return result;
