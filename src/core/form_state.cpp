@@ -1,7 +1,6 @@
 #include "core/form_state.h"
 
 #include <algorithm>
-#include <optional>
 #include <vector>
 
 #include "core/failure.h"
@@ -41,15 +40,15 @@ class FormValues {
   FormValues(Application& app, const std::wstring& formName)
       : registry_(app.platform.registry), key_(GetFormRegKey(formName)) {}
 
-  // None for a value that is missing; 0 for one that is no number.
-  std::optional<std::int32_t> Read(const wchar_t* name) {
+  // False if the value is missing. One that is no number is 0.
+  bool Read(const wchar_t* name, std::int32_t& value) {
     std::wstring text;
-    if (!registry_.GetKeyValue(RegistryKey::kCurrentUser, key_, name, text)) return std::nullopt;
+    if (!registry_.GetKeyValue(RegistryKey::kCurrentUser, key_, name, text)) return false;
     text = Trim(text);
-    if (text.empty()) return std::nullopt;
-    std::int32_t value = 0;
+    if (text.empty()) return false;
+    value = 0;
     Skip([&] { value = ToInt32(text); });
-    return value;
+    return true;
   }
   void Write(const wchar_t* name, std::int32_t value) {
     registry_.SetKeyValue(RegistryKey::kCurrentUser, key_, name, DecimalText(value));
@@ -109,27 +108,23 @@ Size ScreenSize(Application& app) {
 
 void LoadFormState(Application& app, Form& form, bool positionOnly, const FormStateDefaults& defaults) {
   FormValues values(app, form.Name());
-  const std::optional<std::int32_t> left = values.Read(kLeft);
-  const std::optional<std::int32_t> top = values.Read(kTop);
-  const std::optional<std::int32_t> width = positionOnly ? std::nullopt : values.Read(kWidth);
-  const std::optional<std::int32_t> height = positionOnly ? std::nullopt : values.Read(kHeight);
-  const std::optional<std::int32_t> state = positionOnly ? std::nullopt : values.Read(kState);
-  Box place = form.Place();
-  if (!left || !top || (!positionOnly && (!width || !height || !state))) {
-    if (!positionOnly && !width && defaults.width > 0) place.width = defaults.width;
-    if (!positionOnly && !height && defaults.height > 0) place.height = defaults.height;
+  Box kept = form.Place();
+  std::int32_t state = 0;
+  const bool hasLeft = values.Read(kLeft, kept.left);
+  const bool hasTop = values.Read(kTop, kept.top);
+  const bool hasWidth = positionOnly || values.Read(kWidth, kept.width);
+  const bool hasHeight = positionOnly || values.Read(kHeight, kept.height);
+  const bool hasState = positionOnly || values.Read(kState, state);
+  if (!(hasLeft && hasTop && hasWidth && hasHeight && hasState)) {
+    Box place = form.Place();
+    if (!hasWidth && defaults.width > 0) place.width = defaults.width;
+    if (!hasHeight && defaults.height > 0) place.height = defaults.height;
     form.SetPlace(InTheMiddle(app, place));
     form.SetWindowState(defaults.maximised ? FormWindowState::kMaximized : FormWindowState::kNormal);
     return;
   }
-  form.SetWindowState(StateOf(state.value_or(0)));
-  if (state.value_or(0) == 0) {
-    place.left = *left;
-    place.top = *top;
-    place.width = width.value_or(place.width);
-    place.height = height.value_or(place.height);
-  }
-  form.SetPlace(OnAScreen(app, place));
+  form.SetWindowState(StateOf(state));
+  form.SetPlace(OnAScreen(app, state == 0 ? kept : form.Place()));
 }
 
 void SaveFormState(Application& app, const Form& form, bool positionOnly) {

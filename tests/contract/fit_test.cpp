@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "core/application.h"
+#include "organize/frm_organize.h"
 #include "platform/characters.h"
 #include "tests/contract/system_under_test.h"
 #include "tools/progress.h"
@@ -25,6 +26,7 @@ struct FormKind {
 std::vector<FormKind> FormKinds() {
   return {
       {"frmPause", [](Application& app) { return std::make_unique<frmPause>(app); }},
+      {"frmOrganize", [](Application& app) { return std::make_unique<frmOrganize>(app, OrganizeCalls()); }},
   };
 }
 
