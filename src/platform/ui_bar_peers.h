@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "platform/ui_control.h"
@@ -79,6 +80,7 @@ class StatusBarPeer : public ControlPeer {
 
 // The caption of an entry that is a line.
 inline constexpr wchar_t kMenuLine[] = L"-";
+constexpr bool IsNotDash(std::wstring_view caption) { return caption != kMenuLine; }
 
 struct MenuShortcut {
   std::int32_t key = 0;    // key code; 0 is none

@@ -281,13 +281,19 @@ class HandOver(MenuTest):
 
     def test_three_commands_at_once_all_arrive(self):
         self.start_with()
-        texts = ["/OF", "/FR C:\\x", "/UNKNOWN"]
-        seconds = [self.program.start_second(*text.split(" ")) for text in texts]
+        names = ["one.bwmk", "two.bwmk", "three.bwmk"]
+        seconds = [self.program.start_second("/OPEN", "C:\\" + name) for name in names]
         for second in seconds:
             self.assertEqual(self.desktop.exit_code(second), 0)
-        self.assertIn(self.transfer(), texts)
-        self.assertTrue(self.program.runs())
-        # To strengthen when these windows exist: the editor (/OF) and the report wizard (/FR) must both be open here.
+        # Each names a file that isn't there, and the editor says so of each.
+        wait_for(lambda: len(self.desktop.windows(BOX_CLASS)) == 3, "three boxes")
+        boxes = self.desktop.windows(BOX_CLASS)
+        told = " ".join(text for box in boxes for text in self.texts_of(box))
+        for name in names:
+            self.assertIn("Error opening configuration file " + name, told)
+        for box in boxes:
+            self.desktop.press(box, 1)
+            self.desktop.wait_gone(box)
         self.assertEqual(self.desktop.exit_code(self.program.start_second("/EXIT")), 0)
         self.assertEqual(self.desktop.exit_code(self.program.process), 0, "the first still listens")
 

@@ -22,7 +22,7 @@ MenuEntryState& FindShown(const std::vector<MenuEntryState*>& entries, const std
 }  // namespace
 
 std::wstring LookOf(const MenuEntryState& entry) {
-  if (entry.caption == kMenuLine) return kMenuLine;
+  if (!IsNotDash(entry.caption)) return kMenuLine;
   std::wstring look = WithoutPrefixes(entry.caption);
   if (const std::wstring keys = ShortcutText(entry.shortcut); !keys.empty()) look += L'\t' + keys;
   if (entry.checked) look = (entry.radio ? L"(o) " : L"[x] ") + look;

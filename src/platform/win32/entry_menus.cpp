@@ -17,7 +17,7 @@ MENUITEMINFOW LookOf(const MenuEntryState& entry, std::wstring& text) {
   MENUITEMINFOW info = {};
   info.cbSize = sizeof(info);
   info.fMask = MIIM_FTYPE | MIIM_STATE;
-  if (entry.caption == kMenuLine) {
+  if (!IsNotDash(entry.caption)) {
     info.fType = MFT_SEPARATOR;
     return info;
   }
