@@ -1,10 +1,12 @@
 // Controls that show many things: the tree view and the list view.
 //
 // How their gestures come in, on every system and in this order:
-// - A press: UserFocus, UserMouse (down), what it selects, UserClick if it was the left button, UserMouse (up), once for
+// - A press: UserFocus, UserMouse (down), what it selects, UserClick if it was the left button, UserMouse (up), once
+// for
 //   each press. The right button selects as the left one does.
 // - The second press of a double click is no UserMouse (down): UserDoubleClick, UserMouse (up).
-// - The key for context menus, or Shift+F10: UserMouse (down) and UserMouse (up) of the right button in the rectangle of
+// - The key for context menus, or Shift+F10: UserMouse (down) and UserMouse (up) of the right button in the rectangle
+// of
 //   the current row or the selected node, else in the corner; it selects nothing.
 // - Keys in an open label edit go nowhere else.
 #pragma once

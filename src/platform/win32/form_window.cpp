@@ -1,5 +1,7 @@
 #include "platform/win32/form_window.h"
 
+#include <commctrl.h>
+
 #include <algorithm>
 
 #include "platform/from_system.h"
@@ -64,7 +66,12 @@ HCURSOR CursorOf(std::int32_t pointer) {
 std::optional<LRESULT> ReflectToControl(UINT message, WPARAM wParam, LPARAM lParam) {
   HWND control = nullptr;
   if (message == WM_COMMAND) control = reinterpret_cast<HWND>(lParam);
-  if (message == WM_NOTIFY) control = reinterpret_cast<const NMHDR*>(lParam)->hwndFrom;
+  if (message == WM_NOTIFY) {
+    const NMHDR& record = *reinterpret_cast<const NMHDR*>(lParam);
+    // Told of every row of a list, and of use to nobody.
+    if (record.code == LVN_INSERTITEM || record.code == LVN_ITEMCHANGING) return 0;
+    control = record.hwndFrom;
+  }
   if (control == nullptr) return std::nullopt;
   return ::SendMessageW(control, kReflected + message, wParam, lParam);
 }
