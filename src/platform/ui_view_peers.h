@@ -1,13 +1,11 @@
 // Controls that show many things: the tree view and the list view.
 //
 // How their gestures come in, on every system and in this order:
-// - A press: UserFocus, UserMouse (down), what it selects, UserClick if it was the left button, UserMouse (up), once
-// for
-//   each press. The right button selects as the left one does.
+// - A press: UserFocus, UserMouse (down), what it selects, UserClick if it was the left button, UserMouse (up); each
+//   once. The right button selects as the left one does.
 // - The second press of a double click is no UserMouse (down): UserDoubleClick, UserMouse (up).
-// - The key for context menus, or Shift+F10: UserMouse (down) and UserMouse (up) of the right button in the rectangle
-// of
-//   the current row or the selected node, else in the corner; it selects nothing.
+// - The key for context menus, or Shift+F10, is a press of the right button on the current row or the selected node,
+//   else in the corner. It changes nothing of what is selected; what was current is told once more.
 // - Keys in an open label edit go nowhere else.
 #pragma once
 
