@@ -18,9 +18,12 @@ class TextBox final : public ControlOf<TextBoxState, TextBoxPeer> {
   const std::wstring& Text() const override { return text_; }
   // Every end of a line becomes "\r\n", and the caret stands in front of the text. Code may go beyond MaxLength.
   void SetText(const std::wstring& text);
-  // With a vertical scroll bar, and Enter begins a line. Holds from the next making of the window.
+  // With lines that wrap, and Enter begins one; with a vertical scroll bar unless that is turned off. Both hold from the
+  // next making of the window.
   bool MultiLine() const override { return multiLine_; }
   void SetMultiLine(bool multiLine) { multiLine_ = multiLine; }
+  bool ScrollBar() const override { return scrollBar_; }
+  void SetScrollBar(bool on) { scrollBar_ = on; }
   bool ReadOnly() const override { return readOnly_; }
   void SetReadOnly(bool readOnly);
   std::int32_t MaxLength() const override { return maxLength_; }
@@ -45,6 +48,7 @@ class TextBox final : public ControlOf<TextBoxState, TextBoxPeer> {
   std::wstring text_;
   TextSelection selection_;
   bool multiLine_ = false;
+  bool scrollBar_ = true;
   bool readOnly_ = false;
   std::int32_t maxLength_ = 0;
 };
