@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Sets up, builds and starts Burrowmark under Wine with a sample tree: on the screen, or on a virtual one with pictures of
-# the menu saved under build/pictures.
+# the menu and the editor saved under build/pictures.
 set -euo pipefail
 cd "$(dirname "$0")"
 . tools/setup.sh
@@ -14,5 +14,7 @@ if [ -n "${DISPLAY:-}" ] && xdpyinfo >/dev/null 2>&1; then
 fi
 say "no screen: starting on a virtual one"
 python3 tests/acceptance/pictures.py --exe build/windows/src/app/burrowmark.exe \
+  --driver build/windows/tests/acceptance/driver/acceptance_driver.exe --build build/acceptance --output build/pictures
+python3 tests/acceptance/editor_pictures.py --exe build/windows/src/app/burrowmark.exe --dpi 96 \
   --driver build/windows/tests/acceptance/driver/acceptance_driver.exe --build build/acceptance --output build/pictures
 say "the pictures are in build/pictures"

@@ -82,6 +82,7 @@ frmOrganize::frmOrganize(Application& app, OrganizeCalls calls)
   Picture1.SetBackColor(kColorShadow);
   lblInfo.SetUseMnemonic(false);
   txtInfoDrives.SetMultiLine(true);
+  txtInfoDrives.SetScrollBar(false);
   txtInfoDrives.SetReadOnly(true);
   txtInfoDrives.SetTabStop(false);
   txtInfoDrives.SetVisible(false);

@@ -19,7 +19,8 @@ class TextBoxState : public virtual ControlState {
  public:
   virtual const std::wstring& Text() const = 0;  // its lines end with "\r\n"
   virtual const TextSelection& Selection() const = 0;
-  virtual bool MultiLine() const = 0;  // and has a scroll bar; doesn't change while there is a peer
+  virtual bool MultiLine() const = 0;  // neither this nor the next changes while there is a peer
+  virtual bool ScrollBar() const = 0;  // of a box of many lines
   virtual bool ReadOnly() const = 0;
   virtual std::int32_t MaxLength() const = 0;  // characters that the user can bring it to; 0: as many as he likes
 

@@ -13,10 +13,11 @@ from pathlib import Path
 sys.path.insert(0, str(Path(__file__).resolve().parent))
 
 import bwmk  # noqa: E402  (needs the path above)
-from burrowmark import Program  # noqa: E402
-from editor import FORM, Editor  # noqa: E402
+from burrowmark import KEY, Program  # noqa: E402
+from editor import Editor  # noqa: E402
 from harness import REPOSITORY, Desktop, Settings  # noqa: E402
 
+LAYOUT = KEY + "\\frmOrg"
 SCREENS = {96: (1280, 900), 144: (1920, 1350)}
 GROUPS = ("Clients", "Finance", "Garden", "House", "Music", "Photos")
 TOPICS = ("Archive", "Contracts", "Drafts", "Letters", "Plans")
@@ -102,6 +103,12 @@ def take_all(settings, output, dpi):
         album.save("sorted")
         take_menus(desktop, editor, album)
         take_sizes(desktop, editor, album)
+        editor.close()
+        editor.wait_closed()
+        for name, length in (("W", 5200), ("H", 4800)):
+            desktop.driver("write-value", LAYOUT, name, length)
+        Editor.open(program)
+        album.save("narrow")
         program.end()
         return album.saved
 

@@ -65,6 +65,7 @@ class Start : public testing::Test {
   // A file that holds one shortcut of this title in the personal group, and empty groups.
   std::string FileWith(const std::wstring& title, std::initializer_list<std::wstring> groups = {}) {
     Application app(machine_.platform());
+    app.AC[0] = false;  // without System Folders
     clsMenuCollection& store = *app.MainStore;
     store.AddNewMenuItem({.Caption = L"Mine", .OwnerName = kRootOwner, .Name = MIT_GROUP_USER, .SubMenu = true});
     for (const std::wstring& group : groups) {

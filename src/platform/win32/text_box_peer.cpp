@@ -8,7 +8,8 @@ namespace {
 constexpr WPARAM kCtrlA = 1;
 
 DWORD StyleOf(const TextBoxState& box) {
-  const DWORD lines = box.MultiLine() ? ES_MULTILINE | ES_AUTOVSCROLL | ES_WANTRETURN | WS_VSCROLL : ES_AUTOHSCROLL;
+  const DWORD bar = box.ScrollBar() ? WS_VSCROLL : 0;
+  const DWORD lines = box.MultiLine() ? ES_MULTILINE | ES_AUTOVSCROLL | ES_WANTRETURN | bar : ES_AUTOHSCROLL;
   return lines | (box.ReadOnly() ? ES_READONLY : 0);
 }
 

@@ -1,0 +1,54 @@
+// Opening the editor, sorting its list and going to another group, over the local machine.
+#include <benchmark/benchmark.h>
+
+#include "bench/bench_machine.h"
+#include "core/numbers.h"
+#include "organize/frm_organize.h"
+
+namespace burrowmark {
+namespace {
+
+// A personal group that holds so many shortcuts.
+class BenchEditor {
+ public:
+  explicit BenchEditor(std::int64_t items) : app_(machine_.platform()), form_(app_, OrganizeCalls()) {
+    clsMenuCollection& store = *app_.MainStore;
+    store.AddNewMenuItem({.Caption = L"Personal", .OwnerName = kRootOwner, .Name = MIT_GROUP_USER, .SubMenu = true});
+    for (std::int64_t i = 0; i < items; ++i) {
+      const auto item = std::make_shared<clsMenuItem>(machine_.machine.clock);
+      item->SetCaption(L"A shortcut with a title of some length " + DecimalText(i));
+      item->OwnerName = MIT_GROUP_USER;
+      item->FolderPath = L"C:\\Windows";
+      store.AddOne(item, true, true);
+    }
+  }
+  void Open() { form_.Show(); }
+  void Close() { form_.Unload(); }
+  void Refresh() { form_.RefreshViews({}, true); }
+
+ private:
+  BenchMachine machine_;
+  Application app_;
+  frmOrganize form_;
+};
+
+void OpenTheEditor(benchmark::State& state) {
+  BenchEditor editor(state.range(0));
+  for (auto _ : state) {
+    editor.Open();
+    state.PauseTiming();
+    editor.Close();
+    state.ResumeTiming();
+  }
+}
+BENCHMARK(OpenTheEditor)->Arg(1000)->Arg(5000)->Unit(benchmark::kMillisecond);
+
+void RefreshThePanes(benchmark::State& state) {
+  BenchEditor editor(state.range(0));
+  editor.Open();
+  for (auto _ : state) editor.Refresh();
+}
+BENCHMARK(RefreshThePanes)->Arg(1000)->Arg(5000)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+}  // namespace burrowmark
