@@ -60,6 +60,9 @@ start_wine() {
   # Windows are made but never drawn on a screen, so none is needed.
   timeout 60 wine reg add 'HKCU\Software\Wine\Drivers' /v Graphics /t REG_SZ /d null /f >/dev/null 2>&1
   timeout 60 wine reg add 'HKCU\Software\Wine\WineDbg' /v ShowCrashDialog /t REG_DWORD /d 0 /f >/dev/null 2>&1
+  # A desktop that the prefix's making left behind has another driver.
+  timeout 30 wineserver -k || true
+  timeout 30 wineserver -w || true
 }
 end_wine() {
   timeout 30 wineserver -k || true

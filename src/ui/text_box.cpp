@@ -34,7 +34,7 @@ std::int32_t LengthOf(const std::wstring& text) { return static_cast<std::int32_
 
 }  // namespace
 
-TextBox::TextBox(ControlParent& parent, std::wstring name, const Box& place, std::wstring text)
+TextBox::TextBox(ControlParent& parent, std::wstring name, const Box& place, const std::wstring& text)
     : ControlOf(parent, std::move(name), place), text_(WithLineEnds(text)) {}
 
 void TextBox::SetText(const std::wstring& text) {
