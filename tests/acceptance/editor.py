@@ -20,7 +20,8 @@ class Editor:
     @classmethod
     def open(cls, program):
         """Opens it by a second process, as another program would."""
-        program.start_second("/OF")
+        # Its end tells that the window has come forward: a click before that would be lost.
+        program.desktop.exit_code(program.start_second("/OF"))
         return cls(program)
 
     def child(self, class_name):

@@ -72,16 +72,24 @@ class SystemFolders(MenuTest):
         return place.is_dir()
 
 
+def with_a_label_and_a_missing_medium(desktop):
+    with_drives(desktop)
+    (desktop.prefix.folder / "drive_e" / ".windows-label").write_text("Holiday\n")
+    (desktop.prefix.path / "dosdevices" / "v:").symlink_to(desktop.prefix.folder / "not there")
+    desktop.prefix.add_registry("Software\\Wine\\Drives", {"v:": "floppy"}, machine=True)
+
+
 class Drives(MenuTest):
-    prepare = staticmethod(with_drives)
+    prepare = staticmethod(with_a_label_and_a_missing_medium)
 
     def test_every_kind_of_drive_has_its_entry(self):
         self.program.set_option("AC1", True)
         self.program.write_tree(bwmk.folder("One", "C:\\One"))
         root = self.program.open_menu(self.program.start())
         drives = root.open_level(root.wait_entries([HELP, GROUP, GROUP, OPTIONS, ORGANIZE])[2])
-        entries = drives.wait_entries([FLOPPY, DISK, DISK, DISC, NETWORK, REMOVABLE, DISK])
-        texts = ("A: (3.5-Inch Floppy Disk)", "C:", "D:", "E: (Compact Disc)", "N:", "U: (Removable Disk)", "Z:")
+        entries = drives.wait_entries([FLOPPY, DISK, DISK, DISC, NETWORK, REMOVABLE, REMOVABLE, DISK])
+        texts = ("A: (3.5-Inch Floppy Disk)", "C:", "D:", "E: (Holiday)", "N:", "U: (Removable Disk)",
+                 "V: (Removable Disk)", "Z:")
         for entry, text in zip(entries, texts):
             self.assertTrue(drives.shows_text(entry, text), text)
 

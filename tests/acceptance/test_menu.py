@@ -61,14 +61,14 @@ class DrawnMenu(MenuTest):
 
     def test_the_tray_icon_tells_the_name_of_the_program(self):
         tray = self.start_with()
-        self.desktop.driver("move", *tray)
+        self.desktop.move(tray)
         self.desktop.wait_window("tooltips_class32", "Burrowmark")
 
     def test_the_root_level_has_its_entries_at_their_heights(self):
         tray = self.start_with()
         menu = self.program.open_menu(tray)
         entries = menu.wait_entries(ROOT)
-        self.desktop.driver("move", 5, 5)
+        self.desktop.move((5, 5))
         tops = [entry.top for entry in entries]
         with_separator = ENTRY_HEIGHT + SEPARATOR_HEIGHT
         self.assertEqual([below - above for above, below in zip(tops, tops[1:])],

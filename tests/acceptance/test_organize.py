@@ -101,7 +101,7 @@ class Closing(OrganizeTest):
         self.close()
         self.program.end()
         self.program.set_option("ADVC6", True)
-        folder = self.desktop.prefix.home / "Desktop" / "Organized Folders"
+        folder = next(self.desktop.prefix.drive_c.glob("users/*/Desktop")) / "Organized Folders"
         folder.mkdir(parents=True, exist_ok=True)
         self.tray = self.program.start()
         self.editor = Editor.open(self.program)
