@@ -89,7 +89,7 @@ Box InTheMiddle(Application& app, const Box& window) {
 
 FormWindowState StateOf(std::int32_t value) {
   return value == static_cast<std::int32_t>(FormWindowState::kMaximized) ? FormWindowState::kMaximized
-                                                                        : FormWindowState::kNormal;
+                                                                         : FormWindowState::kNormal;
 }
 
 }  // namespace

@@ -8,9 +8,9 @@ namespace {
 
 //                                       ordinary generated personal root
 constexpr EnablingRow kPopup[] = {
-    {L"mnuPopupCut", {true, false, false, false}},       {L"mnuPopupCopy", {true, false, false, false}},
-    {L"mnuPopupDelete", {true, true, false, false}},     {L"mnuPopupRename", {true, false, false, false}},
-    {L"mnuPopupModify", {true, false, false, false}},    {L"mnuPopupProperties", {true, true, true, false}},
+    {L"mnuPopupCut", {true, false, false, false}},        {L"mnuPopupCopy", {true, false, false, false}},
+    {L"mnuPopupDelete", {true, true, false, false}},      {L"mnuPopupRename", {true, false, false, false}},
+    {L"mnuPopupModify", {true, false, false, false}},     {L"mnuPopupProperties", {true, true, true, false}},
     {L"mnuPopupCopyShortcut", {true, true, true, false}},
 };
 // Unlike in the popup the personal group can be renamed here, and its target not be copied.
@@ -21,9 +21,9 @@ constexpr EnablingRow kEdit[] = {
 };
 constexpr EnablingRow kView[] = {{L"mnuViewProperties", {true, true, true, false}}};
 constexpr EnablingRow kToolbar[] = {
-    {L"keyNew", {true, true, true, false}},   {L"keyChange", {true, false, false, false}},
-    {L"keyUp", {true, true, true, false}},    {L"keyCut", {true, false, false, false}},
-    {L"keyCopy", {true, false, false, false}}, {L"keyDelete", {true, true, false, false}},
+    {L"keyNew", {true, true, true, false}},        {L"keyChange", {true, false, false, false}},
+    {L"keyUp", {true, true, true, false}},         {L"keyCut", {true, false, false, false}},
+    {L"keyCopy", {true, false, false, false}},     {L"keyDelete", {true, true, false, false}},
     {L"keyProperties", {true, true, true, false}},
 };
 

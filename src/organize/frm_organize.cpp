@@ -50,10 +50,17 @@ std::vector<ToolbarButtonState> ToolbarButtons() {
   ToolbarButtonState properties = Button(L"keyProperties", 9);
   properties.style = ToolbarButtonStyle::kDropDown;
   properties.menu = {{L"keyProperties1", L"Shortcut"}, {L"keyProperties2", L"Target Location"}};
-  return {Button(L"keyNew", 1),    Button(L"keyChange", 2), Button(L"keyUp", 3),
-          Separator(),             Button(L"keyWindowsExplorer", 4),
-          Separator(),             Button(L"keyCut", 5),    Button(L"keyCopy", 6),
-          Button(L"keyPaste", 7),  Button(L"keyDelete", 8), Separator(),
+  return {Button(L"keyNew", 1),
+          Button(L"keyChange", 2),
+          Button(L"keyUp", 3),
+          Separator(),
+          Button(L"keyWindowsExplorer", 4),
+          Separator(),
+          Button(L"keyCut", 5),
+          Button(L"keyCopy", 6),
+          Button(L"keyPaste", 7),
+          Button(L"keyDelete", 8),
+          Separator(),
           std::move(properties)};
 }
 

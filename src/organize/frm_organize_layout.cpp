@@ -8,10 +8,10 @@
 namespace burrowmark {
 namespace {
 
-constexpr std::int32_t kEdge = 20;       // twips around the panes
-constexpr std::int32_t kSplitter = 60;   // between them
-constexpr std::int32_t kMargin = 120;    // what a pane leaves free at its right
-constexpr std::int32_t kNarrowest = 100;  // a kept width of the tree up to this is none
+constexpr std::int32_t kEdge = 20;          // twips around the panes
+constexpr std::int32_t kSplitter = 60;      // between them
+constexpr std::int32_t kMargin = 120;       // what a pane leaves free at its right
+constexpr std::int32_t kNarrowest = 100;    // a kept width of the tree up to this is none
 constexpr std::int32_t kAlwaysOnTop = 555;  // the command's number in the window's own menu
 constexpr std::int32_t kSmallButton = 16;   // pixels at 96 dots per inch
 constexpr std::int32_t kLargeButton = 24;

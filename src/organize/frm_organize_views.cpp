@@ -62,8 +62,7 @@ void frmOrganize::FillTree() {
       AddTreeNode(*item, kFirstSibling);
       continue;
     }
-    TreeNode* node =
-        TreeView1.Add(root, TreeRelation::kChild, KeyOfName(item->Name()), item->Caption(), item->IconID);
+    TreeNode* node = TreeView1.Add(root, TreeRelation::kChild, KeyOfName(item->Name()), item->Caption(), item->IconID);
     if (node == nullptr) continue;
     node->EnsureVisible();
     node->SetExpanded(true);
@@ -94,8 +93,7 @@ void frmOrganize::AddTreeNode(const clsMenuItem& item, const std::wstring& PrevN
 TreeNode* frmOrganize::AddTreeNodeBefore(const clsMenuItem& item, const std::wstring& NextName) {
   TreeNode* next = TreeView1.Find(KeyOfName(NextName));
   if (next == nullptr) return nullptr;
-  TreeNode* node =
-      TreeView1.Add(next, TreeRelation::kPrevious, KeyOfName(item.Name()), item.Caption(), item.IconID);
+  TreeNode* node = TreeView1.Add(next, TreeRelation::kPrevious, KeyOfName(item.Name()), item.Caption(), item.IconID);
   if (node != nullptr) node->Tag = item.FolderPath;
   return node;
 }

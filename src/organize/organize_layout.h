@@ -18,8 +18,8 @@ struct OrganizeLayout {
   std::int16_t TreeWidth = -1;  // twips; -1: none was kept
 };
 
-// What is missing or can't be read is as it is in a new layout; a number that doesn't fit is 0. The widths of the list's
-// columns are read into the list, where a missing one stays as it is.
+// What is missing or can't be read is as it is in a new layout; a number that doesn't fit is 0. The widths of the
+// list's columns are read into the list, where a missing one stays as it is.
 OrganizeLayout LoadOrganizeLayout(Application& app, ListView& list);
 void SaveOrganizeLayout(Application& app, const OrganizeLayout& layout, const ListView& list);
 

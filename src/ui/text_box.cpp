@@ -8,9 +8,9 @@
 namespace burrowmark {
 namespace {
 
-constexpr std::int32_t kEditingKeys[] = {kKeyCodeBackspace,  kKeyCodeDelete, kKeyCodeInsert,  kKeyCodeLeft,
-                                         kKeyCodeRight, kKeyCodeUp,     kKeyCodeDown,    kKeyCodeHome,
-                                         kKeyCodeEnd,   kKeyCodePageUp, kKeyCodePageDown};
+constexpr std::int32_t kEditingKeys[] = {kKeyCodeBackspace, kKeyCodeDelete, kKeyCodeInsert,  kKeyCodeLeft,
+                                         kKeyCodeRight,     kKeyCodeUp,     kKeyCodeDown,    kKeyCodeHome,
+                                         kKeyCodeEnd,       kKeyCodePageUp, kKeyCodePageDown};
 constexpr std::int32_t kCtrlKeys[] = {'A', 'C', 'V', 'X', 'Z'};
 
 bool IsOneOf(std::int32_t key, const std::int32_t* begin, const std::int32_t* end) {

@@ -18,8 +18,8 @@ class TextBox final : public ControlOf<TextBoxState, TextBoxPeer> {
   const std::wstring& Text() const override { return text_; }
   // Every end of a line becomes "\r\n", and the caret stands in front of the text. Code may go beyond MaxLength.
   void SetText(const std::wstring& text);
-  // With lines that wrap, and Enter begins one; with a vertical scroll bar unless that is turned off. Both hold from the
-  // next making of the window.
+  // With lines that wrap, and Enter begins one; with a vertical scroll bar unless that is turned off. Both hold from
+  // the next making of the window.
   bool MultiLine() const override { return multiLine_; }
   void SetMultiLine(bool multiLine) { multiLine_ = multiLine; }
   bool ScrollBar() const override { return scrollBar_; }

@@ -5,6 +5,7 @@
 #include "core/registry.h"
 #include "core/registry_keys.h"
 #include "organize/enabling.h"
+#include "platform/characters.h"
 #include "platform/key_codes.h"
 #include "projection/organized_folders.h"
 #include "tests/organize/organize_scene.h"
@@ -396,6 +397,58 @@ TEST_F(Organize, ChangesReachTheFileTheMenuAndTheProjections) {
   EXPECT_EQ(scene_.WrongNumbers(), "");
   EXPECT_TRUE(machine_.files.FileExists(app_.OrganizedFoldersDesktop + L"\\Changed.lnk"));
   EXPECT_FALSE(machine_.files.FolderExists(app_.OrganizedFoldersSendTo));
+}
+
+// The steps of closing as the disk and the registry see them, in their order.
+TEST_F(Organize, ClosingGoesThroughItsStepsInOrder) {
+  struct Case {
+    const char* what;
+    bool changes;
+    bool otherFile;
+    std::int32_t answer;  // to the question about another file
+    bool projects;
+    const char* steps;
+  };
+  const Case cases[] = {
+      {"nothing changed", false, false, 0, true, "layout "},
+      {"the default file", true, false, 0, true, "layout default desktop send favorites "},
+      {"the default file, projections off", true, false, 0, false, "layout default "},
+      {"another file, yes", true, true, kAnswerYes, true, "layout other "},
+      {"another file, no", true, true, kAnswerNo, true, "layout "},
+      {"another file, cancel", true, true, kAnswerCancel, true, "layout "},
+  };
+  app_.ADVC = {false, false, true, true, true};
+  InitOrganizedFoldersPaths(app_);
+  const std::pair<std::string, const char*> marks[] = {
+      {"RegSetValueExA HKEY_CURRENT_USER\\Software\\Kestrelan\\Burrowmark\\frmOrg", "layout "},
+      {"MoveFileExA C:\\default", "default "},
+      {"MoveFileExA C:\\other", "other "},
+      {"CreateFolder " + ToUtf8(app_.OrganizedFoldersDesktop), "desktop "},
+      {"CreateFolder " + ToUtf8(app_.OrganizedFoldersSendTo), "send "},
+      {"CreateFolder " + ToUtf8(app_.OrganizedFoldersFavorites), "favorites "},
+  };
+  for (const Case& row : cases) {
+    SCOPED_TRACE(row.what);
+    app_.ADVC[6] = row.projects;
+    for (const ProjectionTarget& target : kProjectionTargets) DeleteOrganizedFolders(app_, target);
+    scene_.Open();
+    WriteOther();
+    if (row.otherFile) form_.Init(std::wstring(L"/OPEN ") + kOther);
+    if (row.changes) Change();
+    machine_.faults.Clear();
+    if (row.answer != 0) machine_.user.NextBox(L"Do you want to save the changes", row.answer);
+    scene_.Window().Close();
+    std::string steps;
+    for (const std::string& call : machine_.faults.Record()) {
+      for (const auto& [mark, step] : marks) {
+        if (call.starts_with(mark) && steps.find(step) == std::string::npos) steps += step;
+      }
+    }
+    EXPECT_EQ(steps, row.steps);
+    EXPECT_EQ(IsClosed(), row.answer != kAnswerCancel);
+    form_.Changed = false;
+    form_.Unload();
+  }
 }
 
 TEST_F(Organize, DiscardingAsksAndNoSaves) {

@@ -178,7 +178,8 @@ bool LocalWindows::RunOne() {
 std::vector<Box> LocalWindows::Screens() {
   const Rect& screen = WindowStack::kScreen;
   const auto twips = [](std::int32_t pixels) { return ToTwips(pixels, WindowStack::kSystemDpi); };
-  return {{twips(screen.left), twips(screen.top), twips(screen.right - screen.left), twips(screen.bottom - screen.top)}};
+  return {
+      {twips(screen.left), twips(screen.top), twips(screen.right - screen.left), twips(screen.bottom - screen.top)}};
 }
 
 void LocalWindows::DoEvents() {
