@@ -94,6 +94,32 @@ class Drives(MenuTest):
             self.assertTrue(drives.shows_text(entry, text), text)
 
 
+class ComingDrives(MenuTest):
+    def drives(self, tray, icons):
+        root = self.program.open_menu(tray)
+        level = root.open_level(root.wait_entries([HELP, GROUP, GROUP, OPTIONS, ORGANIZE])[2])
+        entries = level.wait_entries(icons)
+        shown = [text for entry, text in zip(entries, self.texts) if level.shows_text(entry, text)]
+        self.desktop.keys("Esc", "Esc")
+        self.program.wait_no_menu()
+        return shown
+
+    def test_drives_come_and_go_between_two_openings(self):
+        self.program.set_option("AC1", True)
+        self.program.write_tree(bwmk.folder("One", "C:\\One"))
+        tray = self.program.start()
+        self.texts = ["C:", "Z:"]
+        self.assertEqual(self.drives(tray, [DISK, DISK]), self.texts)
+        folder = self.desktop.prefix.folder / "drive_q"
+        folder.mkdir()
+        self.desktop.driver("add-drive", "q", folder)
+        self.texts = ["C:", "Q:", "Z:"]
+        self.assertEqual(self.drives(tray, [DISK, DISK, DISK]), self.texts)
+        self.desktop.driver("remove-drive", "q")
+        self.texts = ["C:", "Z:"]
+        self.assertEqual(self.drives(tray, [DISK, DISK]), self.texts)
+
+
 class HotKeys(MenuTest):
     def start_with_hot_keys(self):
         self.program.set_option("ADVC7", True)

@@ -87,6 +87,10 @@ void Drag(Words& words);
 void PressKeys(Words& words);
 void TimeClick(Words& words);
 
+// drives.cpp
+void AddDrive(Words& words);
+void RemoveDrive(Words& words);
+
 // facts.cpp
 void ShowColours(Words& words);
 void ShowMenuText(Words& words);

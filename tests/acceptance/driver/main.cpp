@@ -25,6 +25,8 @@ constexpr Verb kVerbs[] = {
     {L"drag", L"X Y X2 Y2 [left|right]", Drag},
     {L"keys", L"KEY...  as Down, ctrl+shift+F2, a, or text:Any text", PressKeys},
     {L"time-click", L"X Y BUTTON PX PY RRGGBB LIMIT_MS  from button-up to that colour within a popup menu", TimeClick},
+    {L"add-drive", L"LETTER FOLDER  a fixed drive at a folder of the host", AddDrive},
+    {L"remove-drive", L"LETTER", RemoveDrive},
     {L"colours", L"  the system colours", ShowColours},
     {L"menu-text", L"TEXT  the picture of a text in the menu's font", ShowMenuText},
     {L"metrics", L"  screen, work area, dots per inch", ShowMetrics},
