@@ -109,6 +109,12 @@ class Menu:
         return self.program.wait_menu(before)
 
 
+def install(exe, folder):
+    """Copies the program and what stands beside it."""
+    shutil.copy(exe, folder / "burrowmark.exe")
+    shutil.copy(exe.parent / "filecopy.avi", folder)
+
+
 class Program:
     """The program, installed into a folder of the desktop's drive C."""
 
@@ -120,7 +126,7 @@ class Program:
         self._icons = {}
         shutil.rmtree(self.folder, ignore_errors=True)
         self.folder.mkdir()
-        shutil.copy(exe, self.folder / "burrowmark.exe")
+        install(exe, self.folder)
         # Nothing of an earlier run; two generated groups off, so that the menu holds what the file says.
         desktop.driver("delete-key", "Software\\Kestrelan")
         self.set_option("AC0", False)

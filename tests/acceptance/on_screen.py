@@ -14,6 +14,7 @@ from pathlib import Path
 sys.path.insert(0, str(Path(__file__).resolve().parent))
 
 import bwmk  # noqa: E402  (needs the path above)
+from burrowmark import install  # noqa: E402
 from harness import Prefix  # noqa: E402
 from pictures import SAMPLE_FOLDERS, sample_tree  # noqa: E402
 
@@ -39,10 +40,10 @@ def make_prefix(folder):
     return prefix
 
 
-def install(prefix, exe):
+def set_up(prefix, exe):
     program = prefix.host_path(PROGRAM)
     program.mkdir(exist_ok=True)
-    shutil.copy(exe, program / "burrowmark.exe")
+    install(exe, program)
     for path in SAMPLE_FOLDERS:
         prefix.host_path(path).mkdir(parents=True, exist_ok=True)
     tree = program / "default.bwmk"
@@ -53,7 +54,7 @@ def install(prefix, exe):
 def main():
     exe, folder = Path(sys.argv[1]), Path(sys.argv[2]).resolve()
     prefix = make_prefix(folder)
-    install(prefix, exe)
+    set_up(prefix, exe)
     try:
         return subprocess.call(["wine", PROGRAM + "\\burrowmark.exe"], env=prefix.environment)
     except KeyboardInterrupt:

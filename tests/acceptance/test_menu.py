@@ -338,8 +338,9 @@ class Idle(MenuTest):
 class Timing(MenuTest):
     # High enough for 300 entries of one level, so that the last one can be seen without scrolling.
     size = (1024, 5900)
-    limit_ms = 300
+    limit_ms = 100
     entries = 300
+    starts = 5  # a machine that is busy with other things takes the processor away; the best start counts
 
     def start_large(self):
         return self.start_with(*[bwmk.folder("Folder %03d" % number, "C:\\F%d" % number, number == self.entries - 1)
@@ -348,7 +349,7 @@ class Timing(MenuTest):
     def report(self, what, timed):
         print("       %s: open after %.1f ms, drawn after %.1f ms" %
               (what, timed["opened"] / 1000, timed["drawn"] / 1000))
-        self.assertLessEqual(timed["drawn"], self.limit_ms * 1000)
+        return timed["drawn"] <= self.limit_ms * 1000
 
     def test_the_menu_of_300_entries_is_drawn_in_time(self):
         # A first run shows where the last entries come to stand.
@@ -363,10 +364,17 @@ class Timing(MenuTest):
         last_of_level = colour_place_of(self.program, level, entries[-1])
         self.program.end()
 
-        # The second measures the first opening after a start.
-        tray = self.program.start()
-        self.report("menu of %d entries" % self.entries, self.desktop.time_click(tray, "left", *last_of_root))
-        self.report("its level of %d entries" % self.entries, self.desktop.time_click(personal, "left", *last_of_level))
+        # The others measure the first opening after a start.
+        for _ in range(self.starts):
+            tray = self.program.start()
+            menu = self.report("menu of %d entries" % self.entries,
+                               self.desktop.time_click(tray, "left", *last_of_root))
+            level = self.report("its level of %d entries" % self.entries,
+                                self.desktop.time_click(personal, "left", *last_of_level))
+            if menu and level:
+                return
+            self.program.end()
+        self.fail("not within %d ms at any of %d starts" % (self.limit_ms, self.starts))
 
 
 if __name__ == "__main__":
