@@ -100,14 +100,23 @@ class frmOrganize final : public Form {
   void FollowSavedFile();
   void ReplaceMenu(const clsMenuCollection& store);
   void ProjectAll(const clsMenuCollection& store);
-  void ReportSaveError(const std::wstring& path);
   bool EditsDefaultFile() const { return app_.CurrentConfigFile == app_.ConfigFile; }
-  bool SaveBeforeOpening();
-  std::int32_t AskToSave();
-  void ReportSystemGroup(const std::wstring& Path, bool missing, bool ignored);
-  void RefreshDefaultCommands();
   void Release();
   void ExitDiscardingChanges();
+
+  // --- files (frm_organize_files.cpp)
+  bool SaveBeforeOpening();
+  std::int32_t AskToSave();
+  void LoadOrComplain(const std::wstring& path);
+  void ReportSystemGroup(const std::wstring& Path, bool missing, bool ignored);
+  void RefreshDefaultCommands();
+  void ReportSaveError(const std::wstring& path);
+  void OpenConfigCommand();
+  void SaveConfigCommand();
+  void SaveConfigAsCommand();
+  bool MayReplace(const std::wstring& path);
+  void TellSaved(const std::wstring& path, bool asText);
+  void SetDefaultCommand();
 
   // --- panes (frm_organize_views.cpp)
   void FillTree();

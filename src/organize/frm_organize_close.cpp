@@ -1,10 +1,6 @@
 #include "config/config_file.h"
-#include "core/file_names.h"
-#include "core/form_services.h"
 #include "core/hot_keys.h"
-#include "core/services.h"
 #include "core/store_copy.h"
-#include "groups/drives.h"
 #include "menu/menu_setup.h"
 #include "organize/frm_organize.h"
 #include "projection/organized_folders.h"
@@ -13,51 +9,9 @@
 namespace burrowmark {
 namespace {
 
-constexpr wchar_t kTitle[] = L"Burrowmark";
 constexpr std::size_t kRefreshAtClosing = 6;  // ADVC
-constexpr std::size_t kSystemFolders = 0;     // AC
 
 }  // namespace
-
-// --- loading and saving files
-
-bool frmOrganize::FuncConfigFileLoad(const std::wstring& Path) {
-  const Hourglass busy(*this);
-  clsMenuCollection store(app_.platform.clock);
-  bool missing = false;
-  bool ignored = false;
-  if (!ConfigFileRead(app_, store, Path, missing, ignored)) return false;
-  ReportSystemGroup(Path, missing, ignored);
-  SetupDrives(app_, store);
-  WorkCollection = std::make_shared<clsMenuCollection>(app_.platform.clock);
-  CopyStore(app_.platform.clock, store, *WorkCollection);
-  SetFormCaption();
-  RefreshDefaultCommands();
-  RefreshViews({}, true);
-  RefreshHotKeys(app_, *WorkCollection);
-  return true;
-}
-
-void frmOrganize::ReportSystemGroup(const std::wstring& Path, bool missing, bool ignored) {
-  const std::wstring name = Path.empty() ? L"Default configuration file" : GetFileName(Path);
-  if (app_.AC[kSystemFolders] ? !missing : !ignored) return;
-  const wchar_t* text = app_.AC[kSystemFolders]
-                            ? L" does not contain System Folders group. The group was created automatically."
-                            : L" contains System Folders group. The group was deleted automatically.";
-  app_.platform.dialogs.MessageBoxA(Window(), name + text, kTitle, kBoxInformation);
-}
-
-void frmOrganize::RefreshDefaultCommands() {
-  menus_[L"mnuFileOpenDefault"].SetVisible(!EditsDefaultFile());
-  menus_[L"mnuFileSetDefault"].SetVisible(!EditsDefaultFile());
-}
-
-bool frmOrganize::FuncConfigFileSave(bool Rebuild, const std::wstring& Path, bool TextMode) {
-  const Hourglass busy(*this);
-  if (!ConfigFileWrite(app_, *WorkCollection, Path, TextMode)) return false;
-  if (Rebuild) ReplaceMenu(*WorkCollection);
-  return true;
-}
 
 void frmOrganize::ReplaceMenu(const clsMenuCollection& store) {
   ClearMenu(app_);
@@ -65,41 +19,6 @@ void frmOrganize::ReplaceMenu(const clsMenuCollection& store) {
   app_.MainStoreFromConfigFile = true;
   RefreshHotKeys(app_, *app_.MainStore);
   MenuSetupBuild(app_, {});
-}
-
-void frmOrganize::ReportSaveError(const std::wstring& path) {
-  const std::wstring file = path.empty() ? app_.ConfigFile : path;
-  std::wstring text = L"Error saving configuration file " + GetFileName(file);
-  if (IsFileReadOnly(app_.platform.files, file)) text += L"\r\nFile is read-only.";
-  app_.platform.dialogs.MessageBoxA(Window(), text, kTitle, kBoxCritical);
-}
-
-// The user may want to keep what is edited before another file takes its place. False: everything shall stay.
-bool frmOrganize::SaveBeforeOpening() {
-  if (!Changed) return true;
-  const std::int32_t answer = AskToSave();
-  if (answer == kAnswerCancel) return false;
-  if (answer == kAnswerYes && !FuncConfigFileSave(EditsDefaultFile(), app_.CurrentConfigFile, false)) {
-    ReportSaveError(app_.CurrentConfigFile);
-  }
-  return true;
-}
-
-std::int32_t frmOrganize::AskToSave() {
-  const std::wstring question =
-      L"Do you want to save the changes you made to " + GetFileName(app_.CurrentConfigFile) + L"?";
-  return app_.platform.dialogs.MessageBoxA(Window(), question, kTitle, kBoxYesNoCancel | kBoxWarning);
-}
-
-void frmOrganize::OpenConfigFile(const std::wstring& path) {
-  if (!SaveBeforeOpening()) return;
-  if (FuncConfigFileLoad(path)) {
-    Changed = false;
-    FileOpened = true;
-    return;
-  }
-  const std::wstring text = L"Error opening configuration file " + GetFileName(path.empty() ? app_.ConfigFile : path);
-  app_.platform.dialogs.MessageBoxA(Window(), text, kTitle, kBoxCritical);
 }
 
 // --- the ways out

@@ -120,6 +120,11 @@ void frmOrganize::ConnectMenus() {
 
 void frmOrganize::ConnectFileAndEditMenus() {
   menus_[L"mnuFileNewItem"].Click = [this] { NewItem(MIT_PATH_EXPLORER); };
+  menus_[L"mnuFileOpen"].Click = [this] { OpenConfigCommand(); };
+  menus_[L"mnuFileOpenDefault"].Click = [this] { OpenConfigFile({}); };
+  menus_[L"mnuFileSave"].Click = [this] { SaveConfigCommand(); };
+  menus_[L"mnuFileSaveAs"].Click = [this] { SaveConfigAsCommand(); };
+  menus_[L"mnuFileSetDefault"].Click = [this] { SetDefaultCommand(); };
   menus_[L"mnuFileProperties"].Click = [this] {
     if (calls_.ShowConfigFileProperties) calls_.ShowConfigFileProperties(*this, *WorkCollection);
   };

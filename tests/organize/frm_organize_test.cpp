@@ -503,18 +503,6 @@ TEST_F(Organize, AFailedSaveKeepsTheWindowAndEverythingInIt) {
   EXPECT_TRUE(MenuHas(L"Changed"));
 }
 
-TEST_F(Organize, WhatWasSavedMeanwhileReachesTheMenuAtTheEnd) {
-  scene_.Open();
-  Change(L"Saved");
-  EXPECT_TRUE(form_.FuncConfigFileSave(false, {}, false));
-  form_.SavedToDefault = true;
-  Change(L"Discarded");
-  machine_.user.NextBox(L"Are you sure", kAnswerYes);
-  scene_.Window().ChooseMenu({L"File", L"Exit Discarding Changes"});
-  EXPECT_TRUE(MenuHas(L"Saved"));
-  EXPECT_FALSE(MenuHas(L"Discarded"));
-}
-
 TEST_F(Organize, OpeningAsksAboutChangesAndABadFileChangesNothing) {
   scene_.Open();
   machine_.AddFile(L"C:\\bad.bwmk", "nothing of ours");
@@ -528,6 +516,93 @@ TEST_F(Organize, OpeningAsksAboutChangesAndABadFileChangesNothing) {
   EXPECT_FALSE(form_.FileOpened);
   EXPECT_EQ(scene_.Window().caption, L"Organize Folders");
   form_.SaveOnExit = false;
+}
+
+// --- the File menu
+
+constexpr wchar_t kSaveTitle[] = L"Save Configuration File As";
+
+TEST_F(Organize, FilesAreOpenedAndTheDefaultOneComesBack) {
+  scene_.Open();
+  WriteOther();
+  const auto entries = [this] { return scene_.Window().MenuTexts({L"File"}).size(); };
+  const std::size_t before = entries();
+  machine_.user.NextFile(L"Open Configuration File", std::nullopt);
+  scene_.Window().ChooseMenu({L"File", L"Open..."});
+  EXPECT_FALSE(form_.FileOpened);
+  machine_.user.NextFile(L"Open Configuration File", kOther);
+  scene_.Window().ChooseMenu({L"File", L"Open..."});
+  EXPECT_EQ(scene_.Window().caption, L"Organize Folders - other.bwmk");
+  EXPECT_EQ(entries(), before + 2);
+  Change();
+  machine_.user.NextBox(L"Do you want to save the changes you made to other.bwmk?", kAnswerYes);
+  scene_.Window().ChooseMenu({L"File", L"Open Default"});
+  EXPECT_TRUE(FileHas(kOther, "Changed"));
+  EXPECT_EQ(scene_.Window().caption, L"Organize Folders");
+  EXPECT_EQ(entries(), before);
+  EXPECT_FALSE(form_.Changed);
+}
+
+TEST_F(Organize, SavingReachesTheFileAtOnceAndTheMenuAtTheEnd) {
+  scene_.Open();
+  Change(L"Saved");
+  machine_.user.NextBox(L"Default configuration file is successfully saved.", kAnswerOk);
+  scene_.Window().ChooseMenu({L"File", L"Save"});
+  EXPECT_TRUE(FileHas(L"C:\\default.bwmk", "Saved"));
+  EXPECT_FALSE(form_.Changed);
+  EXPECT_FALSE(MenuHas(L"Saved"));
+  Change(L"Discarded");
+  machine_.user.NextBox(L"Are you sure", kAnswerYes);
+  scene_.Window().ChooseMenu({L"File", L"Exit Discarding Changes"});
+  EXPECT_TRUE(MenuHas(L"Saved"));
+  EXPECT_FALSE(MenuHas(L"Discarded"));
+}
+
+TEST_F(Organize, SavingUnderAnotherNameAsksAndAListingChangesNoName) {
+  scene_.Open();
+  Change();
+  machine_.user.NextFile(kSaveTitle, L"C:\\list", 2);
+  machine_.user.NextBox(L"Configuration file list.txt is successfully saved.", kAnswerOk);
+  scene_.Window().ChooseMenu({L"File", L"Save As..."});
+  EXPECT_TRUE(FileHas(L"C:\\list.txt", "Changed"));
+  EXPECT_EQ(scene_.Window().caption, L"Organize Folders");
+  EXPECT_FALSE(form_.Changed);
+  WriteOther();
+  for (const std::int32_t answer : {kAnswerNo, kAnswerYes}) {
+    machine_.user.NextFile(kSaveTitle, kOther, 1);
+    machine_.user.NextBox(L"File C:\\other.bwmk already exists.\r\nDo you want to replace it?", answer);
+    if (answer == kAnswerYes) machine_.user.NextBox(L"other.bwmk is successfully saved.", kAnswerOk);
+    scene_.Window().ChooseMenu({L"File", L"Save As..."});
+    EXPECT_EQ(FileHas(kOther, "Changed"), answer == kAnswerYes);
+  }
+  EXPECT_EQ(scene_.Window().caption, L"Organize Folders - other.bwmk");
+  Change();
+  machine_.files.SetFileAttributesA(kOther, kFileReadOnly);
+  machine_.user.NextBox(L"Error saving configuration file other.bwmk\r\nFile is read-only.", kAnswerOk);
+  scene_.Window().Press(L'S', kCtrlMask);
+  EXPECT_TRUE(form_.Changed);
+  form_.SaveOnExit = false;
+}
+
+TEST_F(Organize, AnotherFileBecomesTheDefaultOne) {
+  scene_.Open();
+  WriteOther();
+  form_.Init(std::wstring(L"/OPEN ") + kOther);
+  machine_.user.NextBox(L"Do you want to make other.bwmk the default configuration file?", kAnswerNo);
+  scene_.Window().ChooseMenu({L"File", L"Set As Default"});
+  EXPECT_EQ(app_.ConfigFile, L"C:\\default.bwmk");
+  machine_.user.NextBox(L"Do you want to make other.bwmk the default configuration file?", kAnswerYes);
+  machine_.user.NextBox(L"other.bwmk is now the default configuration file.", kAnswerOk);
+  scene_.Window().ChooseMenu({L"File", L"Set As Default"});
+  EXPECT_EQ(scene_.Window().caption, L"Organize Folders");
+  std::wstring registered;
+  clsRegHandler(machine_.registry).GetKeyValue(RegistryKey::kCurrentUser, kSettingsKey, kConfigFileValue, registered);
+  EXPECT_EQ(registered, kOther);
+  Change();
+  form_.Changed = false;
+  scene_.Window().Close();  // no question, though nothing counts as changed
+  EXPECT_TRUE(FileHas(kOther, "Changed"));
+  EXPECT_TRUE(MenuHas(L"Changed"));
 }
 
 TEST_F(Organize, TheEndOfTheSessionSavesWithoutAsking) {
