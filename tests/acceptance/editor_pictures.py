@@ -3,9 +3,6 @@
 [--build FOLDER] [--output FOLDER] [--dpi 96 144]
 """
 
-import argparse
-import os
-import signal
 import sys
 import time
 from pathlib import Path
@@ -15,7 +12,8 @@ sys.path.insert(0, str(Path(__file__).resolve().parent))
 import bwmk  # noqa: E402  (needs the path above)
 from burrowmark import KEY, Program  # noqa: E402
 from editor import Editor  # noqa: E402
-from harness import REPOSITORY, Desktop, Settings  # noqa: E402
+from harness import Desktop  # noqa: E402
+from picture_options import parser_for, settings_of  # noqa: E402
 
 LAYOUT = KEY + "\\frmOrg"
 SCREENS = {96: (1280, 900), 144: (1920, 1350)}
@@ -114,23 +112,10 @@ def take_all(settings, output, dpi):
 
 
 def main():
-    parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
-    parser.add_argument("--exe")
-    parser.add_argument("--driver")
-    parser.add_argument("--build")
-    parser.add_argument("--output", type=Path, default=REPOSITORY / "build" / "pictures")
+    parser = parser_for(__doc__)
     parser.add_argument("--dpi", type=int, nargs="+", default=sorted(SCREENS))
     arguments = parser.parse_args()
-    for name, value in (("BURROWMARK_EXE", arguments.exe), ("ACCEPTANCE_DRIVER", arguments.driver),
-                        ("ACCEPTANCE_BUILD", arguments.build)):
-        if value:
-            os.environ[name] = value
-    settings = Settings.from_environment()
-    if settings.exe is None or not settings.exe.is_file():
-        print("burrowmark.exe isn't there")
-        return 2
-    arguments.output.mkdir(parents=True, exist_ok=True)
-    signal.signal(signal.SIGTERM, lambda *_: sys.exit(1))
+    settings = settings_of(arguments)
     saved = sum(take_all(settings, arguments.output, dpi) for dpi in arguments.dpi)
     print("%d pictures" % saved)
     return 0

@@ -5,9 +5,6 @@
 The tree is a sample with folders that exist; the drives of the virtual machine bring the icons that no file can.
 """
 
-import argparse
-import os
-import signal
 import sys
 from pathlib import Path
 
@@ -15,7 +12,8 @@ sys.path.insert(0, str(Path(__file__).resolve().parent))
 
 import bwmk  # noqa: E402  (needs the path above)
 from burrowmark import GROUP, Program  # noqa: E402
-from harness import MENU_CLASS, REPOSITORY, Desktop, NotInTime, Settings, wait_for  # noqa: E402
+from harness import MENU_CLASS, Desktop, NotInTime, wait_for  # noqa: E402
+from picture_options import parser_for, settings_of  # noqa: E402
 
 # Letter and kind of the drives beside C, as the system's own settings call them.
 DRIVES = (("a", "floppy"), ("d", "hd"), ("e", "cdrom"), ("n", "network"), ("u", "floppy"))
@@ -76,25 +74,11 @@ class Album:
 
 
 def main():
-    parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
-    parser.add_argument("--exe")
-    parser.add_argument("--driver")
-    parser.add_argument("--build")
-    parser.add_argument("--output", type=Path, default=REPOSITORY / "build" / "pictures")
-    arguments = parser.parse_args()
-    for name, value in (("BURROWMARK_EXE", arguments.exe), ("ACCEPTANCE_DRIVER", arguments.driver),
-                        ("ACCEPTANCE_BUILD", arguments.build)):
-        if value:
-            os.environ[name] = value
-    settings = Settings.from_environment()
-    if settings.exe is None or not settings.exe.is_file():
-        print("burrowmark.exe isn't there")
-        return 2
-    arguments.output.mkdir(parents=True, exist_ok=True)
+    arguments = parser_for(__doc__).parse_args()
+    settings = settings_of(arguments)
     for old in arguments.output.glob("[0-9][0-9]-*.png"):
         old.unlink()
 
-    signal.signal(signal.SIGTERM, lambda *_: sys.exit(1))
     with Desktop(settings, prepare=with_drives) as desktop:
         program = Program(desktop, settings.exe)
         program.set_option("AC0", True)
