@@ -97,6 +97,7 @@ frmOrganize::frmOrganize(Application& app, OrganizeCalls calls)
   ConnectLabels();
   ConnectBars();
   ConnectMenus();
+  AddAlwaysOnTopItem();
 }
 
 void frmOrganize::Form_Load() {
@@ -118,12 +119,16 @@ void frmOrganize::Form_Load() {
   menus_[L"mnuFileSetDefault"].SetVisible(false);
   SetFormCaption();
   RefreshViews({}, true);
-  AddAlwaysOnTopItem();
+  StayOnTop(false);
   RefreshHotKeys(app_, *WorkCollection);
   FirstActivate_ = true;
 }
 
+// The object outlives its window: nothing of an earlier opening may show.
 void frmOrganize::ResetFields() {
+  ClearSortMark();
+  ResetSplitterCursor();
+  Picture1.SetVisible(false);
   Changed = DefaultChanged = FileOpened = SavedToDefault = ListChangedByTool = false;
   SaveOnExit = true;
   ActivePane_ = 0;

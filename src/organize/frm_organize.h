@@ -92,6 +92,7 @@ class frmOrganize final : public Form {
   void ToggleToolbarImages();
   void ToggleToolbarText();
   void AddAlwaysOnTopItem();
+  void StayOnTop(bool on);
   bool IsOverSplitter(std::int32_t x) const;
 
   // --- closing (frm_organize_close.cpp)

@@ -173,18 +173,16 @@ void frmOrganize::ToggleToolbarText() {
 
 // --- the window's own menu
 
-void frmOrganize::AddAlwaysOnTopItem() {
-  app_.AlwaysOnTop = false;
-  SetTopMost(false);
-  AddSystemMenuEntry({kAlwaysOnTop, L"Always On Top", false});
-  SetSystemMenuChecked(kAlwaysOnTop, false);
+void frmOrganize::AddAlwaysOnTopItem() { AddSystemMenuEntry({kAlwaysOnTop, L"Always On Top", false}); }
+
+void frmOrganize::StayOnTop(bool on) {
+  app_.AlwaysOnTop = on;
+  SetSystemMenuChecked(kAlwaysOnTop, on);
+  SetTopMost(on);
 }
 
 void frmOrganize::Form_SystemCommand(std::int32_t id) {
-  if (id != kAlwaysOnTop) return;
-  app_.AlwaysOnTop = !app_.AlwaysOnTop;
-  SetSystemMenuChecked(kAlwaysOnTop, app_.AlwaysOnTop);
-  SetTopMost(app_.AlwaysOnTop);
+  if (id == kAlwaysOnTop) StayOnTop(!app_.AlwaysOnTop);
 }
 
 }  // namespace burrowmark

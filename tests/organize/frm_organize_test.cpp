@@ -370,6 +370,22 @@ TEST_F(Organize, AlwaysOnTopLastsAsLongAsTheWindow) {
   form_.Unload();
   scene_.Open();
   EXPECT_FALSE(scene_.Window().topMost);
+  EXPECT_EQ(scene_.Window().systemMenu, (std::vector<SystemMenuEntry>{{555, L"Always On Top", false}}));
+}
+
+TEST_F(Organize, NothingOfAnEarlierOpeningShows) {
+  scene_.Open();
+  scene_.Window().ClickColumn(scene_.List(), 0);
+  const std::int32_t edge = ToTwips(scene_.Control(ShownKind::kTreeView).place.right, kDesignDpi) + 30;
+  scene_.Window().Mouse(0, MouseAction::kMove, {0, 0, edge, 3000});
+  scene_.Window().Mouse(0, MouseAction::kDown, {kLeftButton, 0, edge, 3000});
+  form_.Unload();
+  scene_.Open();
+  EXPECT_EQ(scene_.Control(ShownKind::kListView).list->columns[0].text, L"Name");
+  EXPECT_EQ(scene_.Window().pointer, kPointerDefault);
+  EXPECT_FALSE(scene_.Control(ShownKind::kPicture).visible);  // the splitter's bar
+  scene_.Window().ClickColumn(scene_.List(), 0);
+  EXPECT_EQ(scene_.Control(ShownKind::kListView).list->columns[0].text, L"Name+");
 }
 
 // --- the ways out
