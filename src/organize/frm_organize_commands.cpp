@@ -1,7 +1,5 @@
 #include <array>
 
-#include "core/form_services.h"
-#include "core/services.h"
 #include "menu/menu_actions.h"
 #include "organize/enabling.h"
 #include "organize/frm_organize.h"
@@ -262,7 +260,7 @@ void frmOrganize::FindCommand() { FindInFolder(app_, GetSelectedTarget().Path); 
 void frmOrganize::ReportCommand() {
   const Target target = GetSelectedTarget();
   const std::wstring folder = target.Path.empty() ? app_.PersonalFolder : target.Path;
-  if (!FolderOrDriveExists(app_.platform.files, folder)) {
+  if (!app_.platform.files.FolderExists(folder)) {
     const std::wstring text = L"Folder '" + folder + L"' does not exist or is not a directory.";
     app_.platform.dialogs.MessageBoxA(Window(), text, kTitle, kBoxCritical);
   } else if (calls_.ShowFolderReport) {

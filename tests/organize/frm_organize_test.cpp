@@ -252,6 +252,9 @@ TEST_F(Organize, CommandsGoToTheirWindows) {
   EXPECT_EQ(scene_.heard, (std::vector<std::string>{"report C:\\Beta", "new MIT_GROUP_USER MIT_PATH_EXPLORER ",
                                                     "new MIT_GROUP_USER MIT_PATH_EXPLORER C:\\Some folder",
                                                     "new A MIT_PATH_EXPLORER C:\\x"}));
+  machine_.files.DeleteFolder(L"C:\\Inner");
+  machine_.user.NextBox(L"Folder 'C:\\Inner' does not exist or is not a directory.", kAnswerOk);
+  scene_.Window().ChooseMenu({L"Tools", L"Folder Report..."});
   scene_.Window().ChooseMenu({L"Tools", L"Find..."});
   scene_.Window().ChooseMenu({L"Help", L"Support"});
   ASSERT_EQ(machine_.shell.Launches.size(), 2U);
