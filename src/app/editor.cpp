@@ -7,24 +7,26 @@ namespace burrowmark {
 Editor::Editor(Application& app) : app_(app) {}
 Editor::~Editor() = default;
 
+bool Editor::IsOpen() const { return window_ && window_->Loaded(); }
+
 void Editor::Show() {
-  if (!window_) window_ = std::make_unique<frmOrganize>(app_, OrganizeCalls{});
-  app_.IsOpen(SingleWindow::kOrganize) = true;
+  if (IsOpen()) return window_->BringToFront();
+  window_ = std::make_unique<frmOrganize>(app_);
   window_->Show(Modeless, app_.MainWindow);
 }
 
-void Editor::BringToFront() {
-  if (window_) window_->BringToFront();
-}
-
 void Editor::Init(const std::wstring& Command) {
-  if (window_ && window_->Loaded()) window_->Init(Command);
+  if (IsOpen()) window_->Init(Command);
 }
 
-bool Editor::Unload() { return !window_ || window_->Unload(); }
+bool Editor::Unload() { return !IsOpen() || window_->Unload(); }
 
 void Editor::SaveForSessionEnd() {
-  if (window_) window_->SaveForSessionEnd();
+  if (IsOpen()) window_->SaveForSessionEnd();
+}
+
+void Editor::DeleteShortcut(const ItemRef& item) {
+  if (IsOpen()) window_->DeleteShortcut(item);
 }
 
 }  // namespace burrowmark

@@ -1,4 +1,4 @@
-// The one editor window of the program, made when it is first opened.
+// The one editor window of the program, made anew each time it is opened.
 #pragma once
 
 #include <memory>
@@ -17,15 +17,19 @@ class Editor {
   Editor(const Editor&) = delete;
   Editor& operator=(const Editor&) = delete;
 
+  // Opens it, or brings it to the front.
   void Show();
-  void BringToFront();
   // A command behind the opening; nothing without a window.
   void Init(const std::wstring& Command);
   // False if the user wants to go on editing.
   bool Unload();
   void SaveForSessionEnd();
+  // Deletes a shortcut of the tree that is being edited.
+  void DeleteShortcut(const ItemRef& item);
 
  private:
+  bool IsOpen() const;
+
   Application& app_;
   std::unique_ptr<frmOrganize> window_;
 };

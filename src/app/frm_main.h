@@ -3,7 +3,9 @@
 
 #include <string>
 
+#include "app/editor.h"
 #include "core/application.h"
+#include "core/progress.h"
 #include "menu/menu_system.h"
 #include "menu/system_tray.h"
 #include "options/keyboard_hook.h"
@@ -16,23 +18,26 @@ class frmMain {
   frmMain(const frmMain&) = delete;
   frmMain& operator=(const frmMain&) = delete;
 
-  // Reads the tree, builds the menu, puts up the tray icon and obeys the command line. False without a window.
+  // Reads the tree, builds the menu, puts up the tray icon and takes the command line in. False without a window.
   bool Form_Load(std::uint32_t RegisteredMessage, const std::wstring& CommandLine);
-  // Ends the program: the window goes, and with it the message loop.
-  void Unload();
 
  private:
-  void LoadTree();
-  void ReadTree();
-  void BringProjectionsUp();
-  void ProjectAfterInstall();
-  void TellProgress(const std::wstring& text);
+  void ConnectEvents();
+  void FillCalls();
+  void LoadTree(Work& work);
+  void BringProjectionsUp(Work& work);
+  void ProjectAfterInstall(Work& work);
+  void TellProgress(Work& work, const std::wstring& text);
+  void DeleteShortcut(const std::shared_ptr<clsMenuCollection>& store, const ItemRef& item);
+  bool SaveWithout(const clsMenuItem& item);
+  void End();
   void Form_Unload();
 
   Application& app_;
   MenuSystem menu_;
   SystemTray tray_;
   KeyboardHook hook_;
+  Editor editor_;
   MainWindowEvents events_;
   bool progressUp_ = false;
 };

@@ -1,9 +1,7 @@
 #include "app/start.h"
 
 #include "app/command_line.h"
-#include "app/editor.h"
 #include "app/frm_main.h"
-#include "config/config_file.h"
 #include "core/file_names.h"
 #include "core/settings.h"
 #include "core/text.h"
@@ -32,22 +30,6 @@ void ComputePaths(Application& app) {
   app.HelpFile = app.AppPath + L"\\Burrowmark.chm";
 }
 
-// Calls of windows that don't exist yet stay empty.
-void FillCalls(Application& app, frmMain& form, Editor& editor) {
-  app.Calls.ProcessCommand = [&app](bool FromMenu, const std::wstring& Command) {
-    ProcessCommand(app, FromMenu, Command);
-  };
-  app.Calls.SaveMainStore = [&app] { ConfigFileWrite(app, *app.MainStore, {}, false); };
-  app.Calls.UnloadMain = [&form] { form.Unload(); };
-  app.Calls.ShowOrganize = [&editor](bool) { editor.Show(); };
-  app.Calls.InitOrganize = [&editor](const std::wstring& Command) { editor.Init(Command); };
-  app.Calls.UnloadOrganize = [&editor] { return editor.Unload(); };
-  app.Calls.SaveForSessionEnd = [&editor] { editor.SaveForSessionEnd(); };
-  app.Calls.BringToFront = [&editor](SingleWindow window) {
-    if (window == SingleWindow::kOrganize) editor.BringToFront();
-  };
-}
-
 }  // namespace
 
 void RunBurrowmark(Platform platform, const std::wstring& CommandLine) {
@@ -58,15 +40,13 @@ void RunBurrowmark(Platform platform, const std::wstring& CommandLine) {
     if (!command.empty()) HandOver(app, message, command);
     return;
   }
+  if (command == kExitCommand) return;  // there is nobody to end
   platform.windows.DoEvents();
   app.Os = DetectOs(platform.system);
   ComputePaths(app);
-  GetConfigFileName(app, false);
   InitOrganizedFoldersPaths(app);
   LoadSettings(app);
   frmMain form(app);
-  Editor editor(app);
-  FillCalls(app, form, editor);
   if (form.Form_Load(message, command)) platform.windows.RunLoop();
 }
 

@@ -1,6 +1,7 @@
 // The configuration file: where it is, reading it, writing it. Nothing here shows a message; the callers do.
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "core/application.h"
@@ -9,26 +10,47 @@ namespace burrowmark {
 
 inline constexpr wchar_t kDefaultConfigName[] = L"default.bwmk";
 
-// Sets `ConfigFile`: the registered path or, without one or with `ForceDefault`, `default.bwmk` beside the program;
-// where nothing can be written there, in the user's application data.
-void GetConfigFileName(Application& app, bool ForceDefault);
-// Registers a path, or `ConfigFile` for an empty one, as the default configuration file.
+// Where the default file is at a start.
+struct DefaultFile {
+  std::wstring path;       // where it is saved
+  std::wstring source;     // where it is read from now; empty if there is none
+  bool registers = false;  // its path should be registered
+};
+
+// The registered file if it is there; otherwise what stands beside the program or in the user's application data, or
+// would stand there.
+DefaultFile FindDefaultFile(Application& app);
+// Registers a path as that of the default configuration file.
 void SaveConfigFileName(Application& app, const std::wstring& path);
 
-// Reads a file (`ConfigFile` for an empty path) into a store and adds the fixed entries. The flags say that the System
-// Folders group is wanted and was missing, or isn't wanted and was there. On success the file becomes the current one
-// with its summary. A failure gives false and leaves in the store what was added until then; a file without a single
-// byte is deleted.
-bool ConfigFileRead(Application& app, clsMenuCollection& store, const std::wstring& path, bool& SystemGroupMissing,
-                    bool& SystemGroupIgnored);
-// Writes a store to a file (`ConfigFile` for an empty path), or its listing as plain text. Either the file is written
-// whole, or the result is false and the file is as it was.
-bool ConfigFileWrite(Application& app, const clsMenuCollection& store, const std::wstring& path, bool PlainText);
-// Writes the current summary into an existing file, likewise. True if there is no such file.
-bool ConfigFileUpdateSummary(Application& app, const std::wstring& path);
+// The path that a document has of a file: the default file's own, if that is the file that is meant.
+std::wstring OwnPath(Application& app, const std::wstring& path);
 
-// Copies a file that couldn't be read to a free name beside it ("x (unreadable).bwmk"), so that it can be overwritten.
-// True if it was copied.
-bool KeepUnreadableFile(Application& app, const std::wstring& path);
+struct OpenedConfig {
+  Document document;                // without the fixed entries
+  bool SystemGroupMissing = false;  // the System Folders group is wanted, and the file has none
+  bool SystemGroupIgnored = false;  // the file has one, and it isn't wanted
+};
+
+// Reads a file; none if it can't be read. A file without a single byte is deleted.
+std::optional<OpenedConfig> ConfigFileRead(Application& app, const std::wstring& path);
+
+// Writes a document to its own file. Either the file is written whole, or the result is false and the file is as it
+// was. A file that holds anything else than this tree as it was read or written last is copied aside first.
+bool ConfigFileWrite(Application& app, Document& document);
+// The same to another file, which the document belongs to from then on. The user has agreed to lose what is there.
+bool ConfigFileWriteAs(Application& app, Document& document, const std::wstring& path);
+// Writes a listing of the tree as plain text.
+bool ConfigFileExport(Application& app, const Document& document, const std::wstring& path);
+// Writes the summary alone into the document's file. True if there is no such file; false for one that the reader would
+// refuse.
+bool ConfigFileUpdateSummary(Application& app, const Document& document);
+
+// Copies a document's file aside, once, if it holds anything else than the tree; the document gets a notice of it.
+// False if that fails: then the file must not be overwritten.
+bool KeepOldFile(Application& app, Document& document);
+
+// What tells the user that a file couldn't be saved.
+std::wstring SaveErrorText(Application& app, const std::wstring& path);
 
 }  // namespace burrowmark

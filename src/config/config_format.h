@@ -11,7 +11,8 @@
 #include <string_view>
 #include <vector>
 
-#include "core/application.h"
+#include "core/document.h"
+#include "core/menu_item.h"
 #include "platform/system_facts.h"
 
 namespace burrowmark {

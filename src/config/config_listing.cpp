@@ -59,13 +59,14 @@ void WriteTextBranch(std::wstring& text, const clsMenuCollection& store, const w
 
 }  // namespace
 
-std::wstring WriteTextReport(const Application& app, const clsMenuCollection& store) {
-  std::wstring text = app.CurrentConfigFile + kLineEnd + kLineEnd;
+std::wstring WriteTextReport(const Application& app, const Document& document) {
+  const clsMenuCollection& store = *document.Store;
+  std::wstring text = document.CurrentConfigFile + kLineEnd + kLineEnd;
   const CollectionCounts counts = store.CountCollection();
   for (const CountLine& line : kCountLines) text += line.text + DecimalText(counts.*line.count) + kLineEnd;
   text += kLineEnd;
   WriteTextBranch(text, store, MIT_GROUP_USER);
-  if (app.AC[0]) WriteTextBranch(text, store, MIT_PATHS_SYSTEM);
+  if (app.AC[Appearance::kSystemFolders]) WriteTextBranch(text, store, MIT_PATHS_SYSTEM);
   return text;
 }
 

@@ -54,7 +54,7 @@ class Reader {
       : app_(app), store_(store), content_(content), tokens_(tokens) {}
 
   bool Read() {
-    content_.SystemGroupMissing = app_.AC[0];
+    content_.SystemGroupMissing = app_.AC[Appearance::kSystemFolders];
     while (next_ < tokens_.size()) {
       const std::wstring_view token = tokens_[next_++];
       if (token == kUserSection) {
@@ -71,7 +71,7 @@ class Reader {
  private:
   // With the group switched off the records pass through the walk as unknown tokens.
   bool ReadSystemSection() {
-    if (!app_.AC[0]) {
+    if (!app_.AC[Appearance::kSystemFolders]) {
       content_.SystemGroupIgnored = true;
       return true;
     }

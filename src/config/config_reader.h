@@ -11,6 +11,7 @@ struct ConfigContent {
   ConfigSummary summary;
   bool SystemGroupMissing = false;  // the user wants the System Folders group, and the file has none
   bool SystemGroupIgnored = false;  // the file has one, and the user doesn't want it
+  bool Damaged = false;             // the file held entries that couldn't be read as they stand
 };
 
 // Appends what a file holds to the store; a section without its end is read up to its last complete record, less that

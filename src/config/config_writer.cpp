@@ -93,21 +93,22 @@ class SummaryCutter {
 
 }  // namespace
 
-std::string BuildConfig(const Application& app, const clsMenuCollection& store) {
+std::string BuildConfig(const Application& app, const clsMenuCollection& store, const ConfigSummary& summary) {
   std::wstring text;
   WriteSection(text, store, MIT_GROUP_USER);
-  if (app.AC[0]) WriteSection(text, store, MIT_PATHS_SYSTEM);
-  AppendSummary(text, app.Summary);
+  if (app.AC[Appearance::kSystemFolders]) WriteSection(text, store, MIT_PATHS_SYSTEM);
+  AppendSummary(text, summary);
   return EncodeConfig(text, app.platform.system, false);
 }
 
-bool ReplaceSummary(const Application& app, std::string_view bytes, std::string& replaced) {
+bool ReplaceSummary(const Application& app, std::string_view bytes, const ConfigSummary& summary,
+                    std::string& replaced) {
   bool utf8 = false;
   const std::wstring text = DecodeConfig(bytes, app.platform.system, utf8);
   const std::vector<std::wstring_view> tokens = SplitTokens(text);
   std::wstring kept;
   if (!SummaryCutter(tokens).Cut(kept)) return false;
-  AppendSummary(kept, app.Summary);
+  AppendSummary(kept, summary);
   replaced = EncodeConfig(kept, app.platform.system, utf8);
   return true;
 }

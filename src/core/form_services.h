@@ -23,7 +23,4 @@ class Hourglass {
   std::int32_t before_;
 };
 
-// Every dialog calls this when it loads: it stays above other windows if the editor does.
-void SetAlwaysOnTop(const Application& app, Form& form);
-
 }  // namespace burrowmark

@@ -1,32 +1,38 @@
 #include "core/hot_keys.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace burrowmark {
 
 bool HotKeyItemExists(const Application& app, const clsMenuItem& item) {
-  return std::any_of(app.HotKeyItems.begin(), app.HotKeyItems.end(),
+  return std::any_of(app.HotKeyItems.Items.begin(), app.HotKeyItems.Items.end(),
                      [&item](const ItemRef& other) { return other->Name() == item.Name(); });
 }
 
 bool FindHotKeyItem(const Application& app, std::int32_t KeyboardCode, ItemRef& item) {
-  const auto found = std::find_if(app.HotKeyItems.begin(), app.HotKeyItems.end(),
+  const auto& items = app.HotKeyItems.Items;
+  const auto found = std::find_if(items.begin(), items.end(),
                                   [KeyboardCode](const ItemRef& other) { return other->KeyboardCode == KeyboardCode; });
-  item = found == app.HotKeyItems.end() ? nullptr : *found;
+  item = found == items.end() ? nullptr : *found;
   return item != nullptr;
 }
 
-void RefreshHotKeys(Application& app, const clsMenuCollection& store) {
-  app.HotKeyItems.clear();
-  for (std::int32_t i = 1; i <= store.Count(); ++i) {
-    const ItemRef item = store.Item(i);
+void RefreshHotKeys(Application& app, std::shared_ptr<clsMenuCollection> store) {
+  app.HotKeyItems = {std::move(store), {}};
+  for (std::int32_t i = 1; i <= app.HotKeyItems.Store->Count(); ++i) {
+    const ItemRef item = app.HotKeyItems.Store->Item(i);
     if (item->KeyboardCode < 0) continue;
     if (HotKeyItemExists(app, *item)) {
       item->KeyboardCode = -1;
     } else {
-      app.HotKeyItems.push_back(item);
+      app.HotKeyItems.Items.push_back(item);
     }
   }
+}
+
+void RefreshHotKeysOf(Application& app, const clsMenuCollection& store) {
+  if (app.HotKeyItems.Store.get() == &store) RefreshHotKeys(app, app.HotKeyItems.Store);
 }
 
 }  // namespace burrowmark

@@ -12,6 +12,8 @@ bool HotKeyItemExists(const Application& app, const clsMenuItem& item);
 bool FindHotKeyItem(const Application& app, std::int32_t KeyboardCode, ItemRef& item);
 
 // Makes `HotKeyItems` anew from a store. Of two items with one name the second loses its code; codes aren't compared.
-void RefreshHotKeys(Application& app, const clsMenuCollection& store);
+void RefreshHotKeys(Application& app, std::shared_ptr<clsMenuCollection> store);
+// The same after a change of a store, if the list is that store's.
+void RefreshHotKeysOf(Application& app, const clsMenuCollection& store);
 
 }  // namespace burrowmark

@@ -1,5 +1,6 @@
 #include "core/settings.h"
 
+#include <array>
 #include <span>
 
 #include "core/failure.h"
@@ -12,18 +13,29 @@ namespace burrowmark {
 namespace {
 
 constexpr RegistryKey kUser = RegistryKey::kCurrentUser;
-constexpr std::size_t kStartWithSession = 0;  // ADVC
-constexpr std::size_t kHotKeys = 7;           // ADVC
 
 struct SettingGroup {
-  std::wstring (*name)(std::size_t index);
+  const wchar_t* prefix;
   bool valueWhenMissing;
   std::span<bool> values;
 };
 
+constexpr wchar_t kGeneralPrefix[] = L"GC";
+constexpr wchar_t kAppearancePrefix[] = L"AC";
+constexpr wchar_t kAdvancedPrefix[] = L"ADVC";
+
 // The three groups in the order in which they are read and written.
 std::array<SettingGroup, 3> Groups(Application& app) {
-  return {{{GeneralName, true, app.GC}, {AppearanceName, true, app.AC}, {AdvancedName, false, app.ADVC}}};
+  return {{{kGeneralPrefix, true, app.GC.All()},
+           {kAppearancePrefix, true, app.AC.All()},
+           {kAdvancedPrefix, false, app.ADVC.All()}}};
+}
+
+std::wstring NameAt(const wchar_t* prefix, std::size_t index) { return prefix + std::to_wstring(index); }
+
+template <typename Name>
+std::wstring NameOf(const wchar_t* prefix, Name setting) {
+  return NameAt(prefix, static_cast<std::size_t>(setting));
 }
 
 bool LoadBoolean(Application& app, const std::wstring& name, bool valueWhenMissing) {
@@ -37,17 +49,17 @@ bool LoadBoolean(Application& app, const std::wstring& name, bool valueWhenMissi
 
 }  // namespace
 
-std::wstring GeneralName(std::size_t index) { return L"GC" + std::to_wstring(index); }
-std::wstring AppearanceName(std::size_t index) { return L"AC" + std::to_wstring(index); }
-std::wstring AdvancedName(std::size_t index) { return L"ADVC" + std::to_wstring(index); }
+std::wstring SettingName(General setting) { return NameOf(kGeneralPrefix, setting); }
+std::wstring SettingName(Appearance setting) { return NameOf(kAppearancePrefix, setting); }
+std::wstring SettingName(Advanced setting) { return NameOf(kAdvancedPrefix, setting); }
 
 void LoadSettings(Application& app) {
   for (const SettingGroup& group : Groups(app)) {
     for (std::size_t i = 0; i < group.values.size(); ++i) {
-      group.values[i] = LoadBoolean(app, group.name(i), group.valueWhenMissing);
+      group.values[i] = LoadBoolean(app, NameAt(group.prefix, i), group.valueWhenMissing);
     }
   }
-  if (app.Os.NoLowLevelHook) app.ADVC[kHotKeys] = false;
+  if (app.Os.NoLowLevelHook) app.ADVC[Advanced::kHotKeys] = false;
   app.ShowTips = LoadBoolean(app, kTipValue, false);
   app.AfterInstall = LoadBoolean(app, kAfterInstallValue, false);
 }
@@ -56,10 +68,10 @@ void SaveSettings(Application& app) {
   clsRegHandler registry(app.platform.registry);
   for (const SettingGroup& group : Groups(app)) {
     for (std::size_t i = 0; i < group.values.size(); ++i) {
-      registry.SetKeyValue(kUser, kSettingsKey, group.name(i), BooleanNumberText(group.values[i]));
+      registry.SetKeyValue(kUser, kSettingsKey, NameAt(group.prefix, i), BooleanNumberText(group.values[i]));
     }
   }
-  if (app.ADVC[kStartWithSession]) {
+  if (app.ADVC[Advanced::kStartWithSession]) {
     registry.SetKeyValue(kUser, kRunKey, kRunValue, app.AppCommand);
   } else {
     registry.DeleteValue(kUser, kRunKey, kRunValue);

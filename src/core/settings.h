@@ -7,10 +7,10 @@
 
 namespace burrowmark {
 
-// Names of the values: "GC0" to "GC2", "AC0" to "AC6" and "ADVC0" to "ADVC7". Index from 0.
-std::wstring GeneralName(std::size_t index);
-std::wstring AppearanceName(std::size_t index);
-std::wstring AdvancedName(std::size_t index);
+// Names of the values: "GC0" to "GC2", "AC0" to "AC6" and "ADVC0" to "ADVC7".
+std::wstring SettingName(General setting);
+std::wstring SettingName(Appearance setting);
+std::wstring SettingName(Advanced setting);
 
 // Reads all settings; a missing value, or one that is no boolean, gives the value of a first start: on for general and
 // appearance, off for advanced. Hot keys are off where the system has no hook for them.

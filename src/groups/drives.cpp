@@ -1,11 +1,13 @@
 #include "groups/drives.h"
 
+#include <set>
+
+#include "core/menu_entries.h"
 #include "core/text.h"
 
 namespace burrowmark {
 namespace {
 
-constexpr std::size_t kShowDrives = 1;  // AC
 constexpr wchar_t kGroupDescription[] = L"Contains shortcuts to all fixed and network drives";
 
 std::wstring Titled(const std::wstring& drive, const std::wstring& text) { return drive + L" (" + text + L")"; }
@@ -35,6 +37,16 @@ void AddGroup(clsMenuCollection& store, const Clock& clock) {
   store.AddBefore(group, MIT_HF_DRIVES_SEP, true);
 }
 
+// The roots of the drives that the group holds already.
+std::set<std::wstring> DrivesIn(const clsMenuCollection& store) {
+  std::set<std::wstring> roots;
+  for (std::int32_t i = 1; i <= store.Count(); ++i) {
+    const ItemRef item = store.Item(i);
+    if (item->OwnerName == MIT_PATHS_DRIVES) roots.insert(item->FolderPath);
+  }
+  return roots;
+}
+
 void AddDrive(clsMenuCollection& store, const clsDrive& drive) {
   NewMenuItem item;
   item.Caption = drive.Name;
@@ -47,8 +59,6 @@ void AddDrive(clsMenuCollection& store, const clsDrive& drive) {
   item.Remark = REMARK_AUTO;
   store.AddNewMenuItem(item);
 }
-
-bool IsMainStore(const Application& app, const clsMenuCollection& store) { return &store == app.MainStore.get(); }
 
 }  // namespace
 
@@ -65,6 +75,7 @@ clsDrive ParseDriveEntry(Application& app, const std::wstring& entry) {
     const std::wstring bracketed = entry.substr(blank + 1);
     parsed.Name = Titled(drive, bracketed.size() > 2 ? bracketed.substr(1, bracketed.size() - 2) : std::wstring());
   }
+  parsed.IsThere = app.platform.files.DriveExists(parsed.LocalName);
   return parsed;
 }
 
@@ -74,43 +85,39 @@ std::wstring GetVolumeLabel(Application& app, const std::wstring& drive) {
 }
 
 void SetupDrives(Application& app, clsMenuCollection& store) {
-  if (!app.AC[kShowDrives]) return;
+  if (!app.AC[Appearance::kDrives]) return;
   app.DrivesCollection.clear();
-  if (!IsMainStore(app, store)) app.DrivesRebuildNeeded = true;
+  if (!app.IsMainStore(store)) app.DrivesRebuildNeeded = true;
   if (!store.ItemExists(MIT_PATHS_DRIVES)) AddGroup(store, app.platform.clock);
+  const std::set<std::wstring> there = DrivesIn(store);
   for (const std::wstring& entry : app.platform.files.DriveList()) {
     if (Trim(entry).empty()) continue;
-    const clsDrive drive = ParseDriveEntry(app, entry);
-    if (!app.platform.files.DriveExists(drive.LocalName)) continue;
-    AddDrive(store, drive);
-    app.DrivesCollection.push_back(drive);
+    app.DrivesCollection.push_back(ParseDriveEntry(app, entry));
+    const clsDrive& drive = app.DrivesCollection.back();
+    if (drive.IsThere && !there.contains(drive.LocalName)) AddDrive(store, drive);
   }
 }
 
-void RemoveDrives(Application& app, clsMenuCollection& store, bool DeleteFromMenu) {
+void RemoveDrives(Application& app, clsMenuCollection& store) {
   if (!store.ItemExists(MIT_PATHS_DRIVES)) return;
-  if (!IsMainStore(app, store)) app.DrivesRebuildNeeded = true;
-  std::vector<std::wstring> names;
-  for (std::int32_t i = store.Count(); i >= 1; --i) {
-    const ItemRef item = store.Item(i);
-    if (item->OwnerName != MIT_PATHS_DRIVES && item->Name() != MIT_PATHS_DRIVES) continue;
-    if (DeleteFromMenu) app.platform.menus.DeleteMenu(item->OwnerID, item->Position, kMenuByPosition);
-    names.push_back(item->Name());
-  }
-  for (const std::wstring& name : names) store.Remove(name);
+  if (!app.IsMainStore(store)) app.DrivesRebuildNeeded = true;
+  RemoveEntries(app, store, [](const clsMenuItem& item) {
+    return item.OwnerName == MIT_PATHS_DRIVES || item.Name() == MIT_PATHS_DRIVES;
+  });
 }
 
 bool DrivesChanged(Application& app) {
-  const std::vector<std::wstring> entries = app.platform.files.DriveList();
+  std::vector<std::wstring> entries = app.platform.files.DriveList();
+  std::erase_if(entries, [](const std::wstring& entry) { return Trim(entry).empty(); });
   if (entries.size() != app.DrivesCollection.size()) return true;
   for (std::size_t i = 0; i < entries.size(); ++i) {
     const clsDrive drive = ParseDriveEntry(app, entries[i]);
     const clsDrive& known = app.DrivesCollection[i];
-    if (drive.Name != known.Name || drive.DriveType != known.DriveType) return true;
+    if (drive.Name != known.Name || drive.DriveType != known.DriveType || drive.IsThere != known.IsThere) return true;
   }
   return false;
 }
 
-bool DrivesGroupExists(const Application& app) { return app.MainStore->ItemExists(MIT_PATHS_DRIVES); }
+bool DrivesGroupExists(const Application& app) { return app.MainStore().ItemExists(MIT_PATHS_DRIVES); }
 
 }  // namespace burrowmark

@@ -10,8 +10,6 @@
 namespace burrowmark {
 namespace {
 
-constexpr std::size_t kImportantFirst = 5;  // AC: the starred rows stand right in the group
-
 // A row of the table: a sub-group (with its name and description) or a folder (a key of the resolver, and what
 // follows).
 struct FolderRow {
@@ -107,12 +105,21 @@ std::wstring PathOf(const Application& app, const FolderRow& row) {
   return path.empty() ? path : path + row.tail;
 }
 
+bool HoldsFolder(const clsMenuCollection& store, const std::wstring& owner, const std::wstring& path) {
+  for (std::int32_t i = 1; i <= store.Count(); ++i) {
+    const ItemRef item = store.Item(i);
+    if (item->OwnerName == owner && item->FolderPath == path) return true;
+  }
+  return false;
+}
+
 void AddFolder(Application& app, clsMenuCollection& store, const FolderRow& row) {
   const std::wstring path = PathOf(app, row);
   if (path.empty() || !app.platform.files.FolderExists(path)) return;
   NewMenuItem item;
   item.Caption = row.caption;
-  item.OwnerName = row.important && app.AC[kImportantFirst] ? MIT_PATHS_SYSTEM : row.owner;
+  item.OwnerName = row.important && app.AC[Appearance::kImportantFirst] ? MIT_PATHS_SYSTEM : row.owner;
+  if (HoldsFolder(store, item.OwnerName, path)) return;
   item.FolderPath = path;
   item.ItemType = MIT_PATH;
   item.OpenType = MIT_PATH_EXPLORER;
@@ -139,7 +146,7 @@ void RemoveSystemFolders(Application& app, clsMenuCollection& store) {
     hotKeyGone = hotKeyGone || group->Item(i)->KeyboardCode > -1;
     store.Remove(group->Item(i)->Name());
   }
-  if (hotKeyGone) RefreshHotKeys(app, store);
+  if (hotKeyGone) RefreshHotKeysOf(app, store);
 }
 
 std::shared_ptr<clsMenuCollection> GetSystemFoldersCollection(const Application& app, const clsMenuCollection& store) {

@@ -5,7 +5,8 @@
 
 namespace burrowmark {
 
-// Adds the group ahead of the drives, its sub-groups, and an entry for each row of the table whose folder exists.
+// Adds the group ahead of the drives, its sub-groups, and an entry for each row of the table whose folder exists. What
+// is there already isn't added again.
 void SetupSystemFolders(Application& app, clsMenuCollection& store);
 // Takes the group and everything under it out of a store; the hot-key list is made anew if that took a hot key away.
 void RemoveSystemFolders(Application& app, clsMenuCollection& store);

@@ -3,12 +3,9 @@
 #include <vector>
 
 #include "core/failure.h"
-#include "core/hot_keys.h"
 #include "core/registry.h"
 #include "core/registry_keys.h"
 #include "core/services.h"
-#include "core/store_copy.h"
-#include "menu/menu_setup.h"
 
 namespace burrowmark {
 namespace {
@@ -30,113 +27,98 @@ bool MayOpen(Application& app, const clsMenuItem& item) {
   return item.ItemType != MIT_PATH || FolderOrDriveExists(app.platform.files, item.FolderPath);
 }
 
-void OfferDeletion(Application& app, const clsMenuItem& item) {
+void LaunchItem(Application& app, clsMenuItem& item) {
+  std::wstring arguments = item.OpenType == MIT_PATH_EXPLORER ? L"/e" : L"";
+  if (!item.FolderPath.empty()) {
+    if (!arguments.empty()) arguments += L",";
+    arguments += QuotedForExplorer(item.FolderPath);
+  }
+  item.TimeAccessed = Now(app.platform.clock);
+  Launch(app, L"open", app.ExplorerPath, arguments);
+}
+
+bool StandsIn(const clsMenuCollection& store, const ItemRef& item) {
+  return store.GetMenuItemFromName(item->Name()) == item;
+}
+
+void OfferDeletion(Application& app, const std::shared_ptr<clsMenuCollection>& store, const ItemRef& item) {
   const std::wstring question =
-      L"Path '" + item.FolderPath +
+      L"Path '" + item->FolderPath +
       L"' does not exist or is not a directory. Do you want to delete the shortcut from the list?";
   if (app.platform.dialogs.MessageBoxA(app.MainWindow, question, kTitle, kBoxYesNoCancel | kBoxWarning) != kAnswerYes) {
     return;
   }
-  const std::wstring name = item.Name();
-  RebuildMainMenu(app, [&name](clsMenuCollection& copy) { copy.Remove(name); });
-  const bool editing = app.IsOpen(SingleWindow::kOrganize);
-  if (!editing && app.MainStoreFromConfigFile && app.Calls.SaveMainStore) app.Calls.SaveMainStore();
+  if (app.Calls.DeleteShortcut && StandsIn(*store, item)) app.Calls.DeleteShortcut(store, item);
 }
 
-// Sets a flag as long as it lives; `Entered` is false if it was set already.
-class OneAtATime {
- public:
-  explicit OneAtATime(bool& running) : running_(running), entered_(!running) { running_ = true; }
-  ~OneAtATime() {
-    if (entered_) running_ = false;
-  }
-  OneAtATime(const OneAtATime&) = delete;
-  OneAtATime& operator=(const OneAtATime&) = delete;
-  bool Entered() const { return entered_; }
-
- private:
-  bool& running_;
-  bool entered_;
-};
-
-// Opens the shortcuts of these names one after the other. A deletion in between makes the store's items anew, so each
-// is looked up when its turn comes.
-void OpenNamed(Application& app, const std::vector<std::wstring>& names) {
-  for (const std::wstring& name : names) {
-    const ItemRef item = app.MainStore->GetMenuItemFromName(name);
-    if (item) OpenMenuItem(app, item);
-  }
+// The question comes when the program is at rest, if the item is still there and its folder still isn't.
+void OfferDeletionLater(Application& app, const std::shared_ptr<clsMenuCollection>& store, const ItemRef& item) {
+  if (!app.GC[General::kAskForDeletingDead]) return;
+  app.Requests.Add([&app, store = std::weak_ptr<clsMenuCollection>(store), item] {
+    const std::shared_ptr<clsMenuCollection> there = store.lock();
+    if (there && StandsIn(*there, item) && !MayOpen(app, *item)) OfferDeletion(app, there, item);
+  });
 }
 
-std::vector<std::wstring> ShortcutsBeside(const clsMenuCollection& store, const clsMenuItem& openAll) {
-  std::vector<std::wstring> names;
+// The shortcuts beside an Open-All entry. What a box in between takes out is left out when its turn comes.
+std::vector<ItemRef> ShortcutsBeside(const clsMenuCollection& store, const clsMenuItem& openAll) {
+  std::vector<ItemRef> items;
   for (std::int32_t i = 1; i <= store.Count(); ++i) {
     const ItemRef item = store.Item(i);
-    if (item->OwnerName == openAll.OwnerName && item->ItemType == MIT_PATH) names.push_back(item->Name());
+    if (item->OwnerName == openAll.OwnerName && item->ItemType == MIT_PATH) items.push_back(item);
   }
-  return names;
-}
-
-// The level of an Open-All entry, inside a walk that is running already.
-void OpenLevel(Application& app, const clsMenuItem& openAll) {
-  OpenNamed(app, ShortcutsBeside(*app.MainStore, openAll));
+  return items;
 }
 
 }  // namespace
 
-void MenuItemChosen(Application& app, const ItemRef& item) {
+void MenuItemChosen(Application& app, const std::shared_ptr<clsMenuCollection>& store, const ItemRef& item) {
   Skip([&] {
     if (item->Name() == MIT_HF_HELP) {
       ShowHelp(app, kHelpContents);
     } else if (item->Name() == MIT_HF_SETTINGS) {
-      ShowOptions(app, *app.MainStore, true);
+      ShowOptions(app, *store, true);
     } else if (item->Name() == MIT_HF_ORGANIZE) {
-      if (app.Calls.ProcessCommand) app.Calls.ProcessCommand(true, {});
+      if (app.Calls.OpenEditor) app.Calls.OpenEditor();
     } else if (item->ItemType == MIT_OPENALL) {
-      OpenAllMenuItem(app, item);
+      OpenAllMenuItem(app, store, item);
     } else if (item->ItemType == MIT_PATH || item->ItemType == MIT_DRIVE) {
-      OpenMenuItem(app, item);
+      OpenMenuItem(app, store, item);
     }
   });
 }
 
-bool OpenMenuItem(Application& app, const ItemRef& item) {
-  if (!MayOpen(app, *item)) {
-    constexpr std::size_t kAskForDeletion = 1;  // GC
-    if (app.GC[kAskForDeletion]) OfferDeletion(app, *item);
-    return false;
+bool OpenMenuItem(Application& app, const std::shared_ptr<clsMenuCollection>& store, const ItemRef& item) {
+  if (MayOpen(app, *item)) {
+    LaunchItem(app, *item);
+    return true;
   }
-  std::wstring arguments = item->OpenType == MIT_PATH_EXPLORER ? L"/e" : L"";
-  if (!item->FolderPath.empty()) {
-    if (!arguments.empty()) arguments += L",";
-    arguments += QuotedForExplorer(item->FolderPath);
-  }
-  item->TimeAccessed = Now(app.platform.clock);
-  Launch(app, L"open", app.ExplorerPath, arguments);
-  return true;
+  if (app.GC[General::kAskForDeletingDead]) OfferDeletion(app, store, item);
+  return false;
 }
 
-bool OpenAllMenuItem(Application& app, const ItemRef& item) {
-  const OneAtATime walk(app.WalkRunning);
-  if (!walk.Entered()) return false;
-  OpenLevel(app, *item);
-  return true;
+void OpenAllMenuItem(Application& app, const std::shared_ptr<clsMenuCollection>& store, const ItemRef& item) {
+  const Busy walk(app.Requests, BusyWith::kWalk);
+  for (const ItemRef& shortcut : ShortcutsBeside(*store, *item)) {
+    if (StandsIn(*store, shortcut)) OpenMenuItem(app, store, shortcut);
+  }
 }
 
 bool OpenHotKeyItem(Application& app, std::int32_t KeyboardCode) {
-  const OneAtATime walk(app.WalkRunning);
-  if (!walk.Entered()) return false;
   bool result = false;
-  const std::vector<ItemRef> items = app.HotKeyItems;
-  for (const ItemRef& item : items) {
+  const HotKeyList list = app.HotKeyItems;
+  for (const ItemRef& item : list.Items) {
     if (item->KeyboardCode != KeyboardCode) continue;
-    if (item->ItemType == MIT_OPENALL) {
-      OpenLevel(app, *item);
-      result = true;
-    } else {
-      const ItemRef live = app.MainStore->GetMenuItemFromName(item->Name());
-      result = OpenMenuItem(app, live ? live : item);
+    const bool isOpenAll = item->ItemType == MIT_OPENALL;
+    for (const ItemRef& shortcut : isOpenAll ? ShortcutsBeside(*list.Store, *item) : std::vector<ItemRef>{item}) {
+      result = MayOpen(app, *shortcut);
+      if (result) {
+        LaunchItem(app, *shortcut);
+      } else {
+        OfferDeletionLater(app, list.Store, shortcut);
+      }
     }
+    result = result || isOpenAll;
   }
   return result;
 }
@@ -170,28 +152,14 @@ void ShowHelp(Application& app, std::int32_t command) {
 }
 
 bool ShowOptions(Application& app, clsMenuCollection& store, bool FromMainMenu) {
-  if (app.IsOpen(SingleWindow::kOptions) || !app.Calls.ShowOptions) return false;
-  app.IsOpen(SingleWindow::kOptions) = true;
-  const bool changed = app.Calls.ShowOptions(store, FromMainMenu);
-  app.IsOpen(SingleWindow::kOptions) = false;
-  if (app.ExitRequested && app.Calls.UnloadMain) app.Calls.UnloadMain();
-  return changed;
+  return !app.Windows.IsOpen(ProgramWindow::kOptions) && app.Calls.ShowOptions &&
+         app.Calls.ShowOptions(store, FromMainMenu);
 }
 
 std::wstring GetTransferText(const Application& app) {
   std::wstring text;
   clsRegHandler(app.platform.registry).GetKeyValue(RegistryKey::kCurrentUser, kMainKey, kTransferValue, text);
   return text;
-}
-
-void RebuildMainMenu(Application& app, const std::function<void(clsMenuCollection& copy)>& change) {
-  clsMenuCollection copy(app.platform.clock);
-  CopyStore(app.platform.clock, *app.MainStore, copy);
-  if (change) change(copy);
-  ClearMenu(app);
-  CopyStore(app.platform.clock, copy, *app.MainStore);
-  RefreshHotKeys(app, *app.MainStore);
-  MenuSetupBuild(app, {});
 }
 
 }  // namespace burrowmark

@@ -1,22 +1,25 @@
 // What a chosen entry does.
 #pragma once
 
+#include <memory>
 #include <string>
 
 #include "core/application.h"
 
 namespace burrowmark {
 
+// `store` is always the one that the item stands in.
+
 // Runs a chosen entry: a fixed one by its name, any other by its type. A failure ends it silently.
-void MenuItemChosen(Application& app, const ItemRef& item);
+void MenuItemChosen(Application& app, const std::shared_ptr<clsMenuCollection>& store, const ItemRef& item);
 
 // Opens the folder of a shortcut or a drive in the file manager. A shortcut whose folder has gone opens nothing and
-// gives false; if the user wants that, a box offers to take it out of the menu and of the file.
-bool OpenMenuItem(Application& app, const ItemRef& item);
-// Opens all folder shortcuts of the entry's menu level, groups and drives left out. True at the end of a full walk.
-// While one such walk runs (a box may wait for its answer) another doesn't start and gives false.
-bool OpenAllMenuItem(Application& app, const ItemRef& item);
-// Opens every item of the hot-key list that has this code; the result is that of the last.
+// gives false; if the user wants that, a box offers to delete it.
+bool OpenMenuItem(Application& app, const std::shared_ptr<clsMenuCollection>& store, const ItemRef& item);
+// Opens all folder shortcuts of the entry's menu level, groups and drives left out.
+void OpenAllMenuItem(Application& app, const std::shared_ptr<clsMenuCollection>& store, const ItemRef& item);
+// Opens every item of the hot-key list that has this code; the result is that of the last. Nothing waits for the user:
+// the question about a folder that is gone comes when the program is at rest.
 bool OpenHotKeyItem(Application& app, std::int32_t KeyboardCode);
 
 // Opens a folder in the file manager, the user's own for an empty path; `WithTree` shows the tree beside it.
@@ -29,12 +32,9 @@ std::int32_t OpenFile(Application& app, const std::wstring& path);
 void EjectDisc(Application& app, const std::wstring& drive);
 // Opens the help file; 1 is its contents, 2 its index. A box says if it is missing.
 void ShowHelp(Application& app, std::int32_t command);
-// Shows the Options dialog unless it is open; true if something was changed. May end the program.
+// Shows the Options dialog unless it is open; true if something was changed.
 bool ShowOptions(Application& app, clsMenuCollection& store, bool FromMainMenu);
 // The last command that was handed over, or empty.
 std::wstring GetTransferText(const Application& app);
-
-// Makes the menu anew from the main store, as `change` leaves a copy of it.
-void RebuildMainMenu(Application& app, const std::function<void(clsMenuCollection& copy)>& change);
 
 }  // namespace burrowmark

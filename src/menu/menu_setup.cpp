@@ -2,11 +2,14 @@
 
 #include <algorithm>
 #include <initializer_list>
-#include <map>
+#include <utility>
 #include <vector>
 
 #include "core/failure.h"
 #include "core/file_names.h"
+#include "core/hot_keys.h"
+#include "core/menu_entries.h"
+#include "core/store_copy.h"
 #include "groups/personal_group.h"
 #include "groups/system_folders.h"
 
@@ -45,29 +48,10 @@ std::wstring FirstRootKey(const clsMenuCollection& store) {
   return {};
 }
 
-bool IsMainStore(const Application& app, const clsMenuCollection& store) { return &store == app.MainStore.get(); }
-
-// Entries that come among others, or go, move the others.
-void NumberPositions(const clsMenuCollection& store) {
-  std::map<std::int32_t, std::int32_t> next;
-  for (std::int32_t i = 1; i <= store.Count(); ++i) {
-    const ItemRef item = store.Item(i);
-    item->Position = next[item->OwnerID]++;
-  }
-}
-
-// Takes entries out of a store and, of the main store, out of the native menu: from the end, so that the positions of
-// those still to go stay right.
-void RemoveEntries(Application& app, clsMenuCollection& store, std::initializer_list<std::wstring_view> names) {
-  std::vector<std::wstring> found;
-  for (std::int32_t i = store.Count(); i >= 1; --i) {
-    const ItemRef item = store.Item(i);
-    if (std::find(names.begin(), names.end(), item->Name()) == names.end()) continue;
-    if (IsMainStore(app, store)) app.platform.menus.DeleteMenu(item->OwnerID, item->Position, kMenuByPosition);
-    found.push_back(item->Name());
-  }
-  for (const std::wstring& name : found) store.Remove(name);
-  if (IsMainStore(app, store)) NumberPositions(store);
+void RemoveNamed(Application& app, clsMenuCollection& store, std::initializer_list<std::wstring_view> names) {
+  RemoveEntries(app, store, [names](const clsMenuItem& item) {
+    return std::find(names.begin(), names.end(), item.Name()) != names.end();
+  });
 }
 
 bool TakesPart(const clsMenuItem& item, const std::wstring& filter) {
@@ -76,7 +60,7 @@ bool TakesPart(const clsMenuItem& item, const std::wstring& filter) {
 
 // First pass: the entry goes in, at the place that the store's order gives it among its siblings.
 void InsertEntry(Application& app, clsMenuItem& item, bool replacesDummy) {
-  clsMenuCollection& store = *app.MainStore;
+  clsMenuCollection& store = app.MainStore();
   Menus& menus = app.platform.menus;
   if (item.SubMenu()) {
     item.ID = menus.CreatePopupMenu();
@@ -107,8 +91,8 @@ void MakeOwnerDrawn(Application& app, clsMenuItem& item) {
 void AddFixedEntries(Application& app, clsMenuCollection& store, bool AddSystemGroup) {
   store.AddNewMenuItem(FixedSeparator(MIT_HF_DRIVES_SEP, {}));
   store.AddNewMenuItem(FixedEntry(MIT_HF_ORGANIZE, L"Organize Folders", {}));
-  if (app.AC[2]) AddHelpEntries(store);
-  if (app.AC[3]) AddOptionsEntry(store);
+  if (app.AC[Appearance::kHelp]) AddHelpEntries(store);
+  if (app.AC[Appearance::kOptions]) AddOptionsEntry(store);
   if (AddSystemGroup) SetupSystemFolders(app, store);
 }
 
@@ -119,18 +103,18 @@ void AddHelpEntries(clsMenuCollection& store) {
 }
 
 void RemoveHelpEntries(Application& app, clsMenuCollection& store) {
-  RemoveEntries(app, store, {MIT_HF_HELP, MIT_HF_HELP_SEP});
+  RemoveNamed(app, store, {MIT_HF_HELP, MIT_HF_HELP_SEP});
 }
 
 void AddOptionsEntry(clsMenuCollection& store) {
   store.AddNewMenuItem(FixedEntry(MIT_HF_SETTINGS, L"Options", MIT_HF_ORGANIZE));
 }
 
-void RemoveOptionsEntry(Application& app, clsMenuCollection& store) { RemoveEntries(app, store, {MIT_HF_SETTINGS}); }
+void RemoveOptionsEntry(Application& app, clsMenuCollection& store) { RemoveNamed(app, store, {MIT_HF_SETTINGS}); }
 
 void MenuSetupBuild(Application& app, const std::wstring& filter) {
   Skip([&] {
-    clsMenuCollection& store = *app.MainStore;
+    clsMenuCollection& store = app.MainStore();
     store.FileMenuHandle = app.platform.menus.GetSubMenu(app.platform.menus.GetMenu(app.MainWindow), 0);
     store.IDCounter = kBuildStart;
     std::vector<ItemRef> entries;
@@ -145,26 +129,30 @@ void MenuSetupBuild(Application& app, const std::wstring& filter) {
   });
 }
 
-void ClearMenu(Application& app) {
-  clsMenuCollection& store = *app.MainStore;
-  std::vector<std::wstring> names;
-  for (std::int32_t i = store.Count(); i >= 1; --i) {
-    const ItemRef item = store.Item(i);
-    app.platform.menus.DeleteMenu(item->OwnerID, item->Position, kMenuByPosition);
-    names.push_back(item->Name());
+void ReplaceMainStore(Application& app, std::shared_ptr<clsMenuCollection> store) {
+  Menus& menus = app.platform.menus;
+  const MenuHandle root = menus.GetSubMenu(menus.GetMenu(app.MainWindow), 0);
+  while (menus.DeleteMenu(root, 0, kMenuByPosition)) {
   }
-  for (const std::wstring& name : names) store.Remove(name);
-  app.platform.menus.InsertMenuA(store.FileMenuHandle, 0, kMenuByPosition, kDummyId, kDummyText);
-  store.ResetCounters();
+  menus.InsertMenuA(root, 0, kMenuByPosition, kDummyId, kDummyText);
+  const bool hasHotKeys = !app.HotKeyItems.Store || app.IsMainStore(*app.HotKeyItems.Store);
+  app.MainDocument.Store = std::move(store);
+  if (hasHotKeys) RefreshHotKeys(app, app.MainDocument.Store);
+  MenuSetupBuild(app, {});
 }
 
-void ResetToDefaults(Application& app) {
-  app.MainStore = std::make_shared<clsMenuCollection>(app.platform.clock);
-  SetupPersonalGroup(app, *app.MainStore, PersonalContent::kRecentFolders);
-  if (app.MainStore->ChildrenNumber(MIT_GROUP_USER) == 0) {
-    SetupPersonalGroup(app, *app.MainStore, PersonalContent::kDriveFolders);
-  }
-  AddFixedEntries(app, *app.MainStore, app.AC[0]);
+void RebuildMainMenu(Application& app) {
+  auto copy = std::make_shared<clsMenuCollection>(app.platform.clock);
+  CopyStore(app.platform.clock, app.MainStore(), *copy);
+  ReplaceMainStore(app, std::move(copy));
+}
+
+std::shared_ptr<clsMenuCollection> DefaultTree(Application& app) {
+  auto store = std::make_shared<clsMenuCollection>(app.platform.clock);
+  SetupPersonalGroup(app, *store, PersonalContent::kRecentFolders);
+  if (store->ChildrenNumber(MIT_GROUP_USER) == 0) SetupPersonalGroup(app, *store, PersonalContent::kDriveFolders);
+  AddFixedEntries(app, *store, app.AC[Appearance::kSystemFolders]);
+  return store;
 }
 
 bool HasBadFileChars(std::wstring_view text) { return text.find_first_of(kBadFileChars) != std::wstring_view::npos; }

@@ -1,6 +1,7 @@
 // The menu's fixed entries in a store, and the native popup menu made from a store.
 #pragma once
 
+#include <memory>
 #include <string>
 
 #include "core/application.h"
@@ -23,10 +24,12 @@ void RemoveOptionsEntry(Application& app, clsMenuCollection& store);
 // Makes the native entries of the main store: all of them over the lone dummy entry or, with a filter, those of that
 // owner and the one of that name beside what is there. An entry whose owner isn't in the store stays out.
 void MenuSetupBuild(Application& app, const std::wstring& filter);
-// Empties the main store and its native menu, which keeps a dummy entry.
-void ClearMenu(Application& app);
-// Replaces the main store by the default tree.
-void ResetToDefaults(Application& app);
+// Puts a store behind the menu, with all its native entries; with its hot keys too, unless they are another store's.
+void ReplaceMainStore(Application& app, std::shared_ptr<clsMenuCollection> store);
+// Makes everything native anew from the store that is behind the menu.
+void RebuildMainMenu(Application& app);
+// The tree of a first start.
+std::shared_ptr<clsMenuCollection> DefaultTree(Application& app);
 
 bool HasBadFileChars(std::wstring_view text);
 bool ItemNamed(const std::wstring& name, const clsMenuCollection& store);

@@ -8,9 +8,7 @@
 namespace burrowmark {
 namespace {
 
-constexpr std::int32_t kIconSize = 16;       // at 96 dots per inch
-constexpr std::size_t kShowIconsOption = 4;  // AC
-constexpr std::size_t kRedBarOption = 6;     // AC
+constexpr std::int32_t kIconSize = 16;  // at 96 dots per inch
 
 }  // namespace
 
@@ -50,55 +48,49 @@ bool MenuSystem::SetScale(std::int32_t dpi) {
 MessageResult MenuSystem::MenuWindowProc(WindowMessage& message) {
   Skip([&] {
     if (message.number == RegisteredMessage && RegisteredMessage != 0) {
-      HandedOver({});
+      AskedToLook(message.wParam);
     } else if (message.number == kMessageDrawItem && message.draw != nullptr) {
       Draw(*message.draw);
     } else if (message.number == kMessageMeasureItem && message.measure != nullptr) {
       Measure(*message.measure);
     } else if (message.number == kMessageMenuRightButtonUp) {
       RightClick(static_cast<std::int32_t>(message.wParam), static_cast<MenuHandle>(message.lParam));
-    } else if (message.number == kMessageCommand) {
-      Chosen(static_cast<std::int32_t>(message.wParam & 0xFFFF));
     }
   });
   const bool isHandOver = message.number == kMessageCopyData && message.lParam == RegisteredMessage;
   if (!isHandOver) return {};
+  heard_.insert(message.wParam);
   HandedOver(message.text);
   return {true, 1};
 }
 
 void MenuSystem::Measure(MeasureRecord& record) {
-  const ItemRef item = app_.MainStore->GetMenuItemFromID(record.itemID);
+  const ItemRef item = app_.MainStore().GetMenuItemFromID(record.itemID);
   if (item) MeasureMenuItem(app_.platform.drawing, look_, *item, record);
 }
 
 void MenuSystem::Draw(const DrawRecord& record) {
-  const ItemRef item = app_.MainStore->GetMenuItemFromID(record.itemID);
+  const ItemRef item = app_.MainStore().GetMenuItemFromID(record.itemID);
   if (!item) return;
-  look_.ShowIcons = app_.AC[kShowIconsOption];
-  look_.RedBar = app_.AC[kRedBarOption];
+  look_.ShowIcons = app_.AC[Appearance::kShortcutIcons];
+  look_.RedBar = app_.AC[Appearance::kRedSelection];
   MenuItemDraw(app_.platform.drawing, look_, *item, record);
 }
 
 void MenuSystem::RightClick(std::int32_t position, MenuHandle menu) {
-  const ItemRef item = app_.MainStore->GetMenuItemFromID(app_.platform.menus.GetMenuItemID(menu, position));
+  const ItemRef item = app_.MainStore().GetMenuItemFromID(app_.platform.menus.GetMenuItemID(menu, position));
   if (!item || item->DriveType != kDriveCompactDisc) return;
   EjectDisc(app_, UpperCaseText(item->FolderPath));
   app_.platform.windows.SendMessageA(app_.MainWindow, kMessageCancelMode, 0, 0);
 }
 
-void MenuSystem::Chosen(std::int32_t ID) {
-  const ItemRef item = app_.MainStore->GetMenuItemFromID(ID);
-  if (item) MenuItemChosen(app_, item);
+// A process that saw no answer asks to look into the registry, though its text may have come over meanwhile.
+void MenuSystem::AskedToLook(std::int64_t process) {
+  if (heard_.erase(process) == 0) HandedOver(GetTransferText(app_));
 }
 
-// The other process waits for this message to return, so the command runs from the loop. An empty text is that of the
-// registry.
 void MenuSystem::HandedOver(const std::wstring& text) {
-  app_.platform.windows.Post([this, text] {
-    const std::wstring command = text.empty() ? GetTransferText(app_) : text;
-    if (!command.empty() && app_.Calls.ProcessCommand) app_.Calls.ProcessCommand(false, command);
-  });
+  if (!text.empty() && app_.Calls.CommandArrived) app_.Calls.CommandArrived(text);
 }
 
 }  // namespace burrowmark

@@ -1,6 +1,8 @@
 // The owner-drawn popup menu: what the main window's hook does with the system's messages.
 #pragma once
 
+#include <set>
+
 #include "core/application.h"
 #include "menu/menu_drawing.h"
 
@@ -31,11 +33,12 @@ class MenuSystem {
   void Measure(MeasureRecord& record);
   void Draw(const DrawRecord& record);
   void RightClick(std::int32_t position, MenuHandle menu);
-  void Chosen(std::int32_t ID);
+  void AskedToLook(std::int64_t process);
   void HandedOver(const std::wstring& text);
 
   Application& app_;
   MenuLook look_;
+  std::set<std::int64_t> heard_;  // processes whose text came over by itself
 };
 
 }  // namespace burrowmark

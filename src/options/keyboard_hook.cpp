@@ -29,17 +29,24 @@ void KeyboardHook::UnhookKeyboard() {
   HookHandle_ = 0;
 }
 
-// Every key of the desktop passes here, so the digits are asked for first, a code that nobody has is none of ours, and
-// the opening happens from the loop.
+// Every key of the desktop passes here, so the digits are asked for first; whose code it is, is looked up in the loop.
 void KeyboardHook::KeyboardProc(std::int64_t message, const KeyRecord& key) {
   if (message != kMessageKeyDown || key.vkCode < kFirstDigit || key.vkCode > kLastDigit) return;
   Keyboard& keyboard = app_.platform.keyboard;
   if ((keyboard.GetKeyState(kKeyControl) & kKeyDownBit) == 0) return;
   if ((keyboard.GetKeyState(kKeyShift) & kKeyDownBit) == 0) return;
   const auto code = static_cast<std::int32_t>(key.vkCode);
+  app_.platform.windows.Post([this, code] { HotKeyPressed(code); });
+}
+
+// The same key waits once, however often it is pressed.
+void KeyboardHook::HotKeyPressed(std::int32_t code) {
   ItemRef holder;
-  if (!FindHotKeyItem(app_, code, holder)) return;
-  app_.platform.windows.Post([&app = app_, code] { OpenHotKeyItem(app, code); });
+  if (!FindHotKeyItem(app_, code, holder) || !pending_.insert(code).second) return;
+  app_.Requests.AddPrompt([this, code] {
+    pending_.erase(code);
+    OpenHotKeyItem(app_, code);
+  });
 }
 
 }  // namespace burrowmark

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <set>
 #include <string>
 
 #include "core/application.h"
@@ -26,9 +27,11 @@ class KeyboardHook {
 
  private:
   void KeyboardProc(std::int64_t message, const KeyRecord& key);
+  void HotKeyPressed(std::int32_t code);
 
   Application& app_;
   HookHandle HookHandle_ = 0;
+  std::set<std::int32_t> pending_;  // codes that wait to be opened
 };
 
 }  // namespace burrowmark

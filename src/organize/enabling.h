@@ -8,6 +8,9 @@
 
 namespace burrowmark {
 
+// Menus that are set to what is selected when they open.
+enum class MenuKind : std::uint8_t { kPopup, kPopup2, kEdit = 4, kView };
+
 // Kinds of target as the commands tell them apart.
 enum class TargetKind : std::uint8_t {
   kOrdinary,

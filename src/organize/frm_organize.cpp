@@ -6,6 +6,7 @@
 #include "core/file_names.h"
 #include "core/form_state.h"
 #include "core/hot_keys.h"
+#include "core/services.h"
 #include "core/store_copy.h"
 #include "core/text.h"
 #include "groups/drives.h"
@@ -17,6 +18,7 @@ namespace {
 
 constexpr Size kDesign{12000, 8000};
 constexpr wchar_t kTitle[] = L"Organize Folders";
+constexpr wchar_t kMessageTitle[] = L"Burrowmark";
 constexpr wchar_t kDrivesText[] = L"Content of Drives group is automatically generated and cannot be edited.";
 constexpr std::int32_t kIcon = 7;  // "Organize Folders" in the menu
 
@@ -68,14 +70,12 @@ std::vector<StatusPanelState> StatusPanels() { return {{L"", 0, 2700}, {L"", 0, 
 
 }  // namespace
 
-frmOrganize::frmOrganize(Application& app, OrganizeCalls calls)
-    : Form(app.platform.windows, L"frmOrganize", kDesign),
-      app_(app),
-      calls_(std::move(calls)),
+frmOrganize::frmOrganize(Application& app)
+    : ProgramForm(app, ProgramWindow::kOrganize, L"frmOrganize", kDesign),
       tlbMain(*this, L"tlbMain", ToolbarButtons()),
       txtInfoDrives(*this, L"txtInfoDrives", Box{}, kDrivesText),
       stbMain(*this, L"stbMain", StatusPanels()),
-      menus_(*this, OrganizeMenuRows()) {
+      menus_(*this, MenuRows()) {
   SetBorder(FormBorder::kSizable);
   SetCaption(kTitle);
   SetIcon(kIcon);
@@ -101,65 +101,62 @@ frmOrganize::frmOrganize(Application& app, OrganizeCalls calls)
 }
 
 void frmOrganize::Form_Load() {
-  WorkCollection = std::make_shared<clsMenuCollection>(app_.platform.clock);
-  ResetFields();
   const Size screen = ScreenSize(app_);
   LoadFormState(app_, *this, false, {screen.width * 4 / 5, screen.height * 4 / 5, false});
   LoadLayout();
-  CopyStore(app_.platform.clock, *app_.MainStore, *WorkCollection);
-  // The summary belongs to the file that is current.
-  if (!EditsDefaultFile()) {
-    clsMenuCollection unused(app_.platform.clock);
-    bool missing = false;
-    bool ignored = false;
-    ConfigFileRead(app_, unused, {}, missing, ignored);
-    app_.CurrentConfigFile = app_.ConfigFile;
-  }
+  AdoptDefaultFile();
+  Edited = app_.MainDocument;
+  Edited.Store = std::make_shared<clsMenuCollection>(app_.platform.clock);
+  CopyStore(app_.platform.clock, app_.MainStore(), *Edited.Store);
   menus_[L"mnuFileOpenDefault"].SetVisible(false);
   menus_[L"mnuFileSetDefault"].SetVisible(false);
   SetFormCaption();
   RefreshViews({}, true);
   StayOnTop(false);
-  RefreshHotKeys(app_, *WorkCollection);
+  RefreshHotKeys(app_, WorkCollection());
   FirstActivate_ = true;
 }
 
-// The object outlives its window: nothing of an earlier opening may show.
-void frmOrganize::ResetFields() {
-  ClearSortMark();
-  ResetSplitterCursor();
-  Picture1.SetVisible(false);
-  Changed = DefaultChanged = FileOpened = SavedToDefault = ListChangedByTool = false;
-  SaveOnExit = true;
-  ActivePane_ = 0;
-  TreeActive_ = ListActive_ = false;
-  CurrentGroup_.clear();
-  SortColumn_ = 0;
-  ListItemClicked_ = NodeClicked_ = ListRightButton_ = TreeRightButton_ = false;
-  SplitterDragging_ = SplitterCursorSet_ = TreeWidthSet_ = false;
-  lastStatus_.reset();
-  ClipboardItems_.reset();
-  CutKeys_.clear();
+// A file that has come to the place where the menu's tree belongs is what the user wants there. One that can't be read
+// is kept under another name.
+void frmOrganize::AdoptDefaultFile() {
+  Document& document = app_.MainDocument;
+  if (document.Content == FileContent::kNone) {
+    if (FileExists(app_.platform.files, document.CurrentConfigFile)) TakeDefaultFile();
+  } else {
+    KeepOldFile(app_, document);
+  }
 }
 
 void frmOrganize::Form_Activate() {
   if (!std::exchange(FirstActivate_, false)) return;
-  if (app_.ShowTips && calls_.ShowTip) calls_.ShowTip(*this);
+  const std::wstring notice = std::exchange(app_.MainDocument.Notice, {});
+  if (notice.empty()) return;
+  app_.Requests.Add(
+      [&app = app_, notice] { app.platform.dialogs.MessageBoxA(app.MainWindow, notice, kMessageTitle, kBoxWarning); });
+}
+
+bool frmOrganize::InGesture() const {
+  return TreeView1.EditedNode() != nullptr || ListView1.EditedItem() != nullptr || SplitterDragging_;
+}
+
+void frmOrganize::CancelGesture() {
+  TreeView1.CancelLabelEdit();
+  ListView1.CancelLabelEdit();
+  SplitterDragging_ = false;
+  Picture1.SetVisible(false);
 }
 
 void frmOrganize::Init(const std::wstring& Command) {
-  constexpr std::wstring_view kAdd = L"/ADD";
   constexpr std::wstring_view kOpen = L"/OPEN";
   const std::wstring command = Trim(Command);
-  if (command.starts_with(kAdd)) {
-    NewItemInGroup(GroupOfNewItem(), MIT_PATH_EXPLORER, PathArgument(command.substr(kAdd.size())));
-  } else if (command.starts_with(kOpen)) {
+  if (command.starts_with(kOpen)) {
     OpenConfigFile(PathArgument(command.substr(kOpen.size())));
   }
 }
 
 void frmOrganize::SetFormCaption() {
-  SetCaption(EditsDefaultFile() ? kTitle : kTitle + (L" - " + GetFileName(app_.CurrentConfigFile)));
+  SetCaption(EditsDefaultFile() ? kTitle : kTitle + (L" - " + GetFileName(Edited.CurrentConfigFile)));
 }
 
 void frmOrganize::Form_KeyDown(std::int32_t& KeyCode, std::int32_t Shift) {

@@ -8,13 +8,16 @@
 #include <memory>
 #include <optional>
 #include <set>
+#include <span>
 #include <string>
+#include <vector>
 
-#include "core/application.h"
-#include "organize/organize_calls.h"
+#include "config/config_file.h"
+#include "core/program_form.h"
+#include "core/progress.h"
+#include "organize/enabling.h"
 #include "organize/organize_layout.h"
-#include "organize/organize_menus.h"
-#include "ui/form.h"
+#include "projection/organized_folders.h"
 #include "ui/label.h"
 #include "ui/list_view.h"
 #include "ui/menu.h"
@@ -26,23 +29,25 @@
 
 namespace burrowmark {
 
-class frmOrganize final : public Form {
+class frmOrganize final : public ProgramForm {
  public:
-  frmOrganize(Application& app, OrganizeCalls calls);
+  explicit frmOrganize(Application& app);
 
   // Runs "/ADD path" or "/OPEN path" on the loaded window.
   void Init(const std::wstring& Command);
   void SetFormCaption();
   // Fills the tree again; shows the node of that key, the first below the root for an empty one.
   void RefreshViews(const std::wstring& Key, bool Expand);
-  // Replaces what is edited by a file's content, the default one's for an empty path. False: everything is as it was.
+  // Replaces what is edited by a file's content. False: everything is as it was.
   bool FuncConfigFileLoad(const std::wstring& Path);
-  // Writes what is edited, to the default file for an empty path; with `Rebuild` it becomes the menu's tree too.
-  bool FuncConfigFileSave(bool Rebuild, const std::wstring& Path, bool TextMode);
+  // Writes what is edited to its file; with `Rebuild` it becomes the menu's document too.
+  bool FuncConfigFileSave(bool Rebuild);
   // Asks about what was changed, and loads.
   void OpenConfigFile(const std::wstring& Path);
   // The user's session ends: what was changed is written without a question.
   void SaveForSessionEnd();
+  // Deletes a shortcut of the tree.
+  void DeleteShortcut(const ItemRef& item);
 
   // Patch single nodes and rows after a change of `WorkCollection`. One that isn't shown is nobody's fault.
   // A node stands behind the sibling `PrevName`; "NONE" puts it behind all, and an empty one ahead of all.
@@ -60,17 +65,25 @@ class frmOrganize final : public Form {
   void RemoveListItem(const std::wstring& Name);
   bool ListKeyExists(const std::wstring& Key) const;
 
-  std::shared_ptr<clsMenuCollection> WorkCollection;  // none while the window is closed
-  bool Changed = false;                               // it differs from the file
-  bool DefaultChanged = false;                        // another file became the default one
+  const std::shared_ptr<clsMenuCollection>& WorkCollection() const { return Edited.Store; }
+  bool InGesture() const override;
+  void CancelGesture() override;
+
+  Document Edited;              // no tree while the window is closed
+  bool DefaultChanged = false;  // another file became the default one
   bool SaveOnExit = true;
   bool FileOpened = false;         // another file was opened in this window
   bool SavedToDefault = false;     // the default file was written from this window
   bool ListChangedByTool = false;  // the list of shortcuts changed items
 
  private:
+  struct CommandRow;
+  static std::span<const CommandRow> Commands();
+  static std::vector<MenuRow> MenuRows();
+
   // --- life and layout (frm_organize.cpp, frm_organize_layout.cpp)
   void Form_Load() override;
+  void AdoptDefaultFile();
   void Form_Activate() override;
   void Form_Resize() override;
   void Form_KeyDown(std::int32_t& KeyCode, std::int32_t Shift) override;
@@ -80,7 +93,6 @@ class frmOrganize final : public Form {
   void Form_SystemCommand(std::int32_t id) override;
   void ConnectPanes();
   void ConnectBars();
-  void ResetFields();
   void LoadLayout();
   void SaveLayout();
   void ArrangeControls();
@@ -98,10 +110,11 @@ class frmOrganize final : public Form {
   // --- closing (frm_organize_close.cpp)
   void Form_Unload(bool& Cancel) override;
   bool SaveChanges();
-  void FollowSavedFile();
-  void ReplaceMenu(const clsMenuCollection& store);
-  void ProjectAll(const clsMenuCollection& store);
-  bool EditsDefaultFile() const { return app_.CurrentConfigFile == app_.ConfigFile; }
+  void FollowDefaultFile();
+  bool TakeDefaultFile();
+  void ReplaceMenu(Document document);
+  void ProjectAll(Work& work);
+  bool EditsDefaultFile() const { return Edited.CurrentConfigFile == app_.ConfigFile; }
   void Release();
   void ExitDiscardingChanges();
 
@@ -109,14 +122,16 @@ class frmOrganize final : public Form {
   bool SaveBeforeOpening();
   std::int32_t AskToSave();
   void LoadOrComplain(const std::wstring& path);
-  void ReportSystemGroup(const std::wstring& Path, bool missing, bool ignored);
+  void ReportSystemGroup(const OpenedConfig& opened);
   void RefreshDefaultCommands();
-  void ReportSaveError(const std::wstring& path);
+  bool ReportSaveError();
+  void TellSaveError(const std::wstring& path);
   void OpenConfigCommand();
   void SaveConfigCommand();
   void SaveConfigAsCommand();
   bool MayReplace(const std::wstring& path);
-  void TellSaved(const std::wstring& path, bool asText);
+  bool SaveListing(const std::wstring& path);
+  void TellSaved(const std::wstring& path);
   void SetDefaultCommand();
 
   // --- panes (frm_organize_views.cpp)
@@ -183,33 +198,20 @@ class frmOrganize final : public Form {
   void SetMenuState(MenuKind Kind, const std::wstring& Key, std::int32_t Image, bool Expanded);
   void SetPopupState(const std::wstring& Key, std::int32_t Image, bool Expanded);
   void SetToolsState();
+  void OpenEditMenu();
+  void OpenViewMenu();
+  void EnableMenu(const wchar_t* name, bool on);
+  void EnableButton(const std::wstring& key, bool on);
   void SetToolbarState(const std::wstring& Key);
-  void SetToolbarPaste();
   bool ClipboardEmpty() const { return !ClipboardItems_ || ClipboardItems_->Count() < 1; }
   void FollowActivePane();
   void ConnectMenus();
-  void ConnectFileAndEditMenus();
-  void ConnectViewMenu();
-  void ConnectToolsMenu();
-  void ConnectHelpMenu();
-  void ConnectPopups();
-  void RunButton(const std::wstring& key);
+  static bool IsBuilt(std::wstring_view menu);
   void PopupExplore();
   void PopupWindowsExplorer();
   void FindCommand();
-  void ReportCommand();
-  void VerifyShortcuts();
-  void RestoreCommand(const std::wstring& group);
-  void OptionsCommand();
-  void NewItem(const std::wstring& Kind);
-  void NewItemInGroup(const std::wstring& group, const std::wstring& Kind, const std::wstring& path);
-  std::wstring GroupOfNewItem() const;
-  void ShowItemProperties(bool FromBackground);
-  void RefreshProjection(std::size_t target);
+  void RefreshProjection(const ProjectionTarget& place);
   void OpenWebPage(const std::wstring& path);
-
-  Application& app_;
-  OrganizeCalls calls_;
 
   std::int16_t ActivePane_ = 0;  // 0: the tree, 1: the list
   bool TreeActive_ = false;      // the pane that a command acts on

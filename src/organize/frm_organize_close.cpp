@@ -1,30 +1,24 @@
+#include <optional>
+#include <utility>
+
 #include "config/config_file.h"
 #include "core/hot_keys.h"
-#include "core/store_copy.h"
 #include "menu/menu_setup.h"
 #include "organize/frm_organize.h"
 #include "projection/organized_folders.h"
-#include "tools/progress.h"
 
 namespace burrowmark {
-namespace {
 
-constexpr std::size_t kRefreshAtClosing = 6;  // ADVC
-
-}  // namespace
-
-void frmOrganize::ReplaceMenu(const clsMenuCollection& store) {
-  ClearMenu(app_);
-  CopyStore(app_.platform.clock, store, *app_.MainStore);
-  app_.MainStoreFromConfigFile = true;
-  RefreshHotKeys(app_, *app_.MainStore);
-  MenuSetupBuild(app_, {});
+void frmOrganize::ReplaceMenu(Document document) {
+  const std::shared_ptr<clsMenuCollection> store = std::exchange(document.Store, app_.MainDocument.Store);
+  app_.MainDocument = std::move(document);
+  ReplaceMainStore(app_, store);
 }
 
 // --- the ways out
 
 void frmOrganize::ExitDiscardingChanges() {
-  if (Changed) {
+  if (Edited.Changed) {
     const std::int32_t answer = app_.platform.dialogs.MessageBoxA(
         Window(), L"Are you sure you want to exit and lose any changes you have made?", L"Exit Discarding Changes",
         kBoxYesNoCancel | kBoxInformation);
@@ -37,77 +31,76 @@ void frmOrganize::ExitDiscardingChanges() {
 
 void frmOrganize::Form_Unload(bool& Cancel) {
   SaveLayout();
-  const bool saves = DefaultChanged || (SaveOnExit && Changed);
+  const bool saves = SaveOnExit && (Edited.Changed || (DefaultChanged && EditsDefaultFile()));
   if (saves && !SaveChanges()) {
     Cancel = true;
     return;
   }
-  if (SavedToDefault) FollowSavedFile();
+  if (SavedToDefault || app_.MainDocument.CurrentConfigFile != app_.ConfigFile) FollowDefaultFile();
   Release();
 }
 
-// False: the window stays.
+// False: the window stays. Only a file that isn't the default one is asked about.
 bool frmOrganize::SaveChanges() {
   const bool isDefault = EditsDefaultFile();
-  std::wstring path;
   if (!isDefault) {
     const std::int32_t answer = AskToSave();
     if (answer == kAnswerCancel) return false;
     if (answer != kAnswerYes) return true;
-    path = app_.CurrentConfigFile;
   }
-  ShowProgress(app_, *this, L"Saving Changes...", L"Saving Organized Folders...");
-  if (!FuncConfigFileSave(isDefault, path, false)) {
-    HideProgress(app_);
-    ReportSaveError(path);
-    return false;
+  {
+    Work work(app_);
+    work.ShowProgress(*this, L"Saving Changes...", L"Saving Organized Folders...");
+    const bool saved = FuncConfigFileSave(isDefault);
+    if (saved && isDefault) {
+      if (FileOpened) app_.DrivesRebuildNeeded = true;
+      ProjectAll(work);
+      SavedToDefault = false;  // the menu has it now
+    }
+    if (saved) return true;
   }
-  if (isDefault) {
-    if (FileOpened) app_.DrivesRebuildNeeded = true;
-    ProjectAll(*WorkCollection);
-    SavedToDefault = false;  // the menu has it now
-  }
-  HideProgress(app_);
+  return ReportSaveError();
+}
+
+// What the menu shows isn't what the default file holds: the menu takes the file. One that can't be read leaves the
+// menu as it is.
+void frmOrganize::FollowDefaultFile() {
+  Work work(app_);
+  if (!TakeDefaultFile() || !app_.ADVC[Advanced::kProjectAtClosing]) return;
+  work.ShowProgress(*this, L"Saving Changes...", L"Saving Organized Folders...");
+  ProjectAll(work);
+}
+
+bool frmOrganize::TakeDefaultFile() {
+  std::optional<OpenedConfig> opened = ConfigFileRead(app_, app_.ConfigFile);
+  if (!opened) return false;
+  AddFixedEntries(app_, *opened->document.Store, opened->SystemGroupMissing);
+  ReplaceMenu(std::move(opened->document));
+  app_.DrivesRebuildNeeded = true;
   return true;
 }
 
-// The default file was written from this window, and what is edited now isn't what it holds: the menu takes the file.
-void frmOrganize::FollowSavedFile() {
-  clsMenuCollection store(app_.platform.clock);
-  bool missing = false;
-  bool ignored = false;
-  ShowProgress(app_, *this, L"Saving Changes...", L"Saving Organized Folders...");
-  if (ConfigFileRead(app_, store, {}, missing, ignored)) {
-    ReplaceMenu(store);
-    app_.DrivesRebuildNeeded = true;
-    ProjectAll(store);
-  }
-  HideProgress(app_);
-}
-
-void frmOrganize::ProjectAll(const clsMenuCollection& store) {
-  if (!app_.ADVC[kRefreshAtClosing]) return;
+void frmOrganize::ProjectAll(Work& work) {
+  if (!app_.ADVC[Advanced::kProjectAtClosing]) return;
   for (const ProjectionTarget& target : kProjectionTargets) {
-    if (!app_.ADVC.at(target.option)) continue;
-    SetProgressText(app_, std::wstring(L"Saving Organized Folders ") + target.where + L"...");
-    RefreshOrganizedFolders(app_, target, store, false);
+    if (!app_.ADVC[target.option]) continue;
+    work.SetProgressText(std::wstring(L"Saving Organized Folders ") + target.where + L"...");
+    RefreshOrganizedFolders(app_, target, app_.MainDocument.Store, false);
   }
 }
 
 void frmOrganize::SaveForSessionEnd() {
-  if (!WorkCollection || !SaveOnExit || (!Changed && !DefaultChanged)) return;
-  ConfigFileWrite(app_, *WorkCollection, app_.CurrentConfigFile, false);
+  if (WorkCollection() && SaveOnExit && (Edited.Changed || DefaultChanged)) ConfigFileWrite(app_, Edited);
 }
 
 void frmOrganize::Release() {
-  WorkCollection.reset();
+  Edited = {};
   ClipboardItems_.reset();
   CutKeys_.clear();
   TreeView1.Clear();
   ListView1.Clear();
   app_.AlwaysOnTop = false;
-  RefreshHotKeys(app_, *app_.MainStore);
-  app_.IsOpen(SingleWindow::kOrganize) = false;
+  RefreshHotKeys(app_, app_.MainDocument.Store);
 }
 
 }  // namespace burrowmark

@@ -6,6 +6,7 @@
 #include "core/store_copy.h"
 #include "core/text.h"
 #include "groups/drives.h"
+#include "menu/menu_setup.h"
 #include "organize/frm_organize.h"
 #include "ui/common_dialog.h"
 
@@ -17,33 +18,38 @@ constexpr wchar_t kSaveTitle[] = L"Save Configuration File As";
 constexpr wchar_t kOpenFilter[] = L"Burrowmark Configuration File (*.bwmk)|*.bwmk|All Files (*.*)|*.*";
 constexpr wchar_t kSaveFilter[] = L"Burrowmark Configuration File (*.bwmk)|*.bwmk|Text Document (*.txt)|*.txt";
 constexpr std::int32_t kTextFilter = 2;
-constexpr std::size_t kSystemFolders = 0;  // AC
+
+// A name that was typed without an extension gets that of the filter in use.
+std::wstring WithExtension(const std::wstring& path, const wchar_t* extension) {
+  return GetFileName(path).find(L'.') == std::wstring::npos ? path + extension : path;
+}
 
 }  // namespace
 
 bool frmOrganize::FuncConfigFileLoad(const std::wstring& Path) {
   const Hourglass busy(*this);
-  clsMenuCollection store(app_.platform.clock);
-  bool missing = false;
-  bool ignored = false;
-  if (!ConfigFileRead(app_, store, Path, missing, ignored)) return false;
-  ReportSystemGroup(Path, missing, ignored);
+  std::optional<OpenedConfig> opened = ConfigFileRead(app_, Path);
+  if (!opened) return false;
+  clsMenuCollection& store = *opened->document.Store;
+  AddFixedEntries(app_, store, opened->SystemGroupMissing);
+  ReportSystemGroup(*opened);
   SetupDrives(app_, store);
-  WorkCollection = std::make_shared<clsMenuCollection>(app_.platform.clock);
-  CopyStore(app_.platform.clock, store, *WorkCollection);
+  Edited = std::move(opened->document);
   SetFormCaption();
   RefreshDefaultCommands();
   RefreshViews({}, true);
-  RefreshHotKeys(app_, *WorkCollection);
+  RefreshHotKeys(app_, WorkCollection());
   return true;
 }
 
-void frmOrganize::ReportSystemGroup(const std::wstring& Path, bool missing, bool ignored) {
-  const std::wstring name = Path.empty() ? L"Default configuration file" : GetFileName(Path);
-  if (app_.AC[kSystemFolders] ? !missing : !ignored) return;
-  const wchar_t* text = app_.AC[kSystemFolders]
-                            ? L" does not contain System Folders group. The group was created automatically."
-                            : L" contains System Folders group. The group was deleted automatically.";
+void frmOrganize::ReportSystemGroup(const OpenedConfig& opened) {
+  const Document& document = opened.document;
+  const bool isDefault = document.CurrentConfigFile == app_.ConfigFile;
+  const std::wstring name = isDefault ? L"Default configuration file" : GetFileName(document.CurrentConfigFile);
+  const bool wanted = app_.AC[Appearance::kSystemFolders];
+  if (wanted ? !opened.SystemGroupMissing : !opened.SystemGroupIgnored) return;
+  const wchar_t* text = wanted ? L" does not contain System Folders group. The group was created automatically."
+                               : L" contains System Folders group. The group was deleted automatically.";
   app_.platform.dialogs.MessageBoxA(Window(), name + text, kTitle, kBoxInformation);
 }
 
@@ -52,34 +58,38 @@ void frmOrganize::RefreshDefaultCommands() {
   menus_[L"mnuFileSetDefault"].SetVisible(!EditsDefaultFile());
 }
 
-bool frmOrganize::FuncConfigFileSave(bool Rebuild, const std::wstring& Path, bool TextMode) {
+bool frmOrganize::FuncConfigFileSave(bool Rebuild) {
   const Hourglass busy(*this);
-  if (!ConfigFileWrite(app_, *WorkCollection, Path, TextMode)) return false;
-  if (Rebuild) ReplaceMenu(*WorkCollection);
+  if (!ConfigFileWrite(app_, Edited)) return false;
+  if (!Rebuild) return true;
+  Document document = Edited;
+  document.Store = std::make_shared<clsMenuCollection>(app_.platform.clock);
+  CopyStore(app_.platform.clock, *Edited.Store, *document.Store);
+  ReplaceMenu(std::move(document));
   return true;
 }
 
-void frmOrganize::ReportSaveError(const std::wstring& path) {
-  const std::wstring file = path.empty() ? app_.ConfigFile : path;
-  std::wstring text = L"Error saving configuration file " + GetFileName(file);
-  if (IsFileReadOnly(app_.platform.files, file)) text += L"\r\nFile is read-only.";
-  app_.platform.dialogs.MessageBoxA(Window(), text, kTitle, kBoxCritical);
+// False, for those who end with it.
+bool frmOrganize::ReportSaveError() {
+  TellSaveError(Edited.CurrentConfigFile);
+  return false;
+}
+
+void frmOrganize::TellSaveError(const std::wstring& path) {
+  app_.platform.dialogs.MessageBoxA(Window(), SaveErrorText(app_, path), kTitle, kBoxCritical);
 }
 
 // The user may want to keep what is edited before another file takes its place. False: everything shall stay.
 bool frmOrganize::SaveBeforeOpening() {
-  if (!Changed) return true;
+  if (!Edited.Changed) return true;
   const std::int32_t answer = AskToSave();
-  if (answer == kAnswerCancel) return false;
-  if (answer == kAnswerYes && !FuncConfigFileSave(EditsDefaultFile(), app_.CurrentConfigFile, false)) {
-    ReportSaveError(app_.CurrentConfigFile);
-  }
-  return true;
+  if (answer != kAnswerYes) return answer != kAnswerCancel;
+  return FuncConfigFileSave(EditsDefaultFile()) || ReportSaveError();
 }
 
 std::int32_t frmOrganize::AskToSave() {
   const std::wstring question =
-      L"Do you want to save the changes you made to " + GetFileName(app_.CurrentConfigFile) + L"?";
+      L"Do you want to save the changes you made to " + GetFileName(Edited.CurrentConfigFile) + L"?";
   return app_.platform.dialogs.MessageBoxA(Window(), question, kTitle, kBoxYesNoCancel | kBoxWarning);
 }
 
@@ -89,12 +99,11 @@ void frmOrganize::OpenConfigFile(const std::wstring& path) {
 
 void frmOrganize::LoadOrComplain(const std::wstring& path) {
   if (FuncConfigFileLoad(path)) {
-    Changed = false;
     FileOpened = true;
     return;
   }
-  const std::wstring text = L"Error opening configuration file " + GetFileName(path.empty() ? app_.ConfigFile : path);
-  app_.platform.dialogs.MessageBoxA(Window(), text, kTitle, kBoxCritical);
+  app_.platform.dialogs.MessageBoxA(Window(), L"Error opening configuration file " + GetFileName(path), kTitle,
+                                    kBoxCritical);
 }
 
 void frmOrganize::OpenConfigCommand() {
@@ -106,8 +115,7 @@ void frmOrganize::OpenConfigCommand() {
 }
 
 void frmOrganize::SaveConfigCommand() {
-  const std::wstring path = app_.CurrentConfigFile;
-  FuncConfigFileSave(false, path, false) ? TellSaved(path, false) : ReportSaveError(path);
+  FuncConfigFileSave(false) ? TellSaved(Edited.CurrentConfigFile) : TellSaveError(Edited.CurrentConfigFile);
 }
 
 void frmOrganize::SaveConfigAsCommand() {
@@ -115,17 +123,19 @@ void frmOrganize::SaveConfigAsCommand() {
   dialog.DialogTitle = kSaveTitle;
   dialog.Filter = kSaveFilter;
   if (!dialog.ShowSave()) return;
-  const std::wstring path = Trim(dialog.FileName);
-  if (!MayReplace(path)) return;
   const bool asText = dialog.FilterIndex == kTextFilter;
-  const bool saved = FuncConfigFileSave(false, path, asText);
-  // A listing can't be read back: the window goes on with its file.
-  if (saved && !asText) {
-    app_.CurrentConfigFile = path;
-    SetFormCaption();
-  }
+  const std::wstring path = WithExtension(Trim(dialog.FileName), asText ? L".txt" : L".bwmk");
+  if (!MayReplace(path)) return;
+  const bool saved = asText ? SaveListing(path) : ConfigFileWriteAs(app_, Edited, path);
+  if (saved && !asText) SetFormCaption();
   RefreshDefaultCommands();
-  saved ? TellSaved(path, asText) : ReportSaveError(path);
+  saved ? TellSaved(path) : TellSaveError(path);
+}
+
+// A listing can't be read back: the window goes on with its file, and what was changed there is still to be saved.
+bool frmOrganize::SaveListing(const std::wstring& path) {
+  const Hourglass busy(*this);
+  return ConfigFileExport(app_, Edited, path);
 }
 
 bool frmOrganize::MayReplace(const std::wstring& path) {
@@ -134,22 +144,21 @@ bool frmOrganize::MayReplace(const std::wstring& path) {
   return app_.platform.dialogs.MessageBoxA(Window(), question, kSaveTitle, kBoxYesNoCancel | kBoxWarning) == kAnswerYes;
 }
 
-void frmOrganize::TellSaved(const std::wstring& path, bool asText) {
-  Changed = false;
-  const bool isDefault = path == app_.ConfigFile;
-  if (isDefault && !asText) SavedToDefault = true;
+void frmOrganize::TellSaved(const std::wstring& path) {
+  const bool isDefault = OwnPath(app_, path) == app_.ConfigFile;
+  if (isDefault) SavedToDefault = true;
   const std::wstring text = isDefault ? L"Default configuration file is successfully saved."
                                       : L"Configuration file " + GetFileName(path) + L" is successfully saved.";
   app_.platform.dialogs.MessageBoxA(Window(), text, kTitle, kBoxInformation);
 }
 
 void frmOrganize::SetDefaultCommand() {
-  const std::wstring name = GetFileName(app_.CurrentConfigFile);
+  const std::wstring name = GetFileName(Edited.CurrentConfigFile);
   const std::wstring question = L"Do you want to make " + name + L" the default configuration file?";
   if (app_.platform.dialogs.MessageBoxA(Window(), question, kTitle, kBoxYesNoCancel | kBoxQuestion) != kAnswerYes) {
     return;
   }
-  app_.ConfigFile = app_.CurrentConfigFile;
+  app_.ConfigFile = Edited.CurrentConfigFile;
   SaveConfigFileName(app_, app_.ConfigFile);
   SetFormCaption();
   RefreshDefaultCommands();

@@ -57,7 +57,7 @@ void frmOrganize::TreeNodeClick() {
 void frmOrganize::TreeDblClick() {
   const TreeNode* node = TreeView1.SelectedItem();
   if (node == nullptr || !NodeClicked_) return;
-  const ItemRef item = WorkCollection->GetMenuItemFromName(NameOfKey(node->Key()));
+  const ItemRef item = WorkCollection()->GetMenuItemFromName(NameOfKey(node->Key()));
   if (item && !item->SubMenu()) PopupWindowsExplorer();
 }
 

@@ -1,4 +1,5 @@
 #include "core/file_names.h"
+#include "core/text.h"
 #include "menu/menu_setup.h"
 #include "organize/enabling.h"
 #include "organize/frm_organize.h"
@@ -38,12 +39,10 @@ void frmOrganize::RenameCommand() {
 
 void frmOrganize::ConnectLabels() {
   TreeView1.AfterLabelEdit = [this](bool& Cancel, std::wstring& NewString) {
-    const TreeNode* node = TreeView1.SelectedItem();
-    if (node != nullptr) RenameItem(node->Key(), Cancel, NewString);
+    RenameItem(TreeView1.EditedNode()->Key(), Cancel, NewString);
   };
   ListView1.AfterLabelEdit = [this](bool& Cancel, std::wstring& NewString) {
-    const ListItem* row = ListView1.SelectedItem();
-    if (row != nullptr) RenameItem(row->Key(), Cancel, NewString);
+    RenameItem(ListView1.EditedItem()->Key(), Cancel, NewString);
   };
 }
 
@@ -52,18 +51,18 @@ void frmOrganize::RenameItem(const std::wstring& Key, bool& Cancel, const std::w
   Cancel = true;
   if (HasBadFileChars(NewString)) return TellRenameError(kBadCharacters);
   const std::wstring name = NameOfKey(Key);
-  const ItemRef item = WorkCollection->GetMenuItemFromName(name);
-  if (!item || item->ItemType == MIT_OPENALL || NewString.empty() || NewString == item->Caption()) return;
-  if (WorkCollection->CaptionExists(NewString, item->OwnerName, item->SubMenu(), name)) {
+  const ItemRef item = WorkCollection()->GetMenuItemFromName(name);
+  if (!item || item->ItemType == MIT_OPENALL || Trim(NewString).empty() || NewString == item->Caption()) return;
+  if (WorkCollection()->CaptionExists(NewString, item->OwnerName, item->SubMenu(), name)) {
     return TellRenameError(
         L"Cannot rename " + NewString +
         L": An item with the name you specified already exists.\r\nPlease specify a different name.");
   }
   Cancel = false;
-  WorkCollection->ModifyMenuItem(
+  WorkCollection()->ModifyMenuItem(
       0, {.Caption = NewString, .Name = name, .SubMenu = item->SubMenu(), .KeyboardCode = item->KeyboardCode});
-  RefreshPaths(*WorkCollection);
-  Changed = true;
+  RefreshPaths(*WorkCollection());
+  Edited.Changed = true;
   SetListItemText(name, NewString);
   if (TreeNode* node = TreeView1.Find(Key)) node->SetText(NewString);
 }

@@ -51,12 +51,12 @@ void frmOrganize::SetStatusBarSelected() {
   }
   const TreeNode* node = TreeView1.SelectedItem();
   if (node == nullptr) return;
-  const ItemRef item = WorkCollection->GetMenuItemFromName(NameOfKey(node->Key()));
+  const ItemRef item = WorkCollection()->GetMenuItemFromName(NameOfKey(node->Key()));
   SetStatusBar({count, node->Text(), node->Image(), true, item ? item->Description : L"Root", node->Tag, {}});
 }
 
 void frmOrganize::ShowStatusOfNode(const TreeNode& node) {
-  const ItemRef item = WorkCollection->GetMenuItemFromName(NameOfKey(node.Key()));
+  const ItemRef item = WorkCollection()->GetMenuItemFromName(NameOfKey(node.Key()));
   if (!item) {
     SetStatusBar({node.Children(), node.Text(), node.Image(), false, L"Organized Folders", node.Tag, {}});
   } else if (item->SubMenu()) {

@@ -12,7 +12,6 @@ namespace {
 constexpr std::int16_t kRootImage = 1;
 constexpr wchar_t kFirstSibling[] = L"NONE";  // for a node that goes behind all others of its parent
 constexpr Color kGrey = 0x808080;
-constexpr std::size_t kHotKeys = 7;  // ADVC
 constexpr std::int32_t kFirstHotKey = 48;
 
 // Columns behind the first, as the list counts them.
@@ -55,8 +54,8 @@ void frmOrganize::FillTree() {
   const TreeView::Update update(TreeView1);
   TreeView1.Clear();
   TreeNode* root = TreeView1.Add(nullptr, TreeRelation::kChild, MIT_HF_ROOT, L"Organized Folders", kRootImage);
-  for (std::int32_t i = 1; i <= WorkCollection->Count(); ++i) {
-    const ItemRef item = WorkCollection->Item(i);
+  for (std::int32_t i = 1; i <= WorkCollection()->Count(); ++i) {
+    const ItemRef item = WorkCollection()->Item(i);
     if (item->Remark == REMARK_AUTO) continue;
     if (item->OwnerName != kRootOwner) {
       AddTreeNode(*item, kFirstSibling);
@@ -74,8 +73,8 @@ void frmOrganize::AddTreeNode(const clsMenuItem& item, const std::wstring& PrevN
   std::wstring relative = ParentKey(item);
   TreeRelation relation = TreeRelation::kChild;
   if (PrevName.empty()) {
-    if (WorkCollection->ChildrenNumber(item.OwnerName) >= 2) {
-      const ItemRef second = WorkCollection->GetSecondChild(item.OwnerName, item.Name());
+    if (WorkCollection()->ChildrenNumber(item.OwnerName) >= 2) {
+      const ItemRef second = WorkCollection()->GetSecondChild(item.OwnerName, item.Name());
       if (!second) return;
       relative = KeyOfName(second->Name());
       relation = TreeRelation::kPrevious;
@@ -159,7 +158,7 @@ void frmOrganize::ShowSelectedNode(bool KeepList) {
   const TreeNode* node = TreeView1.SelectedItem();
   if (node == nullptr) return;
   const std::wstring key = node->Key();
-  const ItemRef item = IsRoot(key) ? nullptr : WorkCollection->GetMenuItemFromName(NameOfKey(key));
+  const ItemRef item = IsRoot(key) ? nullptr : WorkCollection()->GetMenuItemFromName(NameOfKey(key));
   if (!IsRoot(key) && !item) return;
   SetToolbarState(key);
   if (!KeepList) {
@@ -189,8 +188,8 @@ void frmOrganize::ListGroup(const std::wstring& group) {
   SortColumn_ = 0;
   const ListView::Update update(ListView1);
   ListView1.Clear();
-  for (std::int32_t i = 1; i <= WorkCollection->Count(); ++i) {
-    const ItemRef item = WorkCollection->Item(i);
+  for (std::int32_t i = 1; i <= WorkCollection()->Count(); ++i) {
+    const ItemRef item = WorkCollection()->Item(i);
     if (!item->Separator() && item->OwnerName == group && item->Remark != REMARK_AUTO) AddListItemGhosted(*item);
   }
 }
@@ -204,8 +203,8 @@ void frmOrganize::ShowGroupInList() {
   ListView1.Clear();
   txtInfoDrives.SetVisible(group == MIT_PATHS_DRIVES);
   if (group != MIT_PATHS_DRIVES) {
-    for (std::int32_t i = 1; i <= WorkCollection->Count(); ++i) {
-      const ItemRef item = WorkCollection->Item(i);
+    for (std::int32_t i = 1; i <= WorkCollection()->Count(); ++i) {
+      const ItemRef item = WorkCollection()->Item(i);
       if (item->OwnerName == group) AddListItem(*item, false, false);
     }
   }
@@ -235,7 +234,7 @@ void frmOrganize::WriteColumns(ListItem& row, const clsMenuItem& item) {
   row.SetToolTipText(item.UserDescription);
   row.SetSubItem(kType, openAll ? L"Open-All Shortcut" : item.Description);
   row.SetSubItem(kKeyboard, KeyboardText(item.KeyboardCode));
-  row.SetForeColor(kKeyboard, app_.ADVC[kHotKeys] ? kColorOfControl : kGrey);
+  row.SetForeColor(kKeyboard, app_.ADVC[Advanced::kHotKeys] ? kColorOfControl : kGrey);
   row.SetSubItem(kTarget, item.FolderPath);
   row.SetForeColor(kTarget, item.SubMenu() || openAll ? kGrey : kColorOfControl);
   row.SetSubItem(kDescription, item.UserDescription);
@@ -255,7 +254,7 @@ void frmOrganize::OpenSelectedListItem(bool NoOpen) {
   const ListItem* row = ListView1.SelectedItem();
   if (row == nullptr || !ListItemClicked_) return;
   const std::wstring key = row->Key();
-  const ItemRef item = WorkCollection->GetMenuItemFromName(NameOfKey(key));
+  const ItemRef item = WorkCollection()->GetMenuItemFromName(NameOfKey(key));
   if (!item) return;
   if (!item->SubMenu()) {
     if (!NoOpen) PopupWindowsExplorer();

@@ -13,6 +13,7 @@ namespace burrowmark {
 // Buttons and icons of a message box, added up, and its answers (winuser.h).
 inline constexpr std::uint32_t kBoxOk = 0;
 inline constexpr std::uint32_t kBoxYesNoCancel = 3;
+inline constexpr std::uint32_t kBoxYesNo = 4;
 inline constexpr std::uint32_t kBoxCritical = 16;
 inline constexpr std::uint32_t kBoxQuestion = 32;
 inline constexpr std::uint32_t kBoxWarning = 48;
@@ -22,6 +23,13 @@ inline constexpr std::int32_t kAnswerOk = 1;
 inline constexpr std::int32_t kAnswerCancel = 2;
 inline constexpr std::int32_t kAnswerYes = 6;
 inline constexpr std::int32_t kAnswerNo = 7;
+
+// What answers a box that nobody waits for.
+constexpr std::int32_t CancelAnswer(std::uint32_t style) {
+  constexpr std::uint32_t kButtons = 0xF;
+  if ((style & kButtons) == kBoxOk) return kAnswerOk;
+  return (style & kButtons) == kBoxYesNo ? kAnswerNo : kAnswerCancel;
+}
 
 // Files that a file dialog offers to see: what they are called, and their names with wildcards.
 struct FileFilter {
@@ -55,6 +63,10 @@ class Dialogs {
   // Asks for the path of a file; none if the user cancelled. A file that isn't there can be named, and one that is
   // there can be named to save over: asking about that is left to the program.
   virtual std::optional<FileAnswer> FileDialog(const FileRequest& request) = 0;
+
+  // Answers the box or file dialog that came up last, if one is up: Cancel, else No, else OK. It goes when the loop
+  // runs that it waits in.
+  virtual void CancelBox() = 0;
 };
 
 }  // namespace burrowmark

@@ -56,6 +56,10 @@ class FileSystem {
   // True for the letter of a drive that the machine has ("C", "C:" or "C:\"), with a medium in it or not.
   virtual bool DriveExists(const std::wstring& path) = 0;
 
+  // True if both paths lead to one file, whatever way they are spelled; where one isn't there, if they are the same
+  // full path without regard to letter case.
+  virtual bool IsSameFile(const std::wstring& path, const std::wstring& other) = 0;
+
   // The attribute bits of a file or a folder; nothing if there is neither.
   virtual std::optional<std::uint32_t> GetFileAttributesA(const std::wstring& path) = 0;
   virtual bool SetFileAttributesA(const std::wstring& path, std::uint32_t attributes) = 0;

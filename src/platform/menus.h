@@ -46,9 +46,8 @@ class Menus {
   // Command number of an entry; -1 for one with a popup.
   virtual std::int32_t GetMenuItemID(MenuHandle menu, std::int32_t position) = 0;
 
-  // Shows a popup at the mouse and returns when it is gone. What was chosen reaches the window's procedure as a
-  // command.
-  virtual void TrackPopupMenu(MenuHandle menu, WindowHandle window) = 0;
+  // Shows a popup at the mouse and returns when it is gone: the command number of what was chosen, 0 for nothing.
+  virtual std::int32_t TrackPopupMenu(MenuHandle menu, WindowHandle window) = 0;
 };
 
 }  // namespace burrowmark

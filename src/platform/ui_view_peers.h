@@ -6,7 +6,7 @@
 // - The second press of a double click is no UserMouse (down): UserDoubleClick, UserMouse (up).
 // - The key for context menus, or Shift+F10, is a press of the right button on the current row or the selected node,
 //   else in the corner. It changes nothing of what is selected; what was current is told once more.
-// - Keys in an open label edit go nowhere else.
+// - Keys in an open label edit go nowhere else. An edit ends without a change when its row or node goes.
 #pragma once
 
 #include <cstddef>
@@ -95,6 +95,7 @@ class ListViewPeer : public ControlPeer {
   virtual void DropRowChanged() = 0;
   virtual void EnsureVisible(std::int32_t row) = 0;
   virtual void StartLabelEdit(std::int32_t row) = 0;
+  virtual void CancelLabelEdit() = 0;  // of the row whose edit is open, as if the user gave up
   // Between these two nothing is drawn, so that many changes cost little.
   virtual void BeginUpdate() = 0;
   virtual void EndUpdate() = 0;
@@ -156,6 +157,7 @@ class TreeViewPeer : public ControlPeer {
   virtual void DropNodeChanged() = 0;
   virtual void EnsureVisible(TreeNodeState& node) = 0;
   virtual void StartLabelEdit(TreeNodeState& node) = 0;
+  virtual void CancelLabelEdit() = 0;  // of the node whose edit is open, as if the user gave up
   // Between these two nothing is drawn, so that many changes cost little.
   virtual void BeginUpdate() = 0;
   virtual void EndUpdate() = 0;

@@ -19,7 +19,6 @@ inline constexpr std::uint32_t kMessageCancelMode = 31;
 inline constexpr std::uint32_t kMessageDrawItem = 43;
 inline constexpr std::uint32_t kMessageMeasureItem = 44;
 inline constexpr std::uint32_t kMessageCopyData = 74;
-inline constexpr std::uint32_t kMessageCommand = 273;
 inline constexpr std::uint32_t kMessageMenuChar = 288;
 inline constexpr std::uint32_t kMessageMenuRightButtonUp = 290;
 inline constexpr std::uint32_t kMessageMouseMove = 512;
@@ -69,7 +68,11 @@ struct MainWindowEvents {
   std::function<void(std::int32_t dpi)> DpiChanged;
   // The user's session ends for good. The window may be gone before anything else runs.
   std::function<void()> SessionEnding;
+  std::function<void()> Close;   // somebody wants the window gone; it stays unless this destroys it
   std::function<void()> Unload;  // the window is going: the last thing it does
+  // The loop has handled a message, or starts: nothing of the program runs, and no loop but RunLoop's own. Never told
+  // from within DoEvents, RunModal, a menu, a box or any other loop of the system's.
+  std::function<void()> AtRest;
 };
 
 class WindowSystem {
@@ -96,9 +99,13 @@ class WindowSystem {
   virtual std::int64_t SendMessageA(WindowHandle window, std::uint32_t message, std::int64_t wParam,
                                     std::int64_t lParam) = 0;
   // Sends a text to a window of another process as copied data with a number; its answer, 0 on failure or after five
-  // seconds. That process may come to the front with it.
+  // seconds. That process may come to the front with it. The message's wParam is this process's number.
   virtual std::int64_t SendText(WindowHandle window, std::uint32_t number, const std::wstring& text) = 0;
+  virtual std::int64_t ProcessNumber() = 0;
+  // Brings the window to the front, or the box that stands over it and keeps it from the user.
   virtual void SetForegroundWindow(WindowHandle window) = 0;
+  // Ends what a person does with the mouse or in a menu of any window of the program, as if they had given it up.
+  virtual void CancelModes() = 0;
 
   // Claims the name for this process as long as it runs; false if another process has it.
   virtual bool ClaimInstance(const std::wstring& name) = 0;

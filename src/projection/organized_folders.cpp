@@ -16,7 +16,6 @@
 namespace burrowmark {
 namespace {
 
-constexpr std::size_t kWithSystemFolders = 5;  // ADVC
 constexpr wchar_t kRootName[] = L"\\Organized Folders";
 
 void EnsureRoot(Application& app, const std::wstring& root, const wchar_t* value) {
@@ -51,30 +50,33 @@ bool OrganizedFoldersExist(const Application& app, const ProjectionTarget& targe
   return app.platform.files.FolderExists(app.*target.root);
 }
 
-void RefreshOrganizedFolders(Application& app, const ProjectionTarget& target, const clsMenuCollection& store,
-                             bool ShowMessage) {
+void RefreshOrganizedFolders(Application& app, const ProjectionTarget& target,
+                             const std::shared_ptr<clsMenuCollection>& store, bool ShowMessage) {
   const std::wstring root = app.*target.root;
   if (root.empty()) return;
   EnsureRoot(app, root, target.value);
-  std::shared_ptr<clsMenuCollection> personal;
-  if (!app.ADVC[kWithSystemFolders]) personal = CopyGroup(app.platform.clock, store, MIT_GROUP_USER);
+  std::shared_ptr<clsMenuCollection> shown = store;
+  if (!app.ADVC[Advanced::kWithSystemFolders]) shown = CopyGroup(app.platform.clock, *store, MIT_GROUP_USER);
   Wipe(app.platform.files, root);
-  WriteLinkTree(app, personal ? *personal : store, root);
+  WriteLinkTree(app, *shown, root);
   if (OrganizedFoldersExist(app, target)) WriteDesktopIni(app, root);
   if (!ShowMessage) return;
   app.platform.dialogs.MessageBoxA(app.MainWindow, L"Organized Folders have been restored.", target.restoredTitle,
                                    kBoxInformation);
 }
 
-void RefreshOrganizedFoldersDesktop(Application& app, const clsMenuCollection& store, bool ShowMessage) {
+void RefreshOrganizedFoldersDesktop(Application& app, const std::shared_ptr<clsMenuCollection>& store,
+                                    bool ShowMessage) {
   RefreshOrganizedFolders(app, kProjectionTargets[0], store, ShowMessage);
 }
 
-void RefreshOrganizedFoldersSendTo(Application& app, const clsMenuCollection& store, bool ShowMessage) {
+void RefreshOrganizedFoldersSendTo(Application& app, const std::shared_ptr<clsMenuCollection>& store,
+                                   bool ShowMessage) {
   RefreshOrganizedFolders(app, kProjectionTargets[1], store, ShowMessage);
 }
 
-void RefreshOrganizedFoldersFavorites(Application& app, const clsMenuCollection& store, bool ShowMessage) {
+void RefreshOrganizedFoldersFavorites(Application& app, const std::shared_ptr<clsMenuCollection>& store,
+                                      bool ShowMessage) {
   RefreshOrganizedFolders(app, kProjectionTargets[2], store, ShowMessage);
 }
 
@@ -93,8 +95,7 @@ void CheckOrganizedFoldersExist(Application& app) {
   for (const ProjectionTarget& target : kProjectionTargets) {
     if (!app.ADVC[target.option] || OrganizedFoldersExist(app, target)) continue;
     app.ADVC[target.option] = false;
-    registry.SetKeyValue(RegistryKey::kCurrentUser, kSettingsKey, AdvancedName(target.option),
-                         BooleanNumberText(false));
+    registry.SetKeyValue(RegistryKey::kCurrentUser, kSettingsKey, SettingName(target.option), BooleanNumberText(false));
   }
 }
 

@@ -5,6 +5,7 @@
 #pragma once
 
 #include <cstddef>
+#include <memory>
 #include <string>
 
 #include "core/application.h"
@@ -14,7 +15,7 @@ namespace burrowmark {
 struct ProjectionTarget {
   const wchar_t* specialFolder;  // the root's parent
   std::wstring Application::*root;
-  std::size_t option;            // ADVC: the user wants it
+  Advanced option;               // the user wants it
   const wchar_t* value;          // under kSettingsKey: tells others where the root is
   const wchar_t* where;          // for texts: "Refreshing Organized Folders " and this
   const wchar_t* restoredTitle;  // of the box that reports it
@@ -22,12 +23,12 @@ struct ProjectionTarget {
 
 // The order in which everything goes through them.
 inline constexpr ProjectionTarget kProjectionTargets[] = {
-    {L"Desktop", &Application::OrganizedFoldersDesktop, 2, L"DirDesktop", L"on the Desktop",
+    {L"Desktop", &Application::OrganizedFoldersDesktop, Advanced::kOnDesktop, L"DirDesktop", L"on the Desktop",
      L"Restore Organized Folders on the Desktop"},
-    {L"SendTo", &Application::OrganizedFoldersSendTo, 3, L"DirSendTo", L"in the Send To",
+    {L"SendTo", &Application::OrganizedFoldersSendTo, Advanced::kInSendTo, L"DirSendTo", L"in the Send To",
      L"Restore Organized Folders in the Send To"},
-    {L"Favorites", &Application::OrganizedFoldersFavorites, 4, L"DirFavorites", L"in the Favorites",
-     L"Restore Folders in the Favorites"},
+    {L"Favorites", &Application::OrganizedFoldersFavorites, Advanced::kInFavorites, L"DirFavorites",
+     L"in the Favorites", L"Restore Folders in the Favorites"},
 };
 
 // Works out the three roots. One whose special folder the system doesn't have is empty, and nothing is projected there.
@@ -37,11 +38,13 @@ bool OrganizedFoldersExist(const Application& app, const ProjectionTarget& targe
 
 // Projects a store, or only its personal group where the user doesn't want the System Folders there. The root is made
 // if its parent exists. Two groups of one title in one place are told to the user. `ShowMessage` reports the end.
-void RefreshOrganizedFolders(Application& app, const ProjectionTarget& target, const clsMenuCollection& store,
-                             bool ShowMessage);
-void RefreshOrganizedFoldersDesktop(Application& app, const clsMenuCollection& store, bool ShowMessage);
-void RefreshOrganizedFoldersSendTo(Application& app, const clsMenuCollection& store, bool ShowMessage);
-void RefreshOrganizedFoldersFavorites(Application& app, const clsMenuCollection& store, bool ShowMessage);
+void RefreshOrganizedFolders(Application& app, const ProjectionTarget& target,
+                             const std::shared_ptr<clsMenuCollection>& store, bool ShowMessage);
+void RefreshOrganizedFoldersDesktop(Application& app, const std::shared_ptr<clsMenuCollection>& store,
+                                    bool ShowMessage);
+void RefreshOrganizedFoldersSendTo(Application& app, const std::shared_ptr<clsMenuCollection>& store, bool ShowMessage);
+void RefreshOrganizedFoldersFavorites(Application& app, const std::shared_ptr<clsMenuCollection>& store,
+                                      bool ShowMessage);
 
 // Removes the root with all that is in it.
 void DeleteOrganizedFolders(Application& app, const ProjectionTarget& target);

@@ -156,6 +156,8 @@ class Control : public virtual ControlState {
   friend class Form;  // which makes the peers and takes them away
   virtual void MakePeer(Peers& peers) = 0;
   virtual std::unique_ptr<ControlPeer> TakePeer() = 0;
+  // What was going on in the native window ended with it.
+  virtual void PeerTaken() {}
   // A key wherever the focus is on its form. True: nobody else shall have it.
   virtual bool UserFormKey(std::int32_t, std::int32_t) { return false; }
   // The focus has come, and everybody knows.

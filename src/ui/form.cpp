@@ -68,6 +68,7 @@ void Form::Load() {
   {
     const Flag loading(loading_);
     MakePeers();
+    WindowMade();
     Form_Load();
   }
   if (peer_) Form_Resize();
@@ -108,7 +109,10 @@ void Form::DropPeers() {
   RetirePeers();
   Remains remains;
   remains.form = std::move(peer_);
-  for (Control* control : controls_) remains.controls.push_back(control->TakePeer());
+  for (Control* control : controls_) {
+    remains.controls.push_back(control->TakePeer());
+    control->PeerTaken();
+  }
   focused_ = nullptr;
   remains_.push_back(std::move(remains));
 }
@@ -152,6 +156,7 @@ void Form::LetGo() {
   placed_ = false;
   DropPeers();
   SetOwner(FormOwner());
+  WindowGone();
 }
 
 void Form::WindowLost() {
@@ -209,6 +214,10 @@ class Form::Modality {
 void Form::ShowModal() {
   const Modality modality(*this);
   MakeVisible();
+  RunModal();
+}
+
+void Form::RunModal() {
   windows_.RunModal(Window(), [this] { return modal_; });
 }
 

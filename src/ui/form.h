@@ -127,6 +127,13 @@ class Form : public FormState, public ControlSite {
   virtual void Form_Resize() {}
   virtual void Form_Activate() {}
   virtual void Form_Deactivate() {}
+  // The window is there, ahead of Form_Load; it has gone.
+  virtual void WindowMade() {}
+  virtual void WindowGone() {}
+  // Runs messages until the form isn't modal any more.
+  virtual void RunModal();
+  // Keeps so many more (or fewer) windows in front of this one, which takes no input while there are any.
+  void Block(int forms);
   // A key code of 0 keeps the key from everybody else.
   virtual void Form_KeyDown(std::int32_t& KeyCode, std::int32_t Shift);
   // An entry of the form in the system menu was chosen.
@@ -147,7 +154,7 @@ class Form : public FormState, public ControlSite {
 
   void Enter(Control& control) final { controls_.push_back(&control); }
   void Leave(Control& control) final;
-  bool IsReachable() const final { return peer_ && visible_ && TakesInput(); }
+  bool IsReachable() const final { return peer_ && visible_ && TakesInput() && !unloading_; }
   void MoveFocus(Control* control) final;
   Control* DefaultButton() const final { return default_; }
   void SetDefaultButton(Control* button) final;
@@ -170,7 +177,6 @@ class Form : public FormState, public ControlSite {
   void ShowModal();
   void EnterModal();
   void LeaveModal();
-  void Block(int forms);
 
   void TellDefaultMoved(Control* before);
   bool RunShortcut(std::int32_t keyCode, std::int32_t shift);

@@ -109,6 +109,7 @@ ListItem* ListView::Add(std::wstring key, std::wstring text, std::int32_t icon, 
 bool ListView::Remove(const std::wstring& key) {
   ListItem* item = Find(key);
   if (item == nullptr) return false;
+  if (item == edited_) CancelLabelEdit();
   if (item == current_) SetSelectedItem(nullptr);
   if (item == drop_) SetDropHighlight(nullptr);
   const std::int32_t row = item->row_;
@@ -123,6 +124,7 @@ bool ListView::Remove(const std::wstring& key) {
 
 void ListView::Clear() {
   if (items_.empty()) return;
+  CancelLabelEdit();
   current_ = nullptr;
   drop_ = nullptr;
   byKey_.clear();
@@ -181,6 +183,10 @@ ListItem* ListView::HitTest(std::int32_t x, std::int32_t y) const {
 
 void ListView::StartLabelEdit() {
   if (labelEdit_ && current_ != nullptr) Tell(&ListViewPeer::StartLabelEdit, current_->row_);
+}
+
+void ListView::CancelLabelEdit() {
+  if (std::exchange(edited_, nullptr) != nullptr) Tell(&ListViewPeer::CancelLabelEdit);
 }
 
 // --- order
@@ -294,22 +300,30 @@ void ListView::UserColumnWidth(std::int32_t column, std::int32_t width) {
   }
 }
 
-bool ListView::UserBeginLabelEdit(std::int32_t) {
-  if (!IsReachable()) return false;
+bool ListView::UserBeginLabelEdit(std::int32_t row) {
+  const ListItem* item = ItemAt(row);
+  if (item == nullptr || !IsReachable()) return false;
   const ControlSite::Running running(Site());
   bool cancel = false;
+  const std::wstring key = item->Key();
   Raise(BeforeLabelEdit, cancel);
-  return !cancel;
+  if (!cancel) edited_ = Find(key);
+  return edited_ != nullptr;
 }
 
 bool ListView::UserEndLabelEdit(std::int32_t row, const std::optional<std::wstring>& text) {
   const ListItem* item = ItemAt(row);
-  if (!text || item == nullptr || !IsReachable()) return false;
+  if (edited_ == nullptr || item != edited_) return false;
+  if (!text || !IsReachable()) {
+    edited_ = nullptr;
+    return false;
+  }
   const ControlSite::Running running(Site());
   const std::wstring key = item->Key();
   bool cancel = false;
   std::wstring newText = *text;
   Raise(AfterLabelEdit, cancel, newText);
+  edited_ = nullptr;
   ListItem* still = Find(key);  // it may be another one by now, or have gone
   if (cancel || still == nullptr) return false;
   still->SetText(std::move(newText));

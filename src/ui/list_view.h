@@ -93,6 +93,9 @@ class ListView final : public ControlOf<ListViewState, ListViewPeer> {
   ListItem* HitTest(std::int32_t x, std::int32_t y) const;
   // Opens the label of the current row, if LabelEdit is on.
   void StartLabelEdit();
+  // The row whose label is open, also while AfterLabelEdit runs; it may be another one than the current. None without.
+  ListItem* EditedItem() const { return edited_; }
+  void CancelLabelEdit();
 
   // By the texts that are shown, without regard to case; equal ones keep their order. SortKey counts columns from 0.
   bool Sorted() const { return sorted_; }
@@ -146,6 +149,7 @@ class ListView final : public ControlOf<ListViewState, ListViewPeer> {
   void UserColumnWidth(std::int32_t column, std::int32_t width) override;
   bool UserBeginLabelEdit(std::int32_t row) override;
   bool UserEndLabelEdit(std::int32_t row, const std::optional<std::wstring>& text) override;
+  void PeerTaken() override { edited_ = nullptr; }
   void UserPaint() override;
 
  private:
@@ -173,6 +177,7 @@ class ListView final : public ControlOf<ListViewState, ListViewPeer> {
   bool multiSelect_ = true;
   bool checkBoxes_ = false;
   bool labelEdit_ = false;
+  ListItem* edited_ = nullptr;
   bool sorted_ = false;
   std::int32_t sortKey_ = 0;
   SortOrder order_ = SortOrder::kAscending;

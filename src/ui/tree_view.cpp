@@ -96,6 +96,7 @@ TreeNode* TreeView::NextSelection(const TreeNode& removed) {
 }
 
 void TreeView::Remove(TreeNode& node) {
+  if (IsIn(edited_, node)) CancelLabelEdit();
   if (IsIn(drop_, node)) SetDropHighlight(nullptr);
   if (IsIn(selected_, node)) {
     selected_ = NextSelection(node);
@@ -112,6 +113,7 @@ void TreeView::Forget(TreeNode& node) {
 }
 
 void TreeView::Clear() {
+  CancelLabelEdit();
   selected_ = nullptr;
   drop_ = nullptr;
   roots_.clear();
@@ -177,6 +179,10 @@ void TreeView::StartLabelEdit() {
   if (labelEdit_ && selected_ != nullptr) Tell(&TreeViewPeer::StartLabelEdit, *selected_);
 }
 
+void TreeView::CancelLabelEdit() {
+  if (std::exchange(edited_, nullptr) != nullptr) Tell(&TreeViewPeer::CancelLabelEdit);
+}
+
 void TreeView::SetImages(ImageList images) {
   if (Assign(images_, std::move(images))) Tell(&TreeViewPeer::StyleChanged);
 }
@@ -228,21 +234,28 @@ void TreeView::UserDoubleClick() {
   Raise(DblClick);
 }
 
-bool TreeView::UserBeginLabelEdit(TreeNodeState&) {
+bool TreeView::UserBeginLabelEdit(TreeNodeState& node) {
   if (!IsReachable()) return false;
   const ControlSite::Running running(Site());
   bool cancel = false;
+  const std::wstring key = Node(node).Key();
   Raise(BeforeLabelEdit, cancel);
-  return !cancel;
+  if (!cancel) edited_ = Find(key);
+  return edited_ != nullptr;
 }
 
 bool TreeView::UserEndLabelEdit(TreeNodeState& node, const std::optional<std::wstring>& text) {
-  if (!text || !IsReachable()) return false;
+  if (edited_ != &node) return false;
+  if (!text || !IsReachable()) {
+    edited_ = nullptr;
+    return false;
+  }
   const ControlSite::Running running(Site());
   const std::wstring key = Node(node).Key();
   bool cancel = false;
   std::wstring newText = *text;
   Raise(AfterLabelEdit, cancel, newText);
+  edited_ = nullptr;
   TreeNode* still = Find(key);  // it may be another one by now, or have gone
   if (cancel || still == nullptr) return false;
   still->SetText(std::move(newText));

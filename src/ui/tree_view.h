@@ -82,6 +82,10 @@ class TreeView final : public ControlOf<TreeViewState, TreeViewPeer> {
   TreeNode* HitTest(std::int32_t x, std::int32_t y) const;
   // Opens the label of the selected node, if LabelEdit is on.
   void StartLabelEdit();
+  // The node whose label is open, also while AfterLabelEdit runs; it may be another one than the selected. None
+  // without.
+  TreeNode* EditedNode() const { return edited_; }
+  void CancelLabelEdit();
 
   const ImageList& Images() const override { return images_; }
   void SetImages(ImageList images);
@@ -114,6 +118,7 @@ class TreeView final : public ControlOf<TreeViewState, TreeViewPeer> {
   void UserDoubleClick() override;
   bool UserBeginLabelEdit(TreeNodeState& node) override;
   bool UserEndLabelEdit(TreeNodeState& node, const std::optional<std::wstring>& text) override;
+  void PeerTaken() override { edited_ = nullptr; }
 
  private:
   friend class TreeNode;
@@ -137,6 +142,7 @@ class TreeView final : public ControlOf<TreeViewState, TreeViewPeer> {
   ImageList images_;
   bool checkBoxes_ = false;
   bool labelEdit_ = false;
+  TreeNode* edited_ = nullptr;
 };
 
 }  // namespace burrowmark

@@ -211,7 +211,7 @@ TEST_F(MenuInUse, ARightClickOnACompactDiscOpensItsTrayAndClosesTheMenu) {
   EXPECT_EQ(machine_.shell.MediaCommands,
             (std::vector<std::wstring>{L"close all", L"open D:\\ type cdaudio alias cdr wait shareable",
                                        L"set cdr door open", L"close all"}));
-  EXPECT_EQ(machine_.windows.CancelModes(), 1U);
+  EXPECT_EQ(machine_.windows.CancelledModes(), 1U);
   user_.NextMenu(MenuActions().Click(L"Personal").RightClick(L"Live").Cancel());
   user_.ClickTray(kLeft);
   EXPECT_EQ(machine_.shell.MediaCommands.size(), 4U);

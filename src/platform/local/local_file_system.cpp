@@ -110,6 +110,15 @@ bool LocalFileSystem::MayMakeFileAt(const Entry& entry) const {
          !faults_.FoldersWithoutNewFiles.contains(Folded(entry.name.Parent().Text()));
 }
 
+bool LocalFileSystem::IsSameFile(const std::wstring& path, const std::wstring& other) {
+  const std::optional<Entry> one = Look(path);
+  const std::optional<Entry> two = Look(other);
+  if (!one || !two) return Folded(path) == Folded(other);
+  std::error_code error;
+  if (one->Exists() && two->Exists()) return fs::equivalent(one->place, two->place, error);
+  return Folded(one->name.Text()) == Folded(two->name.Text());
+}
+
 bool LocalFileSystem::FileExists(const std::wstring& path) {
   return !faults_.Strikes("FileExists", path) && LookForFile(path).has_value();
 }

@@ -23,6 +23,7 @@ class LocalFileSystem final : public FileSystem {
   bool FileExists(const std::wstring& path) override;
   bool FolderExists(const std::wstring& path) override;
   bool DriveExists(const std::wstring& path) override;
+  bool IsSameFile(const std::wstring& path, const std::wstring& other) override;
   std::optional<std::uint32_t> GetFileAttributesA(const std::wstring& path) override;
   bool SetFileAttributesA(const std::wstring& path, std::uint32_t attributes) override;
   bool ReadWholeFile(const std::wstring& path, std::string& bytes) override;

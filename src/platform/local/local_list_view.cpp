@@ -64,6 +64,7 @@ void LocalListView::ColumnChanged(std::int32_t) {
 void LocalListView::RowAdded(std::int32_t row) {
   list_->rows.insert(std::next(list_->rows.begin(), row), Control().Row(row));
   if (list_->current >= row) ++list_->current;
+  if (edited_ >= row) ++edited_;
   if (list_->drop >= row) ++list_->drop;
   Drawn();
 }
@@ -72,7 +73,7 @@ void LocalListView::RowRemoved(std::int32_t row) {
   list_->rows.erase(std::next(list_->rows.begin(), row));
   if (list_->current > row) --list_->current;
   if (list_->drop > row) --list_->drop;
-  Shown().labelEdit.reset();
+  if (edited_ > row) --edited_;
   Drawn();
 }
 
@@ -80,7 +81,6 @@ void LocalListView::RowsCleared() {
   list_->rows.clear();
   list_->current = -1;
   list_->drop = -1;
-  Shown().labelEdit.reset();
   Drawn();
 }
 
@@ -127,6 +127,11 @@ void LocalListView::StartLabelEdit(std::int32_t row) {
   if (IsRetired() || !HasRow(row) || !Control().UserBeginLabelEdit(row) || IsRetired() || !HasRow(row)) return;
   edited_ = row;
   Shown().labelEdit = Row(row).texts.front();
+}
+
+void LocalListView::CancelLabelEdit() {
+  edited_ = -1;
+  Shown().labelEdit.reset();
 }
 
 std::int32_t LocalListView::HitTest(std::int32_t, std::int32_t y) const {

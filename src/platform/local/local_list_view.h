@@ -24,6 +24,7 @@ class LocalListView final : public LocalControl<ListViewPeer, ListViewState> {
   void DropRowChanged() override;
   void EnsureVisible(std::int32_t) override {}  // all rows are in view
   void StartLabelEdit(std::int32_t row) override;
+  void CancelLabelEdit() override;
   void BeginUpdate() override {}
   void EndUpdate() override {}
   std::int32_t HitTest(std::int32_t x, std::int32_t y) const override;

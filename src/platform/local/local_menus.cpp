@@ -90,8 +90,8 @@ void LocalMenus::Play(PopupRun& run, const std::vector<MenuAction>& actions) {
   if (run.IsOpen()) user_.Complain("the menu is still open");
 }
 
-void LocalMenus::TrackPopupMenu(MenuHandle menu, WindowHandle window) {
-  if (showing_ || !tree_.Exists(menu) || window == 0 || window != windows_.Main()) return;
+std::int32_t LocalMenus::TrackPopupMenu(MenuHandle menu, WindowHandle window) {
+  if (showing_ || !tree_.Exists(menu) || window == 0 || window != windows_.Main()) return 0;
   const MenuActions actions = user_.TakeMenu();
   ForgetHistory();
   PopupRun run(tree_, windows_, drawing_, history_, window, SelectedState());
@@ -100,7 +100,7 @@ void LocalMenus::TrackPopupMenu(MenuHandle menu, WindowHandle window) {
     run.Open(menu);
     Play(run, actions.All());
   }
-  if (run.Chosen()) windows_.PostMessageA(window, kMessageCommand, *run.Chosen() & kLowWord, 0);
+  return static_cast<std::int32_t>(run.Chosen().value_or(0) & kLowWord);
 }
 
 }  // namespace burrowmark

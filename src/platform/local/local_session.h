@@ -14,6 +14,8 @@ class LocalWindows;
 // Every process enters its windows and leaves before it goes.
 class LocalSession {
  public:
+  // A number that no other process has.
+  std::int64_t AddProcess() { return ++lastProcess_; }
   WindowHandle AddWindow(LocalWindows& process);
   void RemoveWindow(WindowHandle window) { windows_.erase(window); }
   // The process of a window; none if there is no such window.
@@ -31,6 +33,7 @@ class LocalSession {
 
  private:
   std::map<WindowHandle, LocalWindows*> windows_;
+  std::int64_t lastProcess_ = 0;
   WindowHandle lastWindow_ = 0x10100;
   std::map<std::wstring, std::uint32_t> numbers_;  // by folded name
   std::map<std::wstring, const LocalWindows*> claims_;

@@ -23,7 +23,8 @@ void LocalTreeView::AddDoors() {
   Shown().UserMouse = [this](MouseAction action, const MouseEvent& event) { Mouse(action, event); };
   Shown().PressKey = [this](std::int32_t keyCode, std::int32_t shift) { Key(keyCode, shift); };
   Shown().EndLabelEdit = [this](const std::optional<std::wstring>& text) {
-    if (tree_->selected != nullptr) Control().UserEndLabelEdit(*tree_->selected->state, text);
+    TreeNodeState* edited = std::exchange(edited_, nullptr);
+    if (edited != nullptr) Control().UserEndLabelEdit(*edited, text);
   };
   tree_->DoubleClick = [this](const MouseEvent& event) { DoubleClick(event); };
   tree_->Check = [this](ShownNode& node) { Check(node); };
@@ -61,7 +62,6 @@ void LocalTreeView::Forget(const TreeNodeState& node) {
 void LocalTreeView::NodeRemoved(TreeNodeState& node) {
   ShownNode& shown = Of(node);
   pressedAgain_ = nullptr;
-  Shown().labelEdit.reset();
   Forget(node);
   std::erase_if(shown.parent->children, [&shown](const auto& child) { return child.get() == &shown; });
 }
@@ -72,13 +72,19 @@ void LocalTreeView::NodesCleared() {
   tree_->selected = nullptr;
   tree_->drop = nullptr;
   pressedAgain_ = nullptr;
-  Shown().labelEdit.reset();
 }
 
 void LocalTreeView::StartLabelEdit(TreeNodeState& node) {
   TakeFocus();
   if (IsRetired() || Control().Selected() != &node || !Control().UserBeginLabelEdit(node)) return;
-  if (!IsRetired() && tree_->selected != nullptr) Shown().labelEdit = tree_->selected->text;
+  if (IsRetired() || tree_->selected == nullptr) return;
+  edited_ = &node;
+  Shown().labelEdit = node.text;
+}
+
+void LocalTreeView::CancelLabelEdit() {
+  edited_ = nullptr;
+  Shown().labelEdit.reset();
 }
 
 TreeNodeState* LocalTreeView::HitTest(std::int32_t x, std::int32_t y) const {

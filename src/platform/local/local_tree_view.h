@@ -21,6 +21,7 @@ class LocalTreeView final : public LocalControl<TreeViewPeer, TreeViewState> {
   void DropNodeChanged() override { tree_->drop = Of(Control().DropNode()); }
   void EnsureVisible(TreeNodeState&) override {}  // all rows are in view
   void StartLabelEdit(TreeNodeState& node) override;
+  void CancelLabelEdit() override;
   void BeginUpdate() override {}
   void EndUpdate() override {}
   TreeNodeState* HitTest(std::int32_t x, std::int32_t y) const override;
@@ -48,6 +49,7 @@ class LocalTreeView final : public LocalControl<TreeViewPeer, TreeViewState> {
 
   std::shared_ptr<ShownTree> tree_ = std::make_shared<ShownTree>();
   std::unordered_map<const TreeNodeState*, ShownNode*> shown_;
+  TreeNodeState* edited_ = nullptr;
   ShownNode* pressedAgain_ = nullptr;  // it was the selected one already
   bool pressed_ = false;
 };

@@ -54,7 +54,11 @@ WindowMessage MessageTo(WindowHandle window, std::uint32_t number, std::int64_t 
 }
 
 LocalWindows::LocalWindows(MenuTree& menus, std::shared_ptr<LocalSession> session, Faults& faults)
-    : menus_(menus), session_(std::move(session)), faults_(faults), peers_(*this, Desktop) {}
+    : menus_(menus),
+      session_(std::move(session)),
+      faults_(faults),
+      processNumber_(session_->AddProcess()),
+      peers_(*this, Desktop) {}
 
 LocalWindows::~LocalWindows() { session_->Leave(*this); }
 
@@ -99,6 +103,9 @@ MessageResult LocalWindows::Deliver(WindowMessage& message) {
 std::int64_t LocalWindows::OwnProcedure(const WindowMessage& message) {
   const MainWindowEvents& events = *main_->events;
   switch (message.number) {
+    case kMessageClose:
+      Call(events.Close);
+      return 0;
     case kMessageQueryEndSession:
       return 1;
     case kMessageEndSession:
@@ -141,8 +148,13 @@ std::int64_t LocalWindows::SendMessageA(WindowHandle window, std::uint32_t messa
 
 std::int64_t LocalWindows::SendText(WindowHandle window, std::uint32_t number, const std::wstring& text) {
   WindowMessage sent = MessageTo(window, kMessageCopyData, 0, number);
+  sent.wParam = ProcessNumber();
   sent.text = text;
   return Deliver(session_->ProcessOf(window), sent);
+}
+
+void LocalWindows::CancelModes() {
+  if (main_) SendMessageA(main_->handle, kMessageCancelMode, 0, 0);
 }
 
 void LocalWindows::SetForegroundWindow(WindowHandle window) {
@@ -182,9 +194,23 @@ std::vector<Box> LocalWindows::Screens() {
       {twips(screen.left), twips(screen.top), twips(screen.right - screen.left), twips(screen.bottom - screen.top)}};
 }
 
-void LocalWindows::DoEvents() {
+void LocalWindows::RunPending() {
   while (RunOne()) {
   }
+}
+
+// Called from outside of the program, this is its loop.
+void LocalWindows::DoEvents() {
+  do {
+    RunPending();
+    TellAtRest();
+  } while (!queue_.empty());
+}
+
+void LocalWindows::TellAtRest() {
+  if (depth_ > 0 || nested_ > 0 || !main_ || main_->going) return;
+  const Inside inside(depth_);
+  Call(main_->events->AtRest);
 }
 
 void LocalWindows::RunNextLater() {
@@ -207,6 +233,7 @@ void LocalWindows::RunLoop() {
 }
 
 void LocalWindows::RunModal(WindowHandle window, const std::function<bool()>& open) {
+  const Nested nested(*this);
   const Idle idle(depth_);
   DoEvents();
   const std::shared_ptr<ShownWindow> shown = Desktop.Find(window);
@@ -216,8 +243,12 @@ void LocalWindows::RunModal(WindowHandle window, const std::function<bool()>& op
 
 void LocalWindows::RunWhile(const std::function<bool()>& going) {
   const std::int64_t start = now_;
+  TellAtRest();
   while (going()) {
-    if (RunOne()) continue;
+    if (RunOne()) {
+      TellAtRest();
+      continue;
+    }
     if (Input && Input()) continue;
     if (later_.empty()) throw std::logic_error("the loop waits and nothing can ever come");
     if (later_.begin()->first - start > kLongestIdleTime) throw std::logic_error("the loop has waited for a whole day");

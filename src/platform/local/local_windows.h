@@ -19,6 +19,7 @@
 namespace burrowmark {
 
 // Messages that the window's own procedure knows besides those of the seam (winuser.h).
+inline constexpr std::uint32_t kMessageClose = 16;
 inline constexpr std::uint32_t kMessageQueryEndSession = 17;
 inline constexpr std::uint32_t kMessageEndSession = 22;
 inline constexpr std::uint32_t kMessageDpiChanged = 736;
@@ -60,11 +61,23 @@ class LocalWindows final : public WindowSystem, private LocalProcess {
   WindowHandle Foreground() const { return session_->Foreground; }
   std::size_t Beeps() const { return beeps_; }
   // How often the window was told to end what it does with the mouse, its menu among it.
-  std::size_t CancelModes() const { return cancelModes_; }
+  std::size_t CancelledModes() const { return cancelModes_; }
   // True while the program handles something: what comes now waits until it asks for it.
   bool IsBusy() const { return depth_ > 0; }
   // Runs the hook and, unless that has a result, the window's own procedure.
   MessageResult Deliver(WindowMessage& message);
+
+  // While it lives a loop of the system's runs: that of a menu, a box or a modal window.
+  class Nested {
+   public:
+    explicit Nested(LocalWindows& windows) : windows_(windows) { ++windows_.nested_; }
+    ~Nested() { --windows_.nested_; }
+    Nested(const Nested&) = delete;
+    Nested& operator=(const Nested&) = delete;
+
+   private:
+    LocalWindows& windows_;
+  };
 
   WindowHandle CreateMainWindow(const std::wstring& title, MainWindowEvents& events) override;
   void DestroyMainWindow(WindowHandle window) override;
@@ -76,7 +89,9 @@ class LocalWindows final : public WindowSystem, private LocalProcess {
   std::int64_t SendMessageA(WindowHandle window, std::uint32_t message, std::int64_t wParam,
                             std::int64_t lParam) override;
   std::int64_t SendText(WindowHandle window, std::uint32_t number, const std::wstring& text) override;
+  std::int64_t ProcessNumber() override { return processNumber_; }
   void SetForegroundWindow(WindowHandle window) override;
+  void CancelModes() override;
   bool ClaimInstance(const std::wstring& name) override { return session_->Claim(name, *this); }
   void DoEvents() override;
   void RunLoop() override;
@@ -105,12 +120,15 @@ class LocalWindows final : public WindowSystem, private LocalProcess {
   void RunGesture(std::function<void()> gesture) override;
   void MeetPopup(ShownPopup& popup) override;
   bool RunOne();
+  void RunPending();
+  void TellAtRest();
   void RunWhile(const std::function<bool()>& going);
   void RunNextLater();
 
   MenuTree& menus_;
   std::shared_ptr<LocalSession> session_;
   Faults& faults_;
+  std::int64_t processNumber_;
   std::optional<MainWindow> main_;
   std::wstring title_;
   LocalPeers peers_;
@@ -118,6 +136,7 @@ class LocalWindows final : public WindowSystem, private LocalProcess {
   std::multimap<std::int64_t, std::function<void()>> later_;  // by the time when it falls due
   std::int64_t now_ = 0;
   int depth_ = 0;
+  int nested_ = 0;
   std::size_t beeps_ = 0;
   std::size_t cancelModes_ = 0;
 };

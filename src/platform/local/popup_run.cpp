@@ -40,7 +40,7 @@ PopupRun::PopupRun(MenuTree& tree, LocalWindows& windows, LocalDrawing& drawing,
       history_(history),
       window_(window),
       selectedState_(selectedState),
-      cancelModes_(windows.CancelModes()) {}
+      cancelModes_(windows.CancelledModes()) {}
 
 void PopupRun::Open(MenuHandle menu) {
   Measure(menu);
@@ -251,7 +251,7 @@ void PopupRun::LetOthersRun() {
   windows_.DoEvents();
   const bool gone = std::any_of(levels_.begin(), levels_.end(),
                                 [this](std::size_t level) { return !tree_.Exists(history_.popups[level].menu); });
-  if (gone || windows_.Main() != window_ || windows_.CancelModes() != cancelModes_) levels_.clear();
+  if (gone || windows_.Main() != window_ || windows_.CancelledModes() != cancelModes_) levels_.clear();
 }
 
 }  // namespace burrowmark

@@ -163,8 +163,9 @@ IconImage FormWindow::IconOfSize(int designSize) const {
 }
 
 void FormWindow::BringToFront() {
-  ::BringWindowToTop(window_);
-  ::SetForegroundWindow(window_);
+  const HWND front = FrontOf(window_);
+  ::BringWindowToTop(front);
+  ::SetForegroundWindow(front);
 }
 
 void FormWindow::BlockOwner(bool block) {

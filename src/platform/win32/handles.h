@@ -20,6 +20,9 @@ inline DeviceContext FromHdc(HDC context) { return reinterpret_cast<INT_PTR>(con
 inline HICON ToHicon(IconHandle icon) { return reinterpret_cast<HICON>(static_cast<INT_PTR>(icon)); }
 inline IconHandle FromHicon(HICON icon) { return reinterpret_cast<INT_PTR>(icon); }
 
+// A window that is kept from the user by a box, or by another window over it, stands behind that.
+inline HWND FrontOf(HWND window) { return ::IsWindowEnabled(window) != FALSE ? window : ::GetLastActivePopup(window); }
+
 inline RECT ToRECT(const Rect& rect) { return {rect.left, rect.top, rect.right, rect.bottom}; }
 inline Rect FromRECT(const RECT& rect) {
   return {static_cast<std::int32_t>(rect.left), static_cast<std::int32_t>(rect.top),

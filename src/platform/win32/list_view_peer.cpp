@@ -361,6 +361,8 @@ void Win32ListView::StartLabelEdit(std::int32_t row) {
   EditLabel(LVM_EDITLABELW, static_cast<WPARAM>(row), 0);
 }
 
+void Win32ListView::CancelLabelEdit() { ::SendMessageW(Handle(), LVM_CANCELEDITLABEL, 0, 0); }
+
 LRESULT Win32ListView::BeginLabelEdit(const NMLVDISPINFOW& record) {
   if (!IsEditAsked() || !list_.UserBeginLabelEdit(record.item.iItem) || IsRetired()) return TRUE;
   LabelEditBegins(LVM_GETEDITCONTROL);

@@ -33,6 +33,7 @@ class Win32ListView final : public ChildPeer<ListViewPeer, ViewWindow> {
   void DropRowChanged() override;
   void EnsureVisible(std::int32_t row) override;
   void StartLabelEdit(std::int32_t row) override;
+  void CancelLabelEdit() override;
   void BeginUpdate() override { StartUpdate(); }
   void EndUpdate() override;
   std::int32_t HitTest(std::int32_t x, std::int32_t y) const override;

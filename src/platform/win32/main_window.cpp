@@ -87,6 +87,15 @@ void MainWindow::Destroy() {
   if (window_ != nullptr && !going_) ::DestroyWindow(window_);
 }
 
+void MainWindow::TellAtRest() const {
+  FromSystem(
+      [this] {
+        if (events_ != nullptr) Tell(events_->AtRest);
+        return true;
+      },
+      false);
+}
+
 LRESULT CALLBACK MainWindow::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
   auto* self = ObjectOfWindow<MainWindow>(window, message, lParam);
   if (self == nullptr) return ::DefWindowProcW(window, message, wParam, lParam);
@@ -138,6 +147,9 @@ LRESULT MainWindow::Answer(UINT message, WPARAM wParam, LPARAM lParam) {
       return AnswerLetter(static_cast<wchar_t>(LOWORD(wParam)), reinterpret_cast<HMENU>(lParam));
     case kMenuRightClick:
       MakeUpForRightClick({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)});
+      return 0;
+    case WM_CLOSE:
+      if (events_ != nullptr) Tell(events_->Close);
       return 0;
     case WM_QUERYENDSESSION:
       return TRUE;

@@ -38,6 +38,7 @@ class MainWindow {
   HWND Handle() const { return window_; }
   void SetHook(Hook hook);
   void Destroy();
+  void TellAtRest() const;
 
  private:
   static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);

@@ -7,7 +7,7 @@
 namespace burrowmark {
 namespace {
 
-static_assert(kMessageNull == WM_NULL && kMessageCancelMode == WM_CANCELMODE && kMessageCommand == WM_COMMAND);
+static_assert(kMessageNull == WM_NULL && kMessageCancelMode == WM_CANCELMODE);
 static_assert(kMessageDrawItem == WM_DRAWITEM && kMessageMeasureItem == WM_MEASUREITEM);
 static_assert(kMessageCopyData == WM_COPYDATA && kMessageMenuChar == WM_MENUCHAR);
 static_assert(kMessageMenuRightButtonUp == WM_MENURBUTTONUP && kMessageMouseMove == WM_MOUSEMOVE);

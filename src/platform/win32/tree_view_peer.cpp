@@ -267,6 +267,8 @@ void Win32TreeView::Expanded(const NMTREEVIEWW& record) {
 
 void Win32TreeView::StartLabelEdit(TreeNodeState& node) { EditLabel(TVM_EDITLABELW, 0, node.native); }
 
+void Win32TreeView::CancelLabelEdit() { ::SendMessageW(Handle(), TVM_ENDEDITLABELNOW, TRUE, 0); }
+
 LRESULT Win32TreeView::BeginLabelEdit(const NMTVDISPINFOW& record) {
   auto* node = reinterpret_cast<TreeNodeState*>(record.item.lParam);
   if (!IsEditAsked() || node == nullptr || !tree_.UserBeginLabelEdit(*node) || IsRetired()) return TRUE;

@@ -31,6 +31,7 @@ class Win32TreeView final : public ChildPeer<TreeViewPeer, ViewWindow> {
   void DropNodeChanged() override;
   void EnsureVisible(TreeNodeState& node) override;
   void StartLabelEdit(TreeNodeState& node) override;
+  void CancelLabelEdit() override;
   void BeginUpdate() override { StartUpdate(); }
   void EndUpdate() override;
   TreeNodeState* HitTest(std::int32_t x, std::int32_t y) const override;

@@ -6,13 +6,17 @@
 #include <commdlg.h>
 
 #include <algorithm>
+#include <initializer_list>
+#include <iterator>
+#include <string_view>
 
 #include "platform/win32/handles.h"
 
 namespace burrowmark {
 namespace {
 
-static_assert(kBoxOk == MB_OK && kBoxYesNoCancel == MB_YESNOCANCEL && kBoxCritical == MB_ICONERROR);
+static_assert(kBoxOk == MB_OK && kBoxYesNoCancel == MB_YESNOCANCEL && kBoxYesNo == MB_YESNO &&
+              kBoxCritical == MB_ICONERROR);
 static_assert(kBoxQuestion == MB_ICONQUESTION && kBoxWarning == MB_ICONWARNING);
 static_assert(kBoxInformation == MB_ICONINFORMATION);
 static_assert(kAnswerOk == IDOK && kAnswerCancel == IDCANCEL && kAnswerYes == IDYES && kAnswerNo == IDNO);
@@ -24,6 +28,15 @@ std::wstring FilterList(const std::vector<FileFilter>& filters) {
   std::wstring list;
   for (const FileFilter& filter : filters) list += filter.text + L'\0' + filter.pattern + L'\0';
   return list + L'\0';
+}
+
+// The topmost of the system's own dialogs on this thread.
+BOOL CALLBACK FindDialog(HWND window, LPARAM found) {
+  wchar_t name[8] = {};
+  ::GetClassNameW(window, name, static_cast<int>(std::size(name)));
+  if (std::wstring_view(name) != L"#32770" || ::IsWindowVisible(window) == FALSE) return TRUE;
+  *reinterpret_cast<HWND*>(found) = window;
+  return FALSE;
 }
 
 bool Ask(bool save, OPENFILENAMEW& dialog) {
@@ -60,6 +73,16 @@ std::optional<FileAnswer> Win32Dialogs::FileDialog(const FileRequest& request) {
   }
   if (!chosen) return std::nullopt;
   return FileAnswer{path.c_str(), static_cast<std::int32_t>(dialog.nFilterIndex)};
+}
+
+void Win32Dialogs::CancelBox() {
+  HWND dialog = nullptr;
+  ::EnumThreadWindows(::GetCurrentThreadId(), FindDialog, reinterpret_cast<LPARAM>(&dialog));
+  for (const int button : {IDCANCEL, IDNO, IDOK}) {
+    if (::GetDlgItem(dialog, button) == nullptr) continue;
+    ::PostMessageW(dialog, WM_COMMAND, static_cast<WPARAM>(button), 0);
+    return;
+  }
 }
 
 }  // namespace burrowmark

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <new>
 #include <stdexcept>
+#include <tuple>
 
 #include "platform/characters.h"
 #include "platform/drive_letter.h"
@@ -64,6 +65,26 @@ bool ReadAll(const FileHandle& file, std::string& bytes) {
   }
 }
 
+// What the system knows a file by, whatever its path; none for a file that isn't there.
+std::optional<std::tuple<DWORD, DWORD, DWORD>> IdentityOf(const std::wstring& path) {
+  const std::optional<std::wstring> name = SystemPath(path);
+  if (!name) return std::nullopt;
+  const QuietDrives quiet;
+  constexpr DWORD kSharing = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+  const FileHandle file(::CreateFileW(name->c_str(), 0, kSharing, nullptr, OPEN_EXISTING, 0, nullptr));
+  BY_HANDLE_FILE_INFORMATION information = {};
+  if (!file.IsDiskFile() || ::GetFileInformationByHandle(file.Get(), &information) == FALSE) return std::nullopt;
+  return std::tuple(information.dwVolumeSerialNumber, information.nFileIndexHigh, information.nFileIndexLow);
+}
+
+std::wstring FullPath(const std::wstring& path) {
+  std::wstring full(path.size() + MAX_PATH, L'\0');
+  const DWORD length = ::GetFullPathNameW(path.c_str(), static_cast<DWORD>(full.size()), full.data(), nullptr);
+  if (length == 0 || length >= full.size()) return path;
+  full.resize(length);
+  return full;
+}
+
 }  // namespace
 
 std::optional<std::uint32_t> Win32FileSystem::GetFileAttributesA(const std::wstring& path) {
@@ -73,6 +94,13 @@ std::optional<std::uint32_t> Win32FileSystem::GetFileAttributesA(const std::wstr
   const DWORD attributes = ::GetFileAttributesW(name->c_str());
   if (attributes == INVALID_FILE_ATTRIBUTES) return std::nullopt;
   return attributes;
+}
+
+bool Win32FileSystem::IsSameFile(const std::wstring& path, const std::wstring& other) {
+  const auto one = IdentityOf(path);
+  const auto two = IdentityOf(other);
+  if (one && two) return *one == *two;
+  return !one && !two && EqualIgnoringCase(FullPath(path), FullPath(other));
 }
 
 bool Win32FileSystem::FileExists(const std::wstring& path) {

@@ -106,7 +106,7 @@ std::int32_t Win32Menus::GetMenuItemID(MenuHandle menu, std::int32_t position) {
   return static_cast<std::int32_t>(::GetMenuItemID(ToHmenu(menu), position));
 }
 
-void Win32Menus::TrackPopupMenu(MenuHandle menu, WindowHandle window) {
+std::int32_t Win32Menus::TrackPopupMenu(MenuHandle menu, WindowHandle window) {
   const std::int32_t dpi = dpi_.AtMouse();
   if (!IsMeasuredFor(dpi)) ForgetSizes(ToHmenu(menu));
   measuredDpi_ = dpi;
@@ -115,7 +115,8 @@ void Win32Menus::TrackPopupMenu(MenuHandle menu, WindowHandle window) {
   ::GetCursorPos(&mouse);
   const RightClickWatch watch;
   // The left button alone chooses: a right click is told to the window and chooses nothing.
-  ::TrackPopupMenu(ToHmenu(menu), TPM_LEFTALIGN | TPM_TOPALIGN, mouse.x, mouse.y, 0, ToHwnd(window), nullptr);
+  constexpr UINT kHow = TPM_LEFTALIGN | TPM_TOPALIGN | TPM_RETURNCMD;
+  return ::TrackPopupMenu(ToHmenu(menu), kHow, mouse.x, mouse.y, 0, ToHwnd(window), nullptr);
 }
 
 }  // namespace burrowmark

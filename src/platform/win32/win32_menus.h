@@ -22,7 +22,7 @@ class Win32Menus final : public Menus {
   bool DeleteMenu(MenuHandle menu, std::int32_t position, std::int32_t flags) override;
   std::int32_t GetMenuItemCount(MenuHandle menu) override;
   std::int32_t GetMenuItemID(MenuHandle menu, std::int32_t position) override;
-  void TrackPopupMenu(MenuHandle menu, WindowHandle window) override;
+  std::int32_t TrackPopupMenu(MenuHandle menu, WindowHandle window) override;
 
  private:
   bool IsMeasuredFor(std::int32_t dpi) const { return dpi == measuredDpi_ && font_.Changes() == measuredChanges_; }

@@ -110,10 +110,22 @@ std::int64_t Win32Windows::SendText(WindowHandle window, std::uint32_t number, c
   data.dwData = number;
   data.cbData = static_cast<DWORD>(copy.size() * sizeof(wchar_t));
   data.lpData = copy.data();
-  return SendAndWait(ToHwnd(window), WM_COPYDATA, 0, reinterpret_cast<LPARAM>(&data));
+  return SendAndWait(ToHwnd(window), WM_COPYDATA, static_cast<WPARAM>(ProcessNumber()),
+                     reinterpret_cast<LPARAM>(&data));
 }
 
-void Win32Windows::SetForegroundWindow(WindowHandle window) { ::SetForegroundWindow(ToHwnd(window)); }
+std::int64_t Win32Windows::ProcessNumber() { return ::GetCurrentProcessId(); }
+
+void Win32Windows::SetForegroundWindow(WindowHandle window) { ::SetForegroundWindow(FrontOf(ToHwnd(window))); }
+
+void Win32Windows::CancelModes() {
+  GUITHREADINFO thread = {};
+  thread.cbSize = sizeof(thread);
+  if (::GetGUIThreadInfo(::GetCurrentThreadId(), &thread) == FALSE) return;
+  for (const HWND window : {thread.hwndMenuOwner, thread.hwndMoveSize, thread.hwndCapture}) {
+    if (window != nullptr) ::SendMessageW(window, WM_CANCELMODE, 0, 0);
+  }
+}
 
 bool Win32Windows::ClaimInstance(const std::wstring& name) {
   if (claims_.contains(name)) return true;
@@ -142,7 +154,11 @@ void Win32Windows::DoEvents() {
 
 void Win32Windows::RunLoop() {
   MSG message = {};
-  while (AnyWindow() && ::GetMessageW(&message, nullptr, 0, 0) > 0) Dispatch(message);
+  if (AnyWindow()) main_->TellAtRest();
+  while (AnyWindow() && ::GetMessageW(&message, nullptr, 0, 0) > 0) {
+    Dispatch(message);
+    if (AnyWindow()) main_->TellAtRest();
+  }
 }
 
 void Win32Windows::RunModal(WindowHandle, const std::function<bool()>& open) {

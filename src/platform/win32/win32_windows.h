@@ -32,7 +32,9 @@ class Win32Windows final : public WindowSystem {
   std::int64_t SendMessageA(WindowHandle window, std::uint32_t message, std::int64_t wParam,
                             std::int64_t lParam) override;
   std::int64_t SendText(WindowHandle window, std::uint32_t number, const std::wstring& text) override;
+  std::int64_t ProcessNumber() override;
   void SetForegroundWindow(WindowHandle window) override;
+  void CancelModes() override;
 
   bool ClaimInstance(const std::wstring& name) override;
 

@@ -1,0 +1,20 @@
+#include "core/application.h"
+
+#include "core/program_form.h"
+
+namespace burrowmark {
+
+Platform Application::WithBoxes(const Platform& system) {
+  return {system.registry, system.files,   system.system, system.clock, system.windows,
+          system.menus,    system.drawing, system.shell,  dialogs_,     system.keyboard};
+}
+
+void Application::BringForward() {
+  if (ProgramForm* front = Windows.Innermost()) {
+    front->BringToFront();
+  } else if (MainWindow != 0 && Requests.IsBusyWith(BusyWith::kBox)) {
+    platform.windows.SetForegroundWindow(MainWindow);
+  }
+}
+
+}  // namespace burrowmark
