@@ -125,4 +125,9 @@ for target in date reader link; do
 done
 
 build release
+
+# Every source file by itself: what it passed with is kept beside it.
+say "lint"
+python3 tools/lint.py
+
 say "all tests passed"
