@@ -48,7 +48,7 @@ TEST_P(MenusContract, AnEntryGoesInAheadOfItsPositionOrAtTheEnd) {
   EXPECT_EQ(Numbers(root_), Ids({50, 0x7FFF, 1, 0x8000, 0xEFFF}));
 }
 
-TEST_P(MenusContract, DeletingMovesTheOthersUpAndTouchesNothingElse) {
+TEST_P(MenusContract, DeletingMovesTheOthersUpAndWhatCannotBeChangesNothing) {
   Fill(root_, 4);
   EXPECT_TRUE(menus_.DeleteMenu(root_, 1, kMenuByPosition));
   EXPECT_TRUE(menus_.DeleteMenu(root_, 2, kMenuByPosition));
@@ -58,6 +58,8 @@ TEST_P(MenusContract, DeletingMovesTheOthersUpAndTouchesNothingElse) {
     EXPECT_EQ(menus_.GetMenuItemID(root_, position), -1);
     EXPECT_EQ(menus_.GetSubMenu(root_, position), 0);
   }
+  EXPECT_FALSE(menus_.InsertMenuA(root_, 0, kGroup, 0, L"A group without a popup"));
+  EXPECT_FALSE(menus_.ModifyMenuA(root_, 0, kGroup, 0, L"A group without a popup"));
   EXPECT_EQ(Numbers(root_), Ids({100, 102}));
 }
 

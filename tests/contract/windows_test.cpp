@@ -91,7 +91,7 @@ TEST_P(WindowsContract, ATextArrivesWholeWithItsNumber) {
   EXPECT_EQ(heard_, Texts({"0 3" + ToUtf8(text), "0 4"}));
 }
 
-TEST_P(WindowsContract, PostedWorkRunsInOrderAndNotAtOnce) {
+TEST_P(WindowsContract, PostedWorkRunsInOrderNotAtOnceAndNoneIsLost) {
   windows_.Post(Noting("first"));
   windows_.Post([this] {
     Note("second begins");
@@ -103,6 +103,10 @@ TEST_P(WindowsContract, PostedWorkRunsInOrderAndNotAtOnce) {
   EXPECT_EQ(heard_, Texts());
   windows_.DoEvents();
   EXPECT_EQ(heard_, Texts({"first", "second begins", "third", "posted meanwhile", "second ends"}));
+  constexpr std::size_t kMuch = 11'000;  // more than a queue of messages holds
+  for (std::size_t i = 0; i < kMuch; ++i) windows_.Post(Noting("much"));
+  windows_.DoEvents();
+  EXPECT_EQ(heard_.size(), 5 + kMuch);
 }
 
 TEST_P(WindowsContract, LaterWorkRunsInTheOrderOfItsTimeAndTheLoopEndsWithTheWindow) {
