@@ -32,8 +32,6 @@ TEST_F(Settings, AFirstStartHasGeneralAndAppearanceOnAndAdvancedOff) {
   EXPECT_EQ(app_.GC, (std::array<bool, 3>{true, true, true}));
   EXPECT_EQ(std::count(app_.AC.begin(), app_.AC.end(), true), 7);
   EXPECT_EQ(std::count(app_.ADVC.begin(), app_.ADVC.end(), true), 0);
-  EXPECT_FALSE(app_.ShowTips);
-  EXPECT_FALSE(app_.AfterInstall);
 }
 
 TEST_F(Settings, WhatIsSavedIsLoadedAndStoredAsNumbers) {
@@ -43,7 +41,6 @@ TEST_F(Settings, WhatIsSavedIsLoadedAndStoredAsNumbers) {
   SaveSettings(app_);
   EXPECT_EQ(Stored(kSettingsKey, L"GC0"), L"0");
   EXPECT_EQ(Stored(kSettingsKey, L"GC1"), L"-1");
-  EXPECT_EQ(Stored(kSettingsKey, L"ADVC7"), L"-1");
   Application other(scratch_.machine.platform());
   other.Os.NoLowLevelHook = false;
   LoadSettings(other);

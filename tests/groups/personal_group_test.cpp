@@ -32,15 +32,10 @@ class PersonalGroup : public testing::Test {
   clsMenuCollection& store_ = *app_.MainStore;
 };
 
-TEST_F(PersonalGroup, BlankAndBehindTheHelpEntries) {
+TEST_F(PersonalGroup, TheSampleStandsBehindTheHelpEntries) {
   AddFixedEntries(app_, store_, false);
-  EXPECT_EQ(Fill(PersonalContent::kBlank), 0);
-  EXPECT_EQ(TitlesUnder(store_, kRootOwner), L"Help  Personal  Options Organize Folders");
-}
-
-TEST_F(PersonalGroup, TheSample) {
   EXPECT_EQ(Fill(PersonalContent::kSample), 2);
-  EXPECT_EQ(test::NamesOf(store_), L"MIT_GROUP_USER M1 M2 M3 M4 M5");
+  EXPECT_EQ(TitlesUnder(store_, kRootOwner), L"Help  Personal  Options Organize Folders");
   EXPECT_EQ(TitlesUnder(store_, L"M1"), L"Desktop Start Menu Open-All");
   EXPECT_EQ(store_.GetMenuItemFromName(L"M3")->FolderPath, L"C:\\Users\\User\\Desktop");
   EXPECT_EQ(store_.GetMenuItemFromName(L"M2")->OpenType, MIT_PATH_EXPLORER);
@@ -60,22 +55,16 @@ TEST_F(PersonalGroup, TwentyFiveFoldersOfAllDrives) {
 
 TEST_F(PersonalGroup, TwentyFourGroupsOfTwentyFourFolders) {
   MakeDrive(L'D', 30, L"Data");
-  EXPECT_EQ(Fill(PersonalContent::kDriveGroups), 2);
-  EXPECT_EQ(store_.GetMenuItemFromName(L"M2")->Caption(), L"C");
-  EXPECT_EQ(store_.GetMenuItemFromName(L"M3")->Caption(), L"D (Data)");
-  EXPECT_EQ(store_.ChildrenNumber(L"M2"), 3);
-  EXPECT_EQ(store_.ChildrenNumber(L"M3"), 24);
-  EXPECT_EQ(store_.CaptionExists2(L"f33", L"M3", false, L"")->FolderPath, L"D:\\f33");
-  EXPECT_EQ(test::OwnersAheadIn(store_), "");
-}
-
-TEST_F(PersonalGroup, MoreThanTwentyFourDrives) {
-  for (wchar_t letter = L'A'; letter <= L'Z'; ++letter) {
-    if (letter != L'C') MakeDrive(letter, 1);
-  }
+  for (wchar_t letter = L'E'; letter <= L'Z'; ++letter) MakeDrive(letter, 1);
+  for (wchar_t letter = L'A'; letter <= L'B'; ++letter) MakeDrive(letter, 1);
   EXPECT_EQ(Fill(PersonalContent::kDriveGroups), 24);
-  EXPECT_TRUE(store_.ItemExists(L"M25"));
+  EXPECT_EQ(store_.GetMenuItemFromName(L"M4")->Caption(), L"C");
+  EXPECT_EQ(store_.GetMenuItemFromName(L"M5")->Caption(), L"D (Data)");
+  EXPECT_EQ(store_.ChildrenNumber(L"M4"), 3);
+  EXPECT_EQ(store_.ChildrenNumber(L"M5"), 24);
+  EXPECT_EQ(store_.CaptionExists2(L"f33", L"M5", false, L"")->FolderPath, L"D:\\f33");
   EXPECT_FALSE(store_.ItemExists(L"M26"));
+  EXPECT_EQ(test::OwnersAheadIn(store_), "");
 }
 
 TEST_F(PersonalGroup, HiddenSystemAndCompressedFoldersAndOtherDrivesTakeNoPlace) {
@@ -116,7 +105,7 @@ TEST_F(PersonalGroup, RecentDocumentsBecomeTheFoldersThatHoldThem) {
 }
 
 TEST_F(PersonalGroup, TwentyFiveRecentFoldersEachOnce) {
-  for (int i = 10; i < 50; ++i) {
+  for (int i = 10; i < 40; ++i) {
     const std::wstring folder = L"C:\\r\\" + DecimalText(i);
     machine_.AddFolders(folder);
     MakeLink(DecimalText(i) + L" a", folder);
@@ -124,7 +113,6 @@ TEST_F(PersonalGroup, TwentyFiveRecentFoldersEachOnce) {
   }
   const std::vector<std::wstring> folders = BuildRecentFolders(app_);
   ASSERT_EQ(folders.size(), 25U);
-  EXPECT_EQ(folders.front(), L"C:\\r\\10");
   EXPECT_EQ(folders.back(), L"C:\\r\\34");
 }
 

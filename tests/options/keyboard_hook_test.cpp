@@ -43,19 +43,10 @@ TEST_F(HotKeys, ShiftAndCtrlWithADigitOpenAndTheKeyGoesOn) {
   EXPECT_EQ(received, 2);  // down and up
 }
 
-TEST_F(HotKeys, TheFirstHolderOfACodeIsFound) {
-  ItemRef item;
-  EXPECT_TRUE(FindHotKeyItem(scene_.app, 53, item));
-  EXPECT_EQ(item, scene_.app.MainStore->GetMenuItemFromName(L"a"));
-  EXPECT_FALSE(FindHotKeyItem(scene_.app, 54, item));
-  EXPECT_EQ(item, nullptr);
-}
-
 TEST_F(HotKeys, EveryOtherChordDoesNothing) {
   hook_.HookKeyboard();
   machine_.keyboard.Press(53, {kKeyControl});
   machine_.keyboard.Press(53, {kKeyShift});
-  machine_.keyboard.Press(53);
   machine_.keyboard.Press(54, {kKeyShift, kKeyControl});    // nobody's
   machine_.keyboard.Press(0x65, {kKeyShift, kKeyControl});  // the numeric pad
   machine_.keyboard.Press(47, {kKeyShift, kKeyControl});

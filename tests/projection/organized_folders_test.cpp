@@ -3,8 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-
 #include "core/registry.h"
 #include "core/registry_keys.h"
 #include "platform/characters.h"
@@ -87,9 +85,8 @@ TEST_F(OrganizedFolders, OtherItemsArePassedOver) {
   Add(L"odd", L"odd", L"G")->OpenType = L"odd";
   Add(L"drive", L"drive")->FolderPath = L"C:\\";
   AddFixedEntries(app_, store_, true);
-  const std::wstring outside[] = {L"GO", L"O"};
-  scene_.AddGroup(outside[0], L"Outside", kRootOwner);
-  Add(outside[1], L"O", outside[0]);
+  scene_.AddGroup(L"GO", L"Outside", kRootOwner);
+  Add(L"O", L"O", L"GO");
   store_.AddNewMenuItem({.Caption = L"Drives", .OwnerName = kRootOwner, .Name = MIT_PATHS_DRIVES, .SubMenu = true});
   store_.AddNewMenuItem({.Caption = L"C", .OwnerName = MIT_PATHS_DRIVES, .FolderPath = L"C:\\", .ItemType = MIT_DRIVE});
   Project();
@@ -184,14 +181,6 @@ TEST_F(OrganizedFolders, WithoutAPlaceNothingIsProjected) {
   EXPECT_EQ(machine_.faults.Calls(), 0U);
 }
 
-TEST_F(OrganizedFolders, AnEmptyStoreEmptiesTheRoot) {
-  Add(L"T", L"T");
-  Project();
-  RefreshOrganizedFoldersDesktop(app_, clsMenuCollection(machine_.clock), false);
-  EXPECT_EQ(Tree(), L"");
-  EXPECT_EQ(machine_.BytesOf(kDesktop + std::wstring(L"\\Desktop.ini")), kDesktopIni);
-}
-
 // Whatever single call fails, the others are made, and the next projection mends what is missing.
 TEST_F(OrganizedFolders, NoFailureStopsTheRest) {
   scene_.AddGroup(L"GA", L"A");
@@ -221,32 +210,13 @@ TEST_F(OrganizedFolders, NoFailureStopsTheRest) {
   }
 }
 
-TEST_F(OrganizedFolders, ADesktopIniThatTheWipeLeavesIsWrittenAnew) {
+TEST_F(OrganizedFolders, ADesktopIniThatIsReadOnlyStaysAsItIs) {
   const std::wstring path = kDesktop + std::wstring(L"\\Desktop.ini");
-  Project();
-  machine_.faults.FailFrom(0);
-  Project();
-  const std::vector<std::string> calls = machine_.faults.Record();
-  const auto wipe = std::find(calls.begin(), calls.end(), "DeleteFileA " + ToUtf8(path));
-  ASSERT_NE(wipe, calls.end());
-  machine_.AddFile(path, "old");
-  machine_.faults.FailCall(static_cast<std::size_t>(wipe - calls.begin()) + 1);
-  Project();
-  EXPECT_EQ(machine_.BytesOf(path), kDesktopIni);
   machine_.AddFile(path, "old");
   machine_.files.SetFileAttributesA(path, kFileHidden | kFileSystem | kFileReadOnly);
   Project();
   EXPECT_EQ(machine_.BytesOf(path), "old");
   EXPECT_EQ(files_.GetFileAttributesA(path), kFileHidden | kFileSystem | kFileReadOnly);
-}
-
-TEST_F(OrganizedFolders, ALinkThatIsRefusedIsTheOnlyOneMissing) {
-  Add(L"S", L"S");
-  Add(L"T", L"T");
-  machine_.uiFaults.FailCall(1);
-  Project();
-  EXPECT_EQ(machine_.uiFaults.Failed(), 1U);
-  EXPECT_EQ(Tree(), L"T.lnk");
 }
 
 TEST_F(OrganizedFolders, ARootThatIsGoneTurnsItsOptionOff) {
