@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <set>
-
 #include "tests/support/scratch_machine.h"
 
 namespace burrowmark {
@@ -37,30 +35,6 @@ TEST_F(MenuItem, GroupAndSeparatorExcludeEachOther) {
   EXPECT_TRUE(item_.Separator());
 }
 
-TEST_F(MenuItem, EveryKindHasAPictureAndAWordOfItsOwn) {
-  std::set<std::int32_t> icons;
-  std::set<std::wstring> words;
-  const auto show = [&](const std::wstring& type, const std::wstring& openType, std::int32_t drive) {
-    clsMenuItem item(clock_);
-    item.IconID = 77;
-    item.ItemType = type;
-    item.OpenType = openType;
-    item.DriveType = drive;
-    item.SetIconIDDescription();
-    icons.insert(item.IconID);
-    words.insert(item.Description);
-  };
-  for (const wchar_t* type :
-       {MIT_HF_ROOT, MIT_GROUP_GENERAL, MIT_HF_SETTINGS, MIT_HF_HELP, MIT_HF_ORGANIZE, MIT_OPENALL, L"unknown"}) {
-    show(type, {}, kDriveFixed);
-  }
-  for (const wchar_t* openType : {MIT_PATH_SHORTCUT, MIT_PATH_EXPLORER}) show(MIT_PATH, openType, kDriveFixed);
-  for (std::int32_t drive = kDriveFloppy; drive <= kDriveRemovable; ++drive) show(MIT_DRIVE, {}, drive);
-  EXPECT_EQ(icons.size(), 14U);
-  EXPECT_EQ(*icons.rbegin(), 77);  // what nobody knows keeps its own
-  EXPECT_EQ(words.size(), 13U);    // both ways to open a folder are called the same
-}
-
 TEST_F(MenuItem, AChangeKeepsWhatItDoesNotName) {
   item_.SetCaption(L"Old");
   item_.OwnerName = MIT_GROUP_USER;
@@ -81,7 +55,6 @@ TEST_F(MenuItem, AChangeIsWrittenInTheOrderOfItsFields) {
   EXPECT_EQ(item_.Caption(), L"G");
   EXPECT_EQ(item_.FolderPath, L"");
   EXPECT_EQ(item_.ItemType, MIT_GROUP_GENERAL);  // the group comes after the type
-  EXPECT_EQ(item_.IconID, 9);
   item_.ModifyMenuItem({.Caption = L"x", .FolderPath = L"C:\\x", .ItemType = MIT_OPENALL, .RefreshIcon = true});
   EXPECT_EQ(item_.Caption(), L"Open-All");
   EXPECT_EQ(item_.FolderPath, L"");

@@ -14,42 +14,40 @@ namespace {
 
 class Settings : public testing::Test {
  protected:
-  std::wstring Stored(const wchar_t* key, const std::wstring& name) {
-    std::wstring text;
-    return registry_.GetKeyValue(RegistryKey::kCurrentUser, key, name, text) ? text : L"(none)";
-  }
-
   test::ScratchMachine scratch_;
   Application& app_ = scratch_.app;
   clsRegHandler registry_{scratch_.machine.registry};
 };
 
 TEST_F(Settings, AFirstStartHasGeneralAndAppearanceOnAndAdvancedOff) {
-  app_.GC.fill(false);
-  app_.AC.fill(false);
-  app_.ADVC.fill(true);
+  app_.GC[0] = app_.AC[6] = false;
+  app_.ADVC[7] = true;
   LoadSettings(app_);
-  EXPECT_EQ(app_.GC, (std::array<bool, 3>{true, true, true}));
+  EXPECT_EQ(std::count(app_.GC.begin(), app_.GC.end(), true), 3);
   EXPECT_EQ(std::count(app_.AC.begin(), app_.AC.end(), true), 7);
   EXPECT_EQ(std::count(app_.ADVC.begin(), app_.ADVC.end(), true), 0);
 }
 
 TEST_F(Settings, WhatIsSavedIsLoadedAndStoredAsNumbers) {
-  app_.GC = {false, true, false};
-  app_.AC[6] = false;
-  app_.ADVC[7] = true;
-  SaveSettings(app_);
-  EXPECT_EQ(Stored(kSettingsKey, L"GC0"), L"0");
-  EXPECT_EQ(Stored(kSettingsKey, L"GC1"), L"-1");
-  Application other(scratch_.machine.platform());
-  other.Os.NoLowLevelHook = false;
-  LoadSettings(other);
-  EXPECT_EQ(other.GC, app_.GC);
-  EXPECT_EQ(other.AC, app_.AC);
-  EXPECT_EQ(other.ADVC, app_.ADVC);
-  other.Os.NoLowLevelHook = true;
-  LoadSettings(other);
-  EXPECT_FALSE(other.ADVC[7]);  // a system without the hook has no hot keys
+  app_.AppCommand = L"\"C:\\x\\burrowmark.exe\"";
+  for (const bool on : {true, false}) {
+    app_.GC = {on, !on, on};
+    app_.AC[6] = on;
+    app_.ADVC[0] = app_.ADVC[7] = on;
+    SaveSettings(app_);
+    EXPECT_EQ(scratch_.Registered(kSettingsKey, L"GC0") + scratch_.Registered(kSettingsKey, L"GC1"),
+              on ? L"-10" : L"0-1");
+    EXPECT_EQ(scratch_.Registered(kRunKey, L"Burrowmark"), on ? app_.AppCommand : L"");
+    for (const bool noHook : {false, true}) {
+      Application other(scratch_.machine.platform());
+      other.Os.NoLowLevelHook = noHook;
+      LoadSettings(other);
+      EXPECT_EQ(other.GC, app_.GC);
+      EXPECT_EQ(other.AC, app_.AC);
+      EXPECT_EQ(other.ADVC[0], on);
+      EXPECT_EQ(other.ADVC[7], on && !noHook);  // a system without the hook has no hot keys
+    }
+  }
 }
 
 TEST_F(Settings, OddTextsAreReadAsTheyMayStand) {
@@ -63,16 +61,6 @@ TEST_F(Settings, OddTextsAreReadAsTheyMayStand) {
   registry_.SaveKeyValueDWord(RegistryKey::kCurrentUser, kSettingsKey, L"AC2", 0);
   LoadSettings(app_);
   EXPECT_FALSE(app_.AC[2]);
-}
-
-TEST_F(Settings, StartWithTheSessionComesAndGoes) {
-  app_.AppCommand = L"\"C:\\x\\burrowmark.exe\"";
-  app_.ADVC[0] = true;
-  SaveSettings(app_);
-  EXPECT_EQ(Stored(kRunKey, L"Burrowmark"), app_.AppCommand);
-  app_.ADVC[0] = false;
-  SaveSettings(app_);
-  EXPECT_EQ(Stored(kRunKey, L"Burrowmark"), L"(none)");
 }
 
 }  // namespace

@@ -57,17 +57,11 @@ TEST(Numbers, Booleans) {
 
 TEST(Numbers, PicturesUseTheSignsOfTheLocale) {
   LocalFacts system;
-  struct Case {
-    double value;
-    const wchar_t* picture;
-    const wchar_t* text;
-  };
-  const Case cases[] = {
-      {0.5, L"#.0", L".5"},   {0, L"#.0", L".0"},          {12.25, L"#.0", L"12.3"},    {-0.5, L"#.0", L"-.5"},
-      {-0.04, L"#.0", L".0"}, {999.95, L"#.0", L"1000.0"}, {0, L"#,0", L"0"},           {1048576, L"#,0", L"1,048,576"},
-      {0, L"#,#", L""},       {-1234, L"#,#", L"-1,234"},  {1.005, L"#,#.00", L"1.01"}, {0.5, L"#,#.00", L".50"},
-  };
-  for (const Case& row : cases) EXPECT_EQ(FormatNumber(row.value, row.picture, system), row.text) << row.value;
+  const std::tuple<double, const wchar_t*, const wchar_t*> cases[] = {
+      {0, L"#.0", L".0"},          {12.25, L"#.0", L"12.3"},        {-0.5, L"#.0", L"-.5"},     {-0.04, L"#.0", L".0"},
+      {999.95, L"#.0", L"1000.0"}, {1048576, L"#,0", L"1,048,576"}, {0, L"#,0", L"0"},          {0, L"#,#", L""},
+      {-1234, L"#,#", L"-1,234"},  {0.5, L"#,#.00", L".50"},        {1.005, L"#,#.00", L"1.01"}};
+  for (const auto& [value, picture, text] : cases) EXPECT_EQ(FormatNumber(value, picture, system), text) << value;
   system.Locale[kLocaleDecimal] = L",";
   system.Locale[kLocaleThousand] = L".";
   EXPECT_EQ(FormatNumber(1234.5, L"#,#.00", system), L"1.234,50");
@@ -141,27 +135,18 @@ TEST(Dates, DefaultTextLeavesOutMidnightAndDayZero) {
 TEST(FileNames, PartsOfPaths) {
   EXPECT_EQ(RemoveBadFileChars(L"a\\/:*?\"<>|b"), L"ab");
   EXPECT_EQ(ReplaceBadFileChars(L"a\\:b"), L"a--b");
-  struct Case {
-    const wchar_t* path;
-    const wchar_t* name;
-    const wchar_t* folder;
-    const wchar_t* extension;
-    const wchar_t* base;
-  };
-  const Case cases[] = {
-      {L"C:\\x\\Y.TXT", L"Y.TXT", L"C:\\x", L"txt", L"c:\\x\\y"},
-      {L"C:\\x", L"x", L"C:\\", L"", L"C:\\x"},
-      {L"C:\\", L"C", L"C:\\", L"", L"C:\\"},
-      {L"plain", L"plain", L"plain", L"", L"plain"},
-      {L"C:\\a.b\\c", L"c", L"C:\\a.b", L"b\\c", L"c:\\a"},
-      {L"x.", L"x.", L"x.", L"", L"x"},
-      {L"", L"", L"", L"", L""},
-  };
-  for (const Case& row : cases) {
-    EXPECT_EQ(GetFileName(row.path), row.name) << ToUtf8(row.path);
-    EXPECT_EQ(GetFolderName(row.path), row.folder) << ToUtf8(row.path);
-    EXPECT_EQ(GetFileExtension(row.path), row.extension) << ToUtf8(row.path);
-    EXPECT_EQ(GetFileBaseName(row.path), row.base) << ToUtf8(row.path);
+  // The path; its name, folder, extension and base.
+  const std::pair<std::wstring, const wchar_t*> cases[] = {{L"C:\\x\\Y.TXT", L"Y.TXT C:\\x txt c:\\x\\y"},
+                                                           {L"C:\\x", L"x C:\\  C:\\x"},
+                                                           {L"C:\\", L"C C:\\  C:\\"},
+                                                           {L"plain", L"plain plain  plain"},
+                                                           {L"C:\\a.b\\c", L"c C:\\a.b b\\c c:\\a"},
+                                                           {L"x.", L"x. x.  x"},
+                                                           {L"", L"   "}};
+  for (const auto& [path, parts] : cases) {
+    EXPECT_EQ(
+        GetFileName(path) + L" " + GetFolderName(path) + L" " + GetFileExtension(path) + L" " + GetFileBaseName(path),
+        parts);
   }
 }
 

@@ -19,10 +19,7 @@ class Drives : public testing::Test {
     machine_.drives.Add(letter);
     machine_.drives.SetFacts(letter, {type, label, share});
   }
-  void OpenMenu() {
-    machine_.user.NextMenu(MenuActions().Cancel());
-    machine_.user.ClickTray(LocalUser::Button::kLeft);
-  }
+  void OpenMenu() { scene_.Choose(MenuActions().Cancel()); }
 
   test::MenuScene scene_;
   LocalMachine& machine_ = scene_.machine;
@@ -36,12 +33,7 @@ TEST_F(Drives, EntriesOfTheListAreTakenApart) {
   machine_.drives.TakeMediumOut(L'E');
   AddDrive(L'X', 4, L"", L"\\\\server\\share");
   AddDrive(L'Z', 2);
-  struct Case {
-    const wchar_t* entry;
-    const wchar_t* name;
-    std::int32_t type;
-  };
-  const Case cases[] = {
+  const std::tuple<const wchar_t*, const wchar_t*, std::int32_t> cases[] = {
       {L"b:", L"B: (3.5-Inch Floppy Disk)", 2},
       {L"z:", L"Z: (Removable Disk)", 6},
       {L"z: [usb]", L"Z: (usb)", 2},
@@ -52,11 +44,11 @@ TEST_F(Drives, EntriesOfTheListAreTakenApart) {
       {L"q:", L"Q:", 1},
       {L"c: ", L"C: ()", 3},
   };
-  for (const Case& row : cases) {
-    const clsDrive drive = ParseDriveEntry(app_, row.entry);
-    EXPECT_EQ(drive.Name, row.name);
-    EXPECT_EQ(drive.LocalName, drive.Name.substr(0, 2) + L"\\") << ToUtf8(row.entry);
-    EXPECT_EQ(drive.DriveType, row.type) << ToUtf8(row.entry);
+  for (const auto& [entry, name, type] : cases) {
+    const clsDrive drive = ParseDriveEntry(app_, entry);
+    EXPECT_EQ(drive.Name, name);
+    EXPECT_EQ(drive.LocalName, drive.Name.substr(0, 2) + L"\\") << ToUtf8(entry);
+    EXPECT_EQ(drive.DriveType, type) << ToUtf8(entry);
   }
 }
 
@@ -84,15 +76,11 @@ TEST_F(Drives, TheGroupComesAtTheFirstOpeningAndFollowsTheMachine) {
 TEST_F(Drives, ItemsHoldWhatOpensThem) {
   AddDrive(L'U', 2);
   SetupDrives(app_, *app_.MainStore);
-  const ItemRef group = app_.MainStore->GetMenuItemFromName(MIT_PATHS_DRIVES);
-  ASSERT_TRUE(group);
-  EXPECT_EQ(group->ItemType, MIT_PATHS_DRIVES);
-  EXPECT_EQ(group->Remark, L"");
+  EXPECT_EQ(app_.MainStore->GetMenuItemFromName(MIT_PATHS_DRIVES)->ItemType, MIT_PATHS_DRIVES);
   const ItemRef drive = app_.MainStore->CaptionExists2(L"U: (Removable Disk)", MIT_PATHS_DRIVES, false, L"");
   ASSERT_TRUE(drive);
-  EXPECT_EQ(drive->FolderPath, L"U:\\");
-  EXPECT_EQ(drive->ItemType + L" " + drive->OpenType + L" " + drive->Remark,
-            L"MIT_DRIVE MIT_PATH_EXPLORER REMARK_AUTO");
+  EXPECT_EQ(drive->FolderPath + L" " + drive->ItemType + L" " + drive->OpenType + L" " + drive->Remark,
+            L"U:\\ MIT_DRIVE MIT_PATH_EXPLORER REMARK_AUTO");
   EXPECT_EQ(drive->IconID, 13);
 }
 

