@@ -10,6 +10,7 @@ namespace {
 using test::NamesOf;
 using test::TitlesUnder;
 
+// The store and its items.
 class MenuCollection : public testing::Test {
  protected:
   ItemRef Leaf(const std::wstring& name, const std::wstring& caption, const std::wstring& owner) {
@@ -26,18 +27,11 @@ class MenuCollection : public testing::Test {
     store_.AddOne(Leaf(L"leaf", L"Leaf", L"B"), true, true);
   }
 
+  MenuCollection() { clock_.Fixed = test::ScratchMachine::kNow; }
+
   LocalClock clock_;
   clsMenuCollection store_{clock_};
 };
-
-TEST_F(MenuCollection, AnEmptyStoreAnswersEveryQuestion) {
-  bool err = false;
-  EXPECT_EQ(store_.GetIDFromName(L"N1", err), -1);
-  EXPECT_TRUE(err);
-  EXPECT_EQ(store_.GetMenuItemFromID(50), nullptr);
-  EXPECT_EQ(store_.Item(0), store_.Item(1));
-  store_.Remove(L"N1");
-}
 
 TEST_F(MenuCollection, CommandNumbersStartAtFiftyAndPassOverTakenOnes) {
   EXPECT_EQ(store_.GetNextFreeID(), 50);
@@ -219,6 +213,55 @@ TEST_F(MenuCollection, ChangingThroughTheStoreFindsByPositionOrNameAndWorksOutTh
   EXPECT_EQ(store_.Item(4)->Name(), L"LEAF");  // the name finds the item and is written to it
   store_.ModifyMenuItem(0, {.Caption = L"nobody"});
   store_.ModifyMenuItem(9, {.Caption = L"nobody"});
+}
+
+TEST_F(MenuCollection, TitlesPastFiftyCharactersAreShortenedInTheMenuAlone) {
+  clsMenuItem item(clock_);
+  const std::wstring head(22, L'h');
+  const std::wstring tail(25, L't');
+  item.SetCaption(head + L"mid" + tail);
+  EXPECT_EQ(item.CaptionMenu(), head + L"mid" + tail);
+  item.SetCaption(head + L"midd" + tail);
+  EXPECT_EQ(item.CaptionMenu(), head + L"..." + tail);
+  EXPECT_EQ(item.Caption().size(), 51U);
+}
+
+TEST_F(MenuCollection, GroupAndSeparatorExcludeEachOther) {
+  clsMenuItem item(clock_);
+  item.SetSeparator(true);
+  item.SetSubMenu(true);
+  EXPECT_FALSE(item.Separator());
+  item.SetSeparator(true);
+  EXPECT_FALSE(item.SubMenu());
+  item.SetSubMenu(false);
+  EXPECT_TRUE(item.Separator());
+}
+
+TEST_F(MenuCollection, AChangeKeepsWhatItDoesNotName) {
+  clsMenuItem item(clock_);
+  item.SetCaption(L"Old");
+  item.OwnerName = MIT_GROUP_USER;
+  item.FolderPath = L"C:\\x";
+  item.UserDescription = L"mine";
+  item.KeyboardCode = 50;
+  item.ModifyMenuItem({});
+  EXPECT_EQ(item.Caption() + item.OwnerName + item.FolderPath, L"OldMIT_GROUP_USERC:\\x");
+  EXPECT_EQ(item.UserDescription, L"mine");
+  EXPECT_EQ(item.KeyboardCode, -1);
+  EXPECT_EQ(PackDateText(item.TimeModified), L"5|11|2003|14|7|9|");
+  item.ModifyMenuItem({.UserDescription = L""});
+  EXPECT_EQ(item.UserDescription, L"");
+}
+
+TEST_F(MenuCollection, AChangeIsWrittenInTheOrderOfItsFields) {
+  clsMenuItem item(clock_);
+  item.ModifyMenuItem({.Caption = L"G:", .IconID = 9, .FolderPath = L"C:\\x", .ItemType = MIT_DRIVE, .SubMenu = true});
+  EXPECT_EQ(item.Caption(), L"G");
+  EXPECT_EQ(item.FolderPath, L"");
+  EXPECT_EQ(item.ItemType, MIT_GROUP_GENERAL);  // the group comes after the type
+  item.ModifyMenuItem({.Caption = L"x", .FolderPath = L"C:\\x", .ItemType = MIT_OPENALL, .RefreshIcon = true});
+  EXPECT_EQ(item.Caption(), L"Open-All");
+  EXPECT_EQ(item.FolderPath, L"");
 }
 
 }  // namespace

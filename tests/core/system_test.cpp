@@ -1,13 +1,16 @@
-// What the program asks of the system through small services: registry values, versions, files, saving.
+// What the program asks of the system through small services: registry values and settings, files, saving.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <functional>
 
 #include "core/hot_keys.h"
 #include "core/os_detection.h"
 #include "core/registry.h"
+#include "core/registry_keys.h"
 #include "core/save_file.h"
 #include "core/services.h"
+#include "core/settings.h"
 #include "platform/characters.h"
 #include "tests/support/scratch_machine.h"
 
@@ -20,6 +23,7 @@ class System : public testing::Test {
  protected:
   test::ScratchMachine scratch_;
   LocalMachine& machine_ = scratch_.machine;
+  Application& app_ = scratch_.app;
   clsRegHandler registry_{machine_.registry};
 };
 
@@ -89,16 +93,11 @@ TEST_F(System, ARegistryCallThatFailsMakesTheOperationFail) {
 }
 
 TEST_F(System, TheKeyboardHookAndTheStateOfASelectedEntryGoByTheVersion) {
-  const auto detected = [this](const SystemVersion& version) {
-    machine_.facts.Version = version;
-    const OsDetection os = DetectOs(machine_.facts);
-    return std::pair<bool, int>(os.NoLowLevelHook, os.SelectedState);
-  };
-  EXPECT_EQ(detected({4, 98, 0, 1}), std::pair(true, 1));
-  EXPECT_EQ(detected({4, 0, 0, 2}), std::pair(false, 1));
-  EXPECT_EQ(detected({10, 0, 1, 2}), std::pair(false, 257));
+  EXPECT_FALSE(DetectOs(machine_.facts).NoLowLevelHook);
+  EXPECT_EQ(DetectOs(machine_.facts).SelectedState, 257);
   machine_.facts.VersionFails = true;
-  EXPECT_EQ(detected({10, 0, 1, 2}), std::pair(true, 1));
+  EXPECT_TRUE(DetectOs(machine_.facts).NoLowLevelHook);
+  EXPECT_EQ(DetectOs(machine_.facts).SelectedState, 1);
 }
 
 TEST_F(System, FilesFoldersAndDrives) {
@@ -116,19 +115,60 @@ TEST_F(System, FilesFoldersAndDrives) {
 }
 
 TEST_F(System, HotKeysAreListedInOrderAndANameCountsOnce) {
-  clsMenuCollection& store = *scratch_.app.MainStore;
+  clsMenuCollection& store = *app_.MainStore;
   for (const auto& [name, code] : {std::pair{L"a", 50}, {L"b", -1}, {L"c", 50}}) {
-    const ItemRef item = test::MakeItem(machine_.clock, name, name, L"g");
-    item->KeyboardCode = code;
-    store.AddOne(item, true, false);
+    store.AddNewMenuItem({.Name = name, .KeyboardCode = code});
   }
-  RefreshHotKeys(scratch_.app, store);
-  ASSERT_EQ(scratch_.app.HotKeyItems.size(), 2U);
-  EXPECT_EQ(scratch_.app.HotKeyItems[1], store.Item(3));
+  RefreshHotKeys(app_, store);
+  EXPECT_EQ(app_.HotKeyItems, (std::vector<ItemRef>{store.Item(1), store.Item(3)}));
   store.Item(3)->SetName(L"a");
-  RefreshHotKeys(scratch_.app, store);
-  EXPECT_EQ(scratch_.app.HotKeyItems.size(), 1U);
+  RefreshHotKeys(app_, store);
+  EXPECT_EQ(app_.HotKeyItems.size(), 1U);
   EXPECT_EQ(store.Item(3)->KeyboardCode, -1);
+}
+
+TEST_F(System, AFirstStartHasGeneralAndAppearanceOnAndAdvancedOff) {
+  app_.GC[0] = app_.AC[6] = false;
+  app_.ADVC[7] = true;
+  LoadSettings(app_);
+  EXPECT_EQ(std::count(app_.GC.begin(), app_.GC.end(), true), 3);
+  EXPECT_EQ(std::count(app_.AC.begin(), app_.AC.end(), true), 7);
+  EXPECT_EQ(std::count(app_.ADVC.begin(), app_.ADVC.end(), true), 0);
+}
+
+TEST_F(System, WhatIsSavedIsLoadedAndStoredAsNumbers) {
+  app_.AppCommand = L"\"C:\\x\\burrowmark.exe\"";
+  for (const bool on : {true, false}) {
+    app_.GC = {on, !on, on};
+    app_.AC[6] = on;
+    app_.ADVC[0] = app_.ADVC[7] = on;
+    SaveSettings(app_);
+    EXPECT_EQ(scratch_.Registered(kSettingsKey, L"GC0") + scratch_.Registered(kSettingsKey, L"GC1"),
+              on ? L"-10" : L"0-1");
+    EXPECT_EQ(scratch_.Registered(kRunKey, L"Burrowmark"), on ? app_.AppCommand : L"");
+    for (const bool noHook : {false, true}) {
+      Application other(machine_.platform());
+      other.Os.NoLowLevelHook = noHook;
+      LoadSettings(other);
+      EXPECT_EQ(other.GC, app_.GC);
+      EXPECT_EQ(other.AC, app_.AC);
+      EXPECT_EQ(other.ADVC[0], on);
+      EXPECT_EQ(other.ADVC[7], on && !noHook);  // a system without the hook has no hot keys
+    }
+  }
+}
+
+TEST_F(System, OddTextsAreReadAsTheyMayStand) {
+  const std::pair<const wchar_t*, bool> cases[] = {{L" -1 ", true}, {L"1", true}, {L"False", false},
+                                                   {L"0", false},   {L"", true},  {L"nonsense", true}};
+  for (const auto& [text, value] : cases) {
+    registry_.SetKeyValue(RegistryKey::kCurrentUser, kSettingsKey, L"AC2", text);
+    LoadSettings(app_);
+    EXPECT_EQ(app_.AC[2], value) << ToUtf8(text);
+  }
+  registry_.SaveKeyValueDWord(RegistryKey::kCurrentUser, kSettingsKey, L"AC2", 0);
+  LoadSettings(app_);
+  EXPECT_FALSE(app_.AC[2]);
 }
 
 class Saving : public System {

@@ -48,13 +48,6 @@ TEST(Numbers, TextToNumberFailsOnWhatIsNone) {
   EXPECT_THROW(ToInt16(L"32768"), OverflowFailure);
 }
 
-TEST(Numbers, Booleans) {
-  for (const wchar_t* text : {L"True", L"true", L"-1", L"1", L"&h001"}) EXPECT_TRUE(ToBoolean(text));
-  for (const wchar_t* text : {L"FALSE", L"0", L"&h000"}) EXPECT_FALSE(ToBoolean(text));
-  EXPECT_THROW(ToBoolean(L"yes"), ConversionFailure);
-  EXPECT_THROW(ToBoolean(L""), ConversionFailure);
-}
-
 TEST(Numbers, PicturesUseTheSignsOfTheLocale) {
   LocalFacts system;
   const std::tuple<double, const wchar_t*, const wchar_t*> cases[] = {

@@ -64,8 +64,6 @@ TEST_F(OrganizedFolders, GroupsAreFoldersAndShortcutsAreLinks) {
     ASSERT_TRUE(machine_.shell.ReadShellLink(kDesktop + std::wstring(link), read));
     EXPECT_EQ(read.target, kTarget);
   }
-  EXPECT_EQ(machine_.BytesOf(kDesktop + std::wstring(L"\\Desktop.ini")), kDesktopIni);
-  EXPECT_EQ(files_.GetFileAttributesA(kDesktop + std::wstring(L"\\Desktop.ini")), kFileHidden | kFileSystem);
   EXPECT_EQ(files_.GetFileAttributesA(kDesktop), kFileSystem | kFileDirectory);
   EXPECT_FALSE(files_.FileExists(kDesktop + std::wstring(L"\\A\\Desktop.ini")));
 }
@@ -115,7 +113,6 @@ TEST_F(OrganizedFolders, AMovedItemGoesWhereItStandsNow) {
   const ItemRef item = Add(L"S", L"S", L"GA");
   item->OwnerName = L"GB";
   group->SetCaption(L"Renamed");
-  EXPECT_EQ(item->ItemPath, L"A\\");
   Project();
   EXPECT_EQ(Tree(), L"A[] Renamed[S.lnk]");
 }

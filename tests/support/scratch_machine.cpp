@@ -4,7 +4,6 @@
 
 #include <atomic>
 #include <chrono>
-#include <set>
 
 #include "core/registry.h"
 
@@ -62,18 +61,6 @@ std::wstring TitlesUnder(const clsMenuCollection& store, const std::wstring& own
     if (store.Item(i)->OwnerName == owner) titles += (titles.empty() ? L"" : L" ") + store.Item(i)->Caption();
   }
   return titles;
-}
-
-std::string OwnersAheadIn(const clsMenuCollection& store) {
-  std::set<std::wstring> seen;
-  for (std::int32_t i = 1; i <= store.Count(); ++i) {
-    const clsMenuItem& item = *store.Item(i);
-    seen.insert(item.Name());
-    if (store.ItemExists(item.OwnerName) && !seen.contains(item.OwnerName)) {
-      return ToUtf8(item.Name()) + " stands ahead of its owner " + ToUtf8(item.OwnerName);
-    }
-  }
-  return {};
 }
 
 }  // namespace burrowmark::test

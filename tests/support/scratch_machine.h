@@ -52,7 +52,4 @@ std::wstring NamesOf(const clsMenuCollection& store);
 // The same of the titles under one owner.
 std::wstring TitlesUnder(const clsMenuCollection& store, const std::wstring& owner);
 
-// Empty if every owner that a store holds stands ahead of what it owns, otherwise what is wrong.
-std::string OwnersAheadIn(const clsMenuCollection& store);
-
 }  // namespace burrowmark::test
