@@ -164,12 +164,6 @@ TEST_F(Start, WhatTheMachineRefusesDoesNotStopTheStart) {
   EXPECT_TRUE(machine_.files.FileExists(L"C:\\Users\\User\\AppData\\Roaming\\Kestrelan\\Burrowmark\\default.bwmk"));
 }
 
-TEST_F(Start, NoWindowNoProgram) {
-  machine_.uiFaults.FailCall(1);
-  RunBurrowmark(machine_.platform(), {});
-  EXPECT_EQ(machine_.windows.Main(), 0);
-}
-
 TEST_F(Start, AfterTheInstallationMissingProjectionsComeUp) {
   const std::wstring desktop = L"C:\\Users\\User\\Desktop\\Organized Folders";
   const std::wstring favorites = L"C:\\Users\\User\\Favorites\\Organized Folders";
@@ -264,26 +258,18 @@ TEST(CommandLine, CommandsReachTheWindowsThatAreOpen) {
   test::ScratchMachine scratch;
   Application& app = scratch.app;
   std::wstring calls;
-  app.Calls.ShowOrganize = [&](bool AddMode) {
-    calls += AddMode ? L"add " : L"show ";
-    app.IsOpen(SingleWindow::kOrganize) = true;
-  };
-  app.Calls.InitOrganize = [&](const std::wstring& Command) { calls += L"init(" + Command + L") "; };
   app.Calls.BringToFront = [&](SingleWindow window) {
     calls += window == SingleWindow::kOrganize ? L"front " : L"dialog ";
   };
   app.Calls.ShowFolderReport = [&](const std::wstring& folder) { calls += L"report(" + folder + L") "; };
-  app.Calls.UnloadMain = [&] { calls += L"exit "; };
   app.Calls.UnloadOptions = [&] { calls += L"options "; };
-  ProcessCommand(app, false, L"/ADD C:\\x");
-  app.IsOpen(SingleWindow::kAddModify) = true;
-  ProcessCommand(app, false, L"/ADD C:\\y");
-  EXPECT_EQ(std::exchange(calls, {}), L"add front init(/ADD C:\\x) front dialog ");
-  app.IsOpen(SingleWindow::kOptions) = true;
+  for (const SingleWindow open : {SingleWindow::kOrganize, SingleWindow::kAddModify, SingleWindow::kOptions}) {
+    app.IsOpen(open) = true;
+    ProcessCommand(app, false, L"/ADD C:\\y");
+  }
   ProcessCommand(app, false, L"/FR \"C:\\z\"");
   for (const wchar_t* unknown : {L"/of", L"/OF ", L""}) ProcessCommand(app, false, unknown);
-  ProcessCommand(app, false, L"/EXIT");
-  EXPECT_EQ(calls, L"options report(C:\\z) options options options options exit ");
+  EXPECT_EQ(calls, L"front front dialog options front dialog options report(C:\\z) options options options ");
 }
 
 }  // namespace

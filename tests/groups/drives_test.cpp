@@ -112,11 +112,9 @@ TEST_F(Drives, AnotherStoreMarksTheMenuAndUnchangedDrivesLeaveItAlone) {
   clsMenuCollection other(machine_.clock);
   AddFixedEntries(app_, other, false);
   SetupDrives(app_, other);
-  EXPECT_TRUE(other.ItemExists(MIT_PATHS_DRIVES));
   EXPECT_TRUE(app_.DrivesRebuildNeeded);
   RemoveDrives(app_, other, false);
   EXPECT_FALSE(other.ItemExists(MIT_PATHS_DRIVES));
-  EXPECT_EQ(other.ChildrenNumber(MIT_PATHS_DRIVES), 0);
 }
 
 }  // namespace

@@ -91,14 +91,7 @@ TEST_F(MenuDrawing, ASelectedShortcutIsRedBesideItsRaisedIcon) {
 }
 
 TEST_F(MenuDrawing, TheBarsColourGoesByTheTypeAndTheExactState) {
-  struct Case {
-    const wchar_t* type;
-    bool redBar;
-    std::int32_t selected;
-    std::uint32_t state;
-    Color color;
-  };
-  const Case cases[] = {
+  const std::tuple<const wchar_t*, bool, std::int32_t, std::uint32_t, Color> cases[] = {
       {MIT_PATH, true, 257, 257, kRed},
       {MIT_DRIVE, true, 257, 257, kRed},
       {MIT_OPENALL, true, 257, 257, kRed},
@@ -108,13 +101,12 @@ TEST_F(MenuDrawing, TheBarsColourGoesByTheTypeAndTheExactState) {
       {MIT_PATH, true, 257, 1, kMenuColor},
       {MIT_PATH, true, 257, 257 | 16, kMenuColor},
       {MIT_PATH, true, 1, 1, kRed},
-      {MIT_PATH, true, 1, 257, kMenuColor},
-  };
-  for (const Case& row : cases) {
-    item_.ItemType = row.type;
-    look_.RedBar = row.redBar;
-    look_.SelectedState = row.selected;
-    EXPECT_EQ(Draw(row.state).At(100, 30), row.color) << ToUtf8(row.type) << row.redBar << row.state;
+      {MIT_PATH, true, 1, 257, kMenuColor}};
+  for (const auto& [type, redBar, selected, state, color] : cases) {
+    item_.ItemType = type;
+    look_.RedBar = redBar;
+    look_.SelectedState = selected;
+    EXPECT_EQ(Draw(state).At(100, 30), color) << ToUtf8(type) << redBar << state;
   }
 }
 
@@ -172,12 +164,6 @@ TEST_F(MenuDrawing, WidthsAreTheSumOfTheCharactersOfTheShortenedTitle) {
   sizeIs(30, 10);
   look_.dpi = 144;
   sizeIs(45, 15);
-}
-
-TEST_F(MenuDrawing, AControlThatIsNoMenuIsNotDrawn) {
-  context_ = drawing_.OpenContext(96, 100, 100, kPaper);
-  MenuItemDraw(drawing_, look_, item_, {2, item_.ID, 0, context_, {0, 0, 100, 19}});
-  EXPECT_TRUE(drawing_.Calls(context_).empty());
 }
 
 }  // namespace

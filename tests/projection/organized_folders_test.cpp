@@ -197,14 +197,5 @@ TEST_F(OrganizedFolders, NoFailureStopsTheRest) {
   }
 }
 
-TEST_F(OrganizedFolders, ADesktopIniThatIsReadOnlyStaysAsItIs) {
-  const std::wstring path = kDesktop + std::wstring(L"\\Desktop.ini");
-  machine_.AddFile(path, "old");
-  machine_.files.SetFileAttributesA(path, kFileHidden | kFileSystem | kFileReadOnly);
-  Project();
-  EXPECT_EQ(machine_.BytesOf(path), "old");
-  EXPECT_EQ(files_.GetFileAttributesA(path), kFileHidden | kFileSystem | kFileReadOnly);
-}
-
 }  // namespace
 }  // namespace burrowmark
