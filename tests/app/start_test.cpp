@@ -64,6 +64,13 @@ class Start : public testing::Test {
     return machine_.BytesOf(L"C:\\made.bwmk");
   }
 
+  // The default file and another one, both without System Folders.
+  void AddTwoFiles() {
+    scratch_.Register(kSettingsKey, L"AC0", L"0");
+    machine_.AddFile(kBeside, FileWith(L"Mine"));
+    machine_.AddFile(L"C:\\other.bwmk", FileWith(L"Other"));
+  }
+
   test::ScratchMachine scratch_;
   LocalMachine& machine_ = scratch_.machine;
   std::list<std::function<void()>> steps_;
@@ -72,7 +79,6 @@ class Start : public testing::Test {
 TEST_F(Start, TheFirstStartWritesTheDefaultFile) {
   Run({[&] {
     EXPECT_EQ(Menu(), L"Help;-;Personal;System Folders;-;Options;Organize Folders;");
-    ASSERT_NE(machine_.shell.Tray(), nullptr);
     EXPECT_EQ(machine_.shell.Tray()->tip, L"Burrowmark");
   }});
   EXPECT_NE(machine_.BytesOf(kBeside).find("C_Windows"), std::string::npos);
@@ -194,9 +200,7 @@ TEST_F(Start, CommandsOfOtherProcesses) {
 
 TEST_F(Start, TheEditorOpensOnceComesForwardAndClosesWithTheProgram) {
   const std::wstring title = L"Organize Folders";
-  scratch_.Register(kSettingsKey, L"AC0", L"0");  // without System Folders
-  machine_.AddFile(kBeside, FileWith(L"Mine"));
-  machine_.AddFile(L"C:\\other.bwmk", FileWith(L"Other"));
+  AddTwoFiles();
   Run({[&] { SecondProcess(L"/OF"); },
        [&] {
          machine_.user.Window(title).SetState(FormWindowState::kMinimized);
@@ -215,9 +219,7 @@ TEST_F(Start, TheEditorOpensOnceComesForwardAndClosesWithTheProgram) {
 
 TEST_F(Start, AnEditorWithChangesCanStopTheEndOfTheProgram) {
   const std::wstring title = L"Organize Folders - other.bwmk";
-  scratch_.Register(kSettingsKey, L"AC0", L"0");  // without System Folders
-  machine_.AddFile(kBeside, FileWith(L"Mine"));
-  machine_.AddFile(L"C:\\other.bwmk", FileWith(L"Other"));
+  AddTwoFiles();
   const auto rename = [&](const std::wstring& name) {
     ShownWindow& window = machine_.user.Window(title);
     window.Press(kKeyCodeF2);

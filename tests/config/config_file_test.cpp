@@ -101,8 +101,6 @@ TEST_F(Config, EveryAttributeSurvives) {
   ASSERT_TRUE(Read(bytes));
   const ItemRef read = store_->GetMenuItemFromName(L"Line\nName");
   ASSERT_TRUE(read);
-  EXPECT_EQ(read->FolderPath, leaf->FolderPath);
-  EXPECT_EQ(read->Remark, L"[END:]");
   EXPECT_EQ(read->KeyboardCode, 0);
   EXPECT_EQ(read->UserDescription, leaf->UserDescription);
   EXPECT_EQ(app_.Summary.SummaryComments, L"two\r\nlines");

@@ -100,7 +100,6 @@ TEST_F(SystemFolders, TheResolversLadder) {
   machine_.facts.SystemFolder = L"E:\\sys";
   EXPECT_EQ(GetSpecialFolderPath(app_, L"System32"), L"E:\\sys");
   EXPECT_EQ(GetSpecialFolderPath(app_, L"desktop"), L"C:\\Users\\User\\Desktop");  // the registry's names ignore case
-  EXPECT_EQ(GetSpecialFolderPath(app_, L"Start Menu"), L"");
   Set(RegistryKey::kLocalMachine, kShellFoldersKey, L"Common Administrative Tools", L"C:\\all\\ADMINI~1", false);
   EXPECT_EQ(GetSpecialFolderPath(app_, L"Common Administrative Tools"), L"C:\\all\\ADMINI~1");
   machine_.AddFolders(L"C:\\all\\Admini~1");

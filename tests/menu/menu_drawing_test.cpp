@@ -71,15 +71,12 @@ TEST_F(MenuDrawing, AnEntryIsFilledWithItsTextAndIconInPlace) {
 
 TEST_F(MenuDrawing, ASelectedShortcutIsRedBesideItsRaisedIcon) {
   const Canvas& canvas = Draw(257);
-  struct Case {
-    std::int32_t x, y;
-    Color color;
-  };
-  const Case cases[] = {{33, 25, kPaper},  // between the frame and the bar, which starts at 24
-                        {34, 20, kRed},    {129, 38, kRed},   {10, 20, kLight},  {31, 20, kLight}, {10, 37, kLight},
-                        {32, 20, kShadow}, {32, 38, kShadow}, {10, 38, kShadow}, {11, 21, kPaper},  // inside the frame
-                        {36, 22, kLight}};
-  for (const Case& row : cases) EXPECT_EQ(canvas.At(row.x, row.y), row.color) << row.x << ' ' << row.y;
+  const std::tuple<std::int32_t, std::int32_t, Color> cases[] = {
+      {33, 25, kPaper},  // between the frame and the bar, which starts at 24
+      {34, 20, kRed},    {129, 38, kRed},   {10, 20, kLight},  {31, 20, kLight}, {10, 37, kLight},
+      {32, 20, kShadow}, {32, 38, kShadow}, {10, 38, kShadow}, {11, 21, kPaper},  // inside the frame
+      {36, 22, kLight}};
+  for (const auto& [x, y, color] : cases) EXPECT_EQ(canvas.At(x, y), color) << x << ' ' << y;
   look_.IconFrameAllowed = false;
   EXPECT_EQ(Draw(257).At(10, 20), kRed);
   EXPECT_EQ(Call("DrawIconEx").name, "DrawIconEx");
@@ -91,23 +88,17 @@ TEST_F(MenuDrawing, ASelectedShortcutIsRedBesideItsRaisedIcon) {
 }
 
 TEST_F(MenuDrawing, TheBarsColourGoesByTheTypeAndTheExactState) {
-  const std::tuple<const wchar_t*, bool, std::int32_t, std::uint32_t, Color> cases[] = {
-      {MIT_PATH, true, 257, 257, kRed},
-      {MIT_DRIVE, true, 257, 257, kRed},
-      {MIT_OPENALL, true, 257, 257, kRed},
-      {MIT_PATH, false, 257, 257, kHighlight},
-      {MIT_GROUP_GENERAL, true, 257, 257, kHighlight},
-      {MIT_HF_SETTINGS, true, 257, 257, kHighlight},
-      {MIT_PATH, true, 257, 1, kMenuColor},
-      {MIT_PATH, true, 257, 257 | 16, kMenuColor},
-      {MIT_PATH, true, 1, 1, kRed},
-      {MIT_PATH, true, 1, 257, kMenuColor}};
-  for (const auto& [type, redBar, selected, state, color] : cases) {
+  for (const wchar_t* type : {MIT_PATH, MIT_DRIVE, MIT_OPENALL, MIT_GROUP_GENERAL, MIT_HF_SETTINGS}) {
     item_.ItemType = type;
-    look_.RedBar = redBar;
-    look_.SelectedState = selected;
-    EXPECT_EQ(Draw(state).At(100, 30), color) << ToUtf8(type) << redBar << state;
+    const bool opens = item_.ItemType != MIT_GROUP_GENERAL && item_.ItemType != MIT_HF_SETTINGS;
+    for (const bool redBar : {true, false}) {
+      look_.RedBar = redBar;
+      EXPECT_EQ(Draw(257).At(100, 30), redBar && opens ? kRed : kHighlight) << ToUtf8(type) << redBar;
+    }
   }
+  for (const std::uint32_t state : {0U, 1U, 256U, 257U | 16U}) EXPECT_EQ(Draw(state).At(100, 30), kMenuColor) << state;
+  look_.SelectedState = 1;
+  EXPECT_EQ(Draw(1).At(100, 30), kHighlight);
 }
 
 TEST_F(MenuDrawing, ASeparatorIsADoubleLineAroundItsTitle) {

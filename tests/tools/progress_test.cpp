@@ -27,7 +27,6 @@ TEST_F(ProgressTest, ShowsTitleTextAndFilmInFrontOfItsOwner) {
   EXPECT_EQ(window.LabelTexts(), L"Saving Organized Folders on the Desktop...\n");
   EXPECT_EQ(window.owner, owner_.Window());
   EXPECT_TRUE(machine.user.Window(L"Owner").enabled) << "the user can go on";
-  EXPECT_FALSE(window.topMost);
   const ShownControl* film = window.Find(L"C:\\Program Files\\Burrowmark\\filecopy.avi");
   ASSERT_NE(film, nullptr);
   EXPECT_TRUE(film->playing);
@@ -77,16 +76,6 @@ TEST_F(ProgressTest, EachCallLetsMessagesRun) {
     call();
     EXPECT_EQ(ran, &call - calls + 1);
   }
-}
-
-TEST_F(ProgressTest, GoesWithTheProgramWhileItShows) {
-  MainWindowEvents events;
-  const WindowHandle main = app.platform.windows.CreateMainWindow(L"Main", events);
-  ShowProgress(app, main, L"Starting Burrowmark...", L"Building recent folders list");
-  EXPECT_EQ(machine.user.Window(L"Starting Burrowmark...").owner, main);
-  app.platform.windows.DestroyMainWindow(main);
-  EXPECT_TRUE(desktop_.Visible().empty());
-  HideProgress(app);
 }
 
 }  // namespace
