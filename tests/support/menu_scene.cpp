@@ -37,6 +37,11 @@ void MenuScene::Start() {
   tray.Add();
 }
 
+void MenuScene::Choose(MenuActions actions, LocalUser::Button button) {
+  machine.user.NextMenu(std::move(actions));
+  machine.user.ClickTray(button);
+}
+
 MenuHandle MenuScene::Root() { return machine.menus.GetSubMenu(machine.menus.GetMenu(app.MainWindow), 0); }
 
 std::wstring MenuScene::NativeTexts(MenuHandle handle) {
