@@ -91,19 +91,6 @@ unless_passed windows-unit-tests build/windows/tests/unit_tests.exe -- \
 unless_passed windows-contract-tests build/windows/tests/contract_tests.exe -- \
   under_wine build/windows/tests/contract_tests.exe --gtest_brief=1
 
-# Each build writes configuration files and reads the other's: native, Windows, and native again.
-exchange_files() {
-  local folder
-  folder=$(mktemp -d)
-  export BURROWMARK_EXCHANGE=$folder
-  build/native/tests/contract_tests --gtest_brief=1 --gtest_filter='*Exchange*'
-  under_wine build/windows/tests/contract_tests.exe --gtest_brief=1 --gtest_filter='*Exchange*'
-  build/native/tests/contract_tests --gtest_brief=1 --gtest_filter='*Exchange*'
-  unset BURROWMARK_EXCHANGE
-  rm -rf "$folder"
-}
-unless_passed exchange build/native/tests/contract_tests build/windows/tests/contract_tests.exe -- exchange_files
-
 # What a user's machine asks of the program file: size, libraries, hardening.
 unless_passed program-file build/windows/src/app/burrowmark.exe tools/check_program.sh -- \
   tools/check_program.sh build/windows/src/app/burrowmark.exe
@@ -125,4 +112,9 @@ for target in date reader link; do
 done
 
 build release
+
+# Every source file by itself: what it passed with is kept beside it.
+say "lint"
+python3 tools/lint.py
+
 say "all tests passed"

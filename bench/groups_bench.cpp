@@ -27,8 +27,8 @@ void DriveCheck(benchmark::State& state) {
     const std::int32_t type = kTypes[static_cast<std::size_t>(letter) % std::size(kTypes)];
     drives.SetFacts(letter, {type, L"A label", type == kDriveTypeRemote ? L"\\\\server\\share" : L""});
   }
-  AddFixedEntries(app, *app.MainStore, false);
-  SetupDrives(app, *app.MainStore);
+  AddFixedEntries(app, app.MainStore(), false);
+  SetupDrives(app, app.MainStore());
   if (app.DrivesCollection.size() != 26) state.SkipWithError("not all drives");
   for (auto _ : state) {
     if (DrivesChanged(app)) state.SkipWithError("changed");

@@ -25,14 +25,14 @@ class BenchMenu {
         tray_(app_, menu_) {
     events_.TrayMouse = [this](std::uint32_t mouseMessage) { tray_.Form_MouseMove(mouseMessage); };
     app_.MainWindow = machine_.windows.CreateMainWindow(L"Burrowmark", events_);
-    app_.MainStore->AddNewMenuItem(
+    app_.MainStore().AddNewMenuItem(
         {.Caption = L"Personal", .OwnerName = kRootOwner, .Name = MIT_GROUP_USER, .SubMenu = true});
     for (std::int64_t i = 0; i < entries; ++i) {
-      app_.MainStore->AddNewMenuItem({.Caption = L"A shortcut with a title of some length",
+      app_.MainStore().AddNewMenuItem({.Caption = L"A shortcut with a title of some length",
                                       .OwnerName = MIT_GROUP_USER,
                                       .FolderPath = L"C:\\Windows"});
     }
-    AddFixedEntries(app_, *app_.MainStore, false);
+    AddFixedEntries(app_, app_.MainStore(), false);
     menu_.LoadMenuIcons();
     menu_.Build({});
     tray_.Add();
@@ -43,7 +43,7 @@ class BenchMenu {
 
   void Clear() { ClearNativeEntries(); }
   void Build() { menu_.Build({}); }
-  void Rebuild() { RebuildMainMenu(app_, {}); }
+  void Rebuild() { RebuildMainMenu(app_); }
   void Open() {
     machine_.user.NextMenu(MenuActions().Click(L"Personal").Cancel());
     machine_.user.ClickTray(LocalUser::Button::kLeft);

@@ -12,7 +12,7 @@ namespace {
 class BenchEditor {
  public:
   explicit BenchEditor(std::int64_t items) : app_(machine_.platform()), form_(app_, OrganizeCalls()) {
-    clsMenuCollection& store = *app_.MainStore;
+    clsMenuCollection& store = app_.MainStore();
     store.AddNewMenuItem({.Caption = L"Personal", .OwnerName = kRootOwner, .Name = MIT_GROUP_USER, .SubMenu = true});
     for (std::int64_t i = 0; i < items; ++i) {
       const auto item = std::make_shared<clsMenuItem>(machine_.machine.clock);

@@ -28,12 +28,12 @@ void Projection(benchmark::State& state) {
   BenchMachine bench;
   Application app(bench.platform());
   InitOrganizedFoldersPaths(app);
-  Fill(*app.MainStore, state.range(0), kLinks);
+  Fill(app.MainStore(), state.range(0), kLinks);
   const std::wstring last = app.OrganizedFoldersDesktop + L"\\G" + DecimalText((kLinks - 1) % state.range(0)) +
                             L"\\A shortcut with a title of some length " + DecimalText(kLinks - 1) + L".lnk";
   std::int64_t runs = 0;
   for (auto _ : state) {
-    RefreshOrganizedFoldersDesktop(app, *app.MainStore, false);
+    RefreshOrganizedFoldersDesktop(app, app.MainStore(), false);
     state.PauseTiming();
     if (!app.platform.files.FileExists(last)) state.SkipWithError("not written");
     // Put aside, not removed: a disk may be slow to give out anew what was freed a moment ago.

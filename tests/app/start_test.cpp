@@ -8,8 +8,6 @@
 
 #include "app/command_line.h"
 #include "config/config_file.h"
-#include "core/numbers.h"
-#include "core/registry.h"
 #include "core/registry_keys.h"
 #include "platform/key_codes.h"
 #include "tests/support/scratch_machine.h"
@@ -30,7 +28,6 @@ class Start : public testing::Test {
       return true;
     };
   }
-  ~Start() override { EXPECT_EQ(machine_.user.Complaints(), ""); }
 
   // Runs the program; each step happens when it has nothing to do, and at the end it is told to go.
   void Run(std::initializer_list<std::function<void()>> steps, const std::wstring& commandLine = {}) {
@@ -53,20 +50,11 @@ class Start : public testing::Test {
     }
     return texts;
   }
-  std::wstring Registered(const wchar_t* key, const wchar_t* value) {
-    std::wstring text;
-    clsRegHandler(machine_.registry).GetKeyValue(RegistryKey::kCurrentUser, key, value, text);
-    return text;
-  }
-  void SetValue(const wchar_t* value, const std::wstring& text) {
-    clsRegHandler(machine_.registry).SetKeyValue(RegistryKey::kCurrentUser, kSettingsKey, value, text);
-  }
-  void Register(const std::wstring& path) { SetValue(kConfigFileValue, path); }
   // A file that holds one shortcut of this title in the personal group, and empty groups.
   std::string FileWith(const std::wstring& title, std::initializer_list<std::wstring> groups = {}) {
     Application app(machine_.platform());
-    app.AC[0] = false;  // without System Folders
-    clsMenuCollection& store = *app.MainStore;
+    app.AC[Appearance::kSystemFolders] = false;  // without System Folders
+    clsMenuCollection& store = app.MainStore();
     store.AddNewMenuItem({.Caption = L"Mine", .OwnerName = kRootOwner, .Name = MIT_GROUP_USER, .SubMenu = true});
     for (const std::wstring& group : groups) {
       store.AddNewMenuItem({.Caption = group, .OwnerName = MIT_GROUP_USER, .SubMenu = true});
@@ -74,6 +62,13 @@ class Start : public testing::Test {
     store.AddNewMenuItem({.Caption = title, .OwnerName = MIT_GROUP_USER, .FolderPath = L"C:\\Windows"});
     ConfigFileWrite(app, store, L"C:\\made.bwmk", false);
     return machine_.BytesOf(L"C:\\made.bwmk");
+  }
+
+  // The default file and another one, both without System Folders.
+  void AddTwoFiles() {
+    scratch_.Register(kSettingsKey, L"AC0", L"0");
+    machine_.AddFile(kBeside, FileWith(L"Mine"));
+    machine_.AddFile(L"C:\\other.bwmk", FileWith(L"Other"));
   }
 
   test::ScratchMachine scratch_;
@@ -84,16 +79,10 @@ class Start : public testing::Test {
 TEST_F(Start, TheFirstStartWritesTheDefaultFile) {
   Run({[&] {
     EXPECT_EQ(Menu(), L"Help;-;Personal;System Folders;-;Options;Organize Folders;");
-    ASSERT_NE(machine_.shell.Tray(), nullptr);
     EXPECT_EQ(machine_.shell.Tray()->tip, L"Burrowmark");
-    EXPECT_EQ(Registered(kMainKey, kWindowValue), DecimalText(machine_.windows.Main()));
   }});
-  Application app(machine_.platform());
-  bool missing = false;
-  bool ignored = false;
-  ASSERT_TRUE(ConfigFileRead(app, *app.MainStore, kBeside, missing, ignored));
-  EXPECT_TRUE(app.MainStore->CaptionExists(L"C_Windows", MIT_GROUP_USER, false, L""));
-  EXPECT_EQ(Registered(kSettingsKey, kConfigFileValue), L"");
+  EXPECT_NE(machine_.BytesOf(kBeside).find("C_Windows"), std::string::npos);
+  EXPECT_EQ(scratch_.Registered(kSettingsKey, kConfigFileValue), L"");
 }
 
 TEST_F(Start, AFileBesideTheProgramIsReadAndRegistered) {
@@ -104,20 +93,20 @@ TEST_F(Start, AFileBesideTheProgramIsReadAndRegistered) {
     machine_.user.NextMenu({L"Mine", L"Found"});
     machine_.user.ClickTray(LocalUser::Button::kLeft);
     ASSERT_EQ(machine_.shell.Launches.size(), 1U);
-    EXPECT_EQ(machine_.shell.Launches[0].file, L"C:\\Windows\\EXPLORER.EXE");
-    EXPECT_EQ(machine_.shell.Launches[0].parameters, L"C:\\Windows");
+    EXPECT_EQ(machine_.shell.Launches[0].file + machine_.shell.Launches[0].parameters,
+              L"C:\\Windows\\EXPLORER.EXEC:\\Windows");
   }});
   EXPECT_EQ(machine_.BytesOf(kBeside), before);
 }
 
 TEST_F(Start, ARegisteredFileOnADriveThatIsAwayStaysRegistered) {
   machine_.AddFile(kBeside, FileWith(L"Found"));
-  Register(L"Q:\\away.bwmk");
+  scratch_.Register(kSettingsKey, kConfigFileValue, L"Q:\\away.bwmk");
   Run({[&] { EXPECT_EQ(Menu(), L"Help;-;Mine;System Folders;-;Options;Organize Folders;"); }});
-  EXPECT_EQ(Registered(kSettingsKey, kConfigFileValue), L"Q:\\away.bwmk");
-  Register(L"C:\\gone.bwmk");
+  EXPECT_EQ(scratch_.Registered(kSettingsKey, kConfigFileValue), L"Q:\\away.bwmk");
+  scratch_.Register(kSettingsKey, kConfigFileValue, L"C:\\gone.bwmk");
   Run({});
-  EXPECT_EQ(Registered(kSettingsKey, kConfigFileValue), kBeside);
+  EXPECT_EQ(scratch_.Registered(kSettingsKey, kConfigFileValue), kBeside);
 }
 
 TEST_F(Start, AFileThatCannotBeReadIsNotOverwritten) {
@@ -181,75 +170,37 @@ TEST_F(Start, WhatTheMachineRefusesDoesNotStopTheStart) {
   EXPECT_TRUE(machine_.files.FileExists(L"C:\\Users\\User\\AppData\\Roaming\\Kestrelan\\Burrowmark\\default.bwmk"));
 }
 
-TEST_F(Start, NoWindowNoProgram) {
-  machine_.uiFaults.FailCall(1);
-  RunBurrowmark(machine_.platform(), {});
-  EXPECT_EQ(machine_.windows.Main(), 0);
-}
-
 TEST_F(Start, AfterTheInstallationMissingProjectionsComeUp) {
-  for (const bool readsFile : {true, false}) {
-    const std::wstring desktop = L"C:\\Users\\User\\Desktop\\Organized Folders";
-    const std::wstring favorites = L"C:\\Users\\User\\Favorites\\Organized Folders";
-    std::filesystem::remove_all(machine_.RealPath(desktop));
-    machine_.AddFile(favorites + L"\\kept");
-    for (const wchar_t* value : {L"ADVC2", L"ADVC4", kAfterInstallValue}) SetValue(value, L"True");
-    if (readsFile) {
-      machine_.AddFile(kBeside, FileWith(L"Found", {L"Twice", L"Twice"}));
-      machine_.user.NextBox(L"Folder Twice already exists.", kAnswerOk, [&] {
-        EXPECT_EQ(machine_.user.Window(L"Starting Burrowmark...").LabelTexts(),
-                  L"Refreshing Organized Folders on the Desktop\n");
-      });
-    } else {
-      std::filesystem::remove(machine_.RealPath(kBeside));
-    }
-    const std::size_t windows = machine_.windows.Desktop.History().size();
-    Run({[&] { EXPECT_TRUE(machine_.windows.Desktop.Visible().empty()); }});
-    EXPECT_EQ(machine_.windows.Desktop.History().size(), windows + 1) << "one progress window for everything";
-    EXPECT_EQ(machine_.files.FileExists(desktop + L"\\Found.lnk"), readsFile);
-    EXPECT_TRUE(machine_.files.FileExists(desktop + L"\\Desktop.ini"));
-    EXPECT_NE(machine_.BytesOf(desktop + L"\\Desktop.ini").find("Burrowmark\\burrowmark.exe\""), std::string::npos);
-    EXPECT_TRUE(machine_.files.FileExists(favorites + L"\\kept"));
-    EXPECT_EQ(Registered(kSettingsKey, kAfterInstallValue), L"");
-    EXPECT_EQ(Registered(kSettingsKey, L"ADVC3"), L"");
-  }
-}
-
-TEST_F(Start, AProjectionThatTheUserTookAwayStaysAway) {
-  machine_.AddFile(kBeside, FileWith(L"Found"));
-  for (const wchar_t* value : {L"ADVC2", L"ADVC3", L"ADVC6"}) SetValue(value, L"True");
-  machine_.AddFolders(L"C:\\Users\\User\\AppData\\Roaming\\Microsoft\\Windows\\SendTo\\Organized Folders");
-  Run({});
-  EXPECT_EQ(Registered(kSettingsKey, L"ADVC2"), L"0");
-  EXPECT_EQ(Registered(kSettingsKey, L"ADVC3"), L"True");
-  EXPECT_FALSE(machine_.files.FolderExists(L"C:\\Users\\User\\Desktop\\Organized Folders"));
-  EXPECT_TRUE(machine_.windows.Desktop.History().empty());
+  const std::wstring desktop = L"C:\\Users\\User\\Desktop\\Organized Folders";
+  const std::wstring favorites = L"C:\\Users\\User\\Favorites\\Organized Folders";
+  machine_.AddFile(favorites + L"\\kept");
+  for (const wchar_t* value : {L"ADVC2", L"ADVC4", kAfterInstallValue}) scratch_.Register(kSettingsKey, value, L"True");
+  machine_.AddFile(kBeside, FileWith(L"Found", {L"Twice", L"Twice"}));
+  machine_.user.NextBox(L"Folder Twice already exists.", kAnswerOk, [&] {
+    EXPECT_EQ(machine_.user.Window(L"Starting Burrowmark...").LabelTexts(),
+              L"Refreshing Organized Folders on the Desktop\n");
+  });
+  Run({[&] { EXPECT_TRUE(machine_.windows.Desktop.Visible().empty()); }});
+  EXPECT_TRUE(machine_.files.FileExists(desktop + L"\\Found.lnk"));
+  EXPECT_NE(machine_.BytesOf(desktop + L"\\Desktop.ini").find("Burrowmark\\burrowmark.exe\""), std::string::npos);
+  EXPECT_TRUE(machine_.files.FileExists(favorites + L"\\kept"));
+  EXPECT_EQ(scratch_.Registered(kSettingsKey, kAfterInstallValue), L"");
+  std::filesystem::remove_all(machine_.RealPath(desktop));
+  Run({});  // the user took it away: it stays away
+  EXPECT_EQ(scratch_.Registered(kSettingsKey, L"ADVC2") + scratch_.Registered(kSettingsKey, L"ADVC4"), L"0True");
 }
 
 TEST_F(Start, CommandsOfOtherProcesses) {
   Run({[&] {
-         SecondProcess(L"");
-         EXPECT_EQ(Registered(kMainKey, kTransferValue), L"");
-       },
-       [&] {
-         SecondProcess(L"/exit");
-         EXPECT_EQ(Registered(kMainKey, kTransferValue), L"/exit");
-       },
-       [&] { SecondProcess(L"/FR"); },
-       [&] {
-         EXPECT_EQ(machine_.windows.Beeps(), 1U);
-         SecondProcess(L"/FR C:\\x");
-         SecondProcess(L"/FR  ");
-         SecondProcess(L"/unknown");
+         for (const wchar_t* command : {L"", L"/FR", L"/unknown", L"/FR  ", L"/exit"}) SecondProcess(command);
+         EXPECT_EQ(scratch_.Registered(kMainKey, kTransferValue), L"/exit");
        },
        [&] { EXPECT_EQ(machine_.windows.Beeps(), 2U); }});
 }
 
 TEST_F(Start, TheEditorOpensOnceComesForwardAndClosesWithTheProgram) {
   const std::wstring title = L"Organize Folders";
-  SetValue(L"AC0", L"0");  // without System Folders
-  machine_.AddFile(kBeside, FileWith(L"Mine"));
-  machine_.AddFile(L"C:\\other.bwmk", FileWith(L"Other"));
+  AddTwoFiles();
   Run({[&] { SecondProcess(L"/OF"); },
        [&] {
          machine_.user.Window(title).SetState(FormWindowState::kMinimized);
@@ -268,9 +219,7 @@ TEST_F(Start, TheEditorOpensOnceComesForwardAndClosesWithTheProgram) {
 
 TEST_F(Start, AnEditorWithChangesCanStopTheEndOfTheProgram) {
   const std::wstring title = L"Organize Folders - other.bwmk";
-  SetValue(L"AC0", L"0");  // without System Folders
-  machine_.AddFile(kBeside, FileWith(L"Mine"));
-  machine_.AddFile(L"C:\\other.bwmk", FileWith(L"Other"));
+  AddTwoFiles();
   const auto rename = [&](const std::wstring& name) {
     ShownWindow& window = machine_.user.Window(title);
     window.Press(kKeyCodeF2);
@@ -307,46 +256,22 @@ TEST_F(Start, TheCommandLineOfTheFirstProcessIsObeyed) {
   EXPECT_EQ(machine_.windows.Main(), 0);
 }
 
-TEST(CommandLine, ArgumentsStandBehindOneSeparator) {
-  EXPECT_EQ(CommandArgument(L"/FR C:\\x y ", 3), L"C:\\x y");
-  EXPECT_EQ(CommandArgument(L"/FR \"C:\\x y\"", 3), L"C:\\x y");
-  EXPECT_EQ(CommandArgument(L"/FR", 3), L"");
-  EXPECT_EQ(CommandArgument(L"/FR ", 3), L"");
-  EXPECT_EQ(CommandArgument(L"/FR \"", 3), L"\"");
-}
-
-TEST(CommandLine, EachCommandGoesItsWay) {
+TEST(CommandLine, CommandsReachTheWindowsThatAreOpen) {
   test::ScratchMachine scratch;
   Application& app = scratch.app;
   std::wstring calls;
-  app.Calls.ShowOrganize = [&](bool AddMode) {
-    calls += AddMode ? L"add " : L"show ";
-    app.IsOpen(SingleWindow::kOrganize) = true;
-  };
-  app.Calls.InitOrganize = [&](const std::wstring& Command) { calls += L"init(" + Command + L") "; };
   app.Calls.BringToFront = [&](SingleWindow window) {
     calls += window == SingleWindow::kOrganize ? L"front " : L"dialog ";
   };
   app.Calls.ShowFolderReport = [&](const std::wstring& folder) { calls += L"report(" + folder + L") "; };
-  app.Calls.UnloadMain = [&] { calls += L"exit "; };
   app.Calls.UnloadOptions = [&] { calls += L"options "; };
-  const auto run = [&](bool FromMenu, const std::wstring& command) {
-    calls.clear();
-    ProcessCommand(app, FromMenu, command);
-    return calls;
-  };
-  EXPECT_EQ(run(false, L"/ADD C:\\x"), L"add front init(/ADD C:\\x) ");
-  EXPECT_EQ(run(false, L"/OF"), L"front ");
-  EXPECT_EQ(run(false, L"/OPEN C:\\x.bwmk"), L"front init(/OPEN C:\\x.bwmk) ");
-  app.IsOpen(SingleWindow::kAddModify) = true;
-  EXPECT_EQ(run(false, L"/ADD C:\\y"), L"front dialog ");
-  EXPECT_EQ(run(false, L"/FR \"C:\\z\""), L"report(C:\\z) ");
-  for (const wchar_t* unknown : {L"/of", L"/OF ", L"x", L""}) EXPECT_EQ(run(false, unknown), L"");
-  app.WindowOpenFlags.fill(false);
-  EXPECT_EQ(run(true, L""), L"show front ");
-  app.IsOpen(SingleWindow::kOptions) = true;
-  EXPECT_EQ(run(false, L"/EXIT"), L"options exit ");
-  EXPECT_TRUE(app.ExitRequested);
+  for (const SingleWindow open : {SingleWindow::kOrganize, SingleWindow::kAddModify, SingleWindow::kOptions}) {
+    app.IsOpen(open) = true;
+    ProcessCommand(app, false, L"/ADD C:\\y");
+  }
+  ProcessCommand(app, false, L"/FR \"C:\\z\"");
+  for (const wchar_t* unknown : {L"/of", L"/OF ", L""}) ProcessCommand(app, false, unknown);
+  EXPECT_EQ(calls, L"front front dialog options front dialog options report(C:\\z) options options options ");
 }
 
 }  // namespace

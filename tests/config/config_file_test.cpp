@@ -2,10 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "config/config_reader.h"
-#include "config/config_writer.h"
-#include "core/registry.h"
 #include "core/registry_keys.h"
+#include "tests/support/config_check.h"
 #include "tests/support/scratch_machine.h"
 
 namespace burrowmark {
@@ -52,6 +50,7 @@ class Config : public testing::Test {
 };
 
 TEST_F(Config, TheSmallFileIsWrittenByteForByte) {
+  app_.AC[Appearance::kSystemFolders] = false;
   const ItemRef group = test::MakeItem(machine_.clock, MIT_GROUP_USER, L"Personal", kRootOwner, true);
   group->flags = 1280;
   group->UserDescription = L"Contains your shortcuts";
@@ -62,45 +61,28 @@ TEST_F(Config, TheSmallFileIsWrittenByteForByte) {
   leaf->FolderPath = L"D:\\Projects";
   leaf->ItemPath = L"\\";
   store_->AddOne(leaf, true, true);
-  app_.AC[0] = false;
   app_.Summary.SummaryTitle = L"My folders";
   ASSERT_TRUE(Write());
   EXPECT_EQ(machine_.BytesOf(kPath), kSmallFile);
 }
 
-TEST_F(Config, TheSmallFileIsReadFieldByField) {
-  machine_.clock.Fixed->year = 2020;
+TEST_F(Config, TheSmallFileIsReadAndWrittenAsItWas) {
   ASSERT_TRUE(Read(kSmallFile));
   EXPECT_TRUE(missing_);
   EXPECT_FALSE(ignored_);
-  const ItemRef leaf = store_->GetMenuItemFromName(L"N1");
-  ASSERT_TRUE(leaf);
-  EXPECT_EQ(leaf->Caption(), L"Projects");
-  EXPECT_EQ(leaf->OwnerName, MIT_GROUP_USER);
-  EXPECT_EQ(leaf->IconID, 4);
-  EXPECT_EQ(leaf->OpenType, MIT_PATH_EXPLORER);
-  EXPECT_EQ(leaf->FolderPath, L"D:\\Projects");
-  EXPECT_EQ(leaf->ItemLocation, L"\\\\Personal");
-  EXPECT_EQ(leaf->KeyboardCode, -1);
-  EXPECT_EQ(PackDateText(leaf->TimeCreated), L"5|11|2003|14|7|9|");
-  EXPECT_EQ(leaf->TimeModified, 0);
   EXPECT_EQ(app_.CurrentConfigFile, kPath);
-  EXPECT_EQ(app_.Summary.SummaryTitle, L"My folders");
   EXPECT_TRUE(
       NamesOf(*store_).starts_with(L"MIT_HF_HELP MIT_HF_HELP_SEP MIT_GROUP_USER N1 MIT_PATHS_SYSTEM MIT_HF_DRIVES_SEP "
                                    L"MIT_HF_SETTINGS MIT_HF_ORGANIZE "));
-}
-
-TEST_F(Config, WhatIsReadIsWrittenAsItWas) {
-  app_.AC[0] = false;
+  app_.AC[Appearance::kSystemFolders] = false;
+  machine_.clock.Fixed->year = 2020;
   ASSERT_TRUE(Read(kSmallFile));
   ASSERT_TRUE(Write());
   EXPECT_EQ(machine_.BytesOf(kPath), kSmallFile);
 }
 
 TEST_F(Config, EveryAttributeSurvives) {
-  const ItemRef group = test::MakeItem(machine_.clock, MIT_GROUP_USER, L"Personal", kRootOwner, true);
-  store_->AddOne(group, true, true);
+  ASSERT_TRUE(Read(kSmallFile));
   const ItemRef leaf = test::MakeItem(machine_.clock, L"Line\nName", L"x", MIT_GROUP_USER);
   leaf->Position = -3;
   leaf->flags = 3328;
@@ -115,29 +97,21 @@ TEST_F(Config, EveryAttributeSurvives) {
   store_->AddOne(leaf, true, false);
   app_.Summary = {L"[END:]", L"author", L"category", L"key words", L"two\r\nlines"};
   ASSERT_TRUE(Write());
-  app_.Summary = {};
-  ASSERT_TRUE(Read(machine_.BytesOf(kPath)));
+  const std::string bytes = machine_.BytesOf(kPath);
+  ASSERT_TRUE(Read(bytes));
   const ItemRef read = store_->GetMenuItemFromName(L"Line\nName");
   ASSERT_TRUE(read);
-  EXPECT_EQ(read->Position, -3);
-  EXPECT_EQ(read->flags, 3328);
-  EXPECT_EQ(read->DriveType, 5);
-  EXPECT_EQ(read->FolderPath, leaf->FolderPath);
-  EXPECT_EQ(read->ItemPath, L"a\\b\\");
-  EXPECT_EQ(read->Remark, L"[END:]");
   EXPECT_EQ(read->KeyboardCode, 0);
   EXPECT_EQ(read->UserDescription, leaf->UserDescription);
-  EXPECT_EQ(read->TimeModified, 37930);
-  EXPECT_EQ(read->TimeAccessed, 0.5);
-  EXPECT_EQ(app_.Summary.SummaryTitle, L"[END:]");
-  EXPECT_EQ(app_.Summary.SummaryAuthor, L"author");
   EXPECT_EQ(app_.Summary.SummaryComments, L"two\r\nlines");
+  ASSERT_TRUE(Write());
+  EXPECT_EQ(machine_.BytesOf(kPath), bytes);
 }
 
 TEST_F(Config, OnlyTheTwoGroupsAndTheirDescendantsAreWritten) {
-  app_.AC[0] = false;
+  app_.AC[Appearance::kSystemFolders] = false;
   ASSERT_TRUE(Read(kSmallFile));
-  app_.AC[0] = true;
+  app_.AC[Appearance::kSystemFolders] = true;
   store_->AddNewMenuItem(
       {.Caption = L"System Folders", .OwnerName = kRootOwner, .Name = MIT_PATHS_SYSTEM, .SubMenu = true});
   store_->AddNewMenuItem({.Caption = L"Fonts", .OwnerName = MIT_PATHS_SYSTEM, .Name = L"S1"});
@@ -152,7 +126,7 @@ TEST_F(Config, OnlyTheTwoGroupsAndTheirDescendantsAreWritten) {
   EXPECT_EQ(NamesOf(*store_),
             L"MIT_HF_HELP MIT_HF_HELP_SEP MIT_GROUP_USER N1 MIT_PATHS_SYSTEM S1 MIT_HF_DRIVES_SEP "
             L"MIT_HF_SETTINGS MIT_HF_ORGANIZE");
-  app_.AC[0] = false;
+  app_.AC[Appearance::kSystemFolders] = false;
   ASSERT_TRUE(Read(both));
   EXPECT_TRUE(ignored_);
   EXPECT_FALSE(missing_);
@@ -168,24 +142,22 @@ TEST_F(Config, AFileWithoutItemsCanBeReadAgain) {
 }
 
 TEST_F(Config, FixedEntriesFollowTheSettingsAndNoneComesFromTheFile) {
-  std::string record = kSmallFile.substr(kSmallFile.find(File("0\nN1\n")), std::string::npos);
-  record = record.substr(0, record.find("[END:]"));
-  std::string bytes = File("[MIT_GROUP_USER:]\n");
+  const std::size_t start = kSmallFile.find(File("0\nN1\n"));
+  const std::string record = kSmallFile.substr(start, kSmallFile.find("[END:]") - start);
+  const auto with = [&record](const std::string& old, const std::string& text) {
+    return std::string(record).replace(record.find(old), old.size(), text);
+  };
+  std::string bytes =
+      File("[MIT_GROUP_USER:]\n") + with(File("\nMIT_PATH\n"), File("\nMIT_DRIVE\n")) + with("False", "True");
   for (const char* name : {"MIT_HF_SETTINGS", "MIT_HF_HELP", "MIT_HF_ORGANIZE", "MIT_PATHS_DRIVES", "N2"}) {
-    std::string copy = record;
-    bytes += copy.replace(2, 2, name);
+    bytes += with("N1", name);
   }
-  std::string drive = record;
-  drive.replace(drive.find(File("\nMIT_PATH\n")), 10, File("\nMIT_DRIVE\n"));
-  std::string separator = record;
-  separator.replace(separator.find("False"), 5, "True");
-  bytes += drive + separator + File("[END:]\n");
-  app_.AC[0] = app_.AC[2] = app_.AC[3] = false;
+  bytes += File("[END:]\n");
+  app_.AC[Appearance::kSystemFolders] = app_.AC[Appearance::kHelp] = app_.AC[Appearance::kOptions] = false;
   ASSERT_TRUE(Read(bytes));
   EXPECT_EQ(NamesOf(*store_), L"N2 MIT_HF_DRIVES_SEP MIT_HF_ORGANIZE");
-  EXPECT_EQ(store_->GetMenuItemFromName(MIT_HF_ORGANIZE)->IconID, 7);
   EXPECT_TRUE(store_->GetMenuItemFromName(MIT_HF_DRIVES_SEP)->Separator());
-  app_.AC[2] = true;
+  app_.AC[Appearance::kHelp] = true;
   ASSERT_TRUE(Read(bytes));
   EXPECT_EQ(NamesOf(*store_).substr(0, 17), L"N2 MIT_HF_HELP MI");  // no personal group: ahead of the top level
 }
@@ -203,11 +175,8 @@ TEST_F(Config, AFileThatIsNoneIsAFailedReadThatChangesNothing) {
     EXPECT_EQ(machine_.BytesOf(kPath), bytes);
     EXPECT_EQ(app_.Summary.SummaryTitle, L"My folders");
   }
-  app_.CurrentConfigFile = L"as it was";
-  bool missing = false;
-  bool ignored = false;
-  EXPECT_FALSE(ConfigFileRead(app_, *store_, L"C:\\data\\none.bwmk", missing, ignored));
-  EXPECT_EQ(app_.CurrentConfigFile, L"as it was");
+  EXPECT_FALSE(ConfigFileRead(app_, *store_, L"C:\\data\\none.bwmk", missing_, ignored_));
+  EXPECT_EQ(app_.CurrentConfigFile, kPath);
 }
 
 TEST_F(Config, AnEmptyFileIsDeletedAndAFileThatCannotBeReadIsNot) {
@@ -227,46 +196,37 @@ TEST_F(Config, ASummaryStartsEmptyAndARepeatedSectionOverwrites) {
   EXPECT_EQ(app_.Summary.SummaryTitle, L"later");
 }
 
-TEST_F(Config, TitlesAreFilteredAndNumbersChecked) {
-  std::string titled = kSmallFile;
-  titled.replace(titled.find("Projects"), 8, "a/b:c");
-  ASSERT_TRUE(Read(titled));
+TEST_F(Config, TitlesAreFilteredAndNumbersAndNamesChecked) {
+  const auto with = [](const std::string& old, const std::string& text) {
+    std::string bytes = kSmallFile;
+    return bytes.replace(bytes.find(old), old.size(), text);
+  };
+  ASSERT_TRUE(Read(with("Projects", "a/b:c")));
   EXPECT_EQ(store_->GetMenuItemFromName(L"N1")->Caption(), L"abc");
-  std::string wide = kSmallFile;
-  wide.replace(wide.find(File("\n4\nFalse")) + 1, 1, "70000");
-  EXPECT_FALSE(Read(wide));
-  std::string dated = kSmallFile;
-  dated.replace(dated.find("5|11|2003"), 9, "5|11|99999");
-  EXPECT_FALSE(Read(dated));
-  std::string twice = kSmallFile;
-  twice.replace(twice.find(File("\nN1\n")) + 1, 2, "mit_group_user");
-  EXPECT_FALSE(Read(twice));  // two equal keys
+  EXPECT_FALSE(Read(with(File("\n4\n"), File("\n70000\n"))));
+  EXPECT_FALSE(Read(with("5|11|2003", "5|11|99999")));
+  EXPECT_FALSE(Read(with(File("\nN1\n"), File("\nmit_group_user\n"))));  // two equal keys
 }
 
 TEST_F(Config, ATextBeyondTheAnsiPageMakesTheFileUtf8) {
   ASSERT_TRUE(Read(kSmallFile));
   store_->GetMenuItemFromName(L"N1")->SetCaption(L"\x41F\x440 \xE9");
+  store_->GetMenuItemFromName(L"N1")->UserDescription = L"a\0b"s;  // a NUL doesn't break the file
   ASSERT_TRUE(Write());
   EXPECT_TRUE(machine_.BytesOf(kPath).starts_with("[UTF-8:]\0[MIT_GROUP_USER:]\0"s));
   ASSERT_TRUE(Read(machine_.BytesOf(kPath)));
   EXPECT_EQ(store_->GetMenuItemFromName(L"N1")->Caption(), L"\x41F\x440 \xE9");
+  EXPECT_EQ(store_->GetMenuItemFromName(L"N1")->UserDescription, L"ab");
   store_->GetMenuItemFromName(L"N1")->SetCaption(L"\x20AC \xE9");
   ASSERT_TRUE(Write());
   EXPECT_NE(machine_.BytesOf(kPath).find("\x80 \xE9"), std::string::npos);
   EXPECT_TRUE(machine_.BytesOf(kPath).starts_with("[MIT_GROUP_USER:]"));
 }
 
-TEST_F(Config, ANulInATextDoesNotBreakTheFile) {
-  ASSERT_TRUE(Read(kSmallFile));
-  store_->GetMenuItemFromName(L"N1")->UserDescription = L"a\0b"s;
-  ASSERT_TRUE(Write());
-  ASSERT_TRUE(Read(machine_.BytesOf(kPath)));
-  EXPECT_EQ(store_->GetMenuItemFromName(L"N1")->UserDescription, L"ab");
-}
-
 TEST_F(Config, TheSummaryIsReplacedAndTheRecordsStayByteForByte) {
   std::string bytes = kSmallFile;
-  bytes.replace(bytes.find("Contains your shortcuts"), 23, "[SUMMARY_TITLE:]");  // a text of the user's
+  const std::string texts = File("\n\nContains your shortcuts");  // ahead of it the remark and the hot key
+  bytes.replace(bytes.find(texts), texts.size(), File("[END:]\n\n[SUMMARY_TITLE:]"));  // texts of the user's
   machine_.AddFile(kPath, bytes + File("[OTHER:]\nkept\n"));
   app_.Summary.SummaryTitle = L"New";
   app_.Summary.SummaryComments = L"c";
@@ -280,9 +240,13 @@ TEST_F(Config, TheSummaryIsReplacedAndTheRecordsStayByteForByte) {
   app_.Summary = {};
   ASSERT_TRUE(ConfigFileUpdateSummary(app_, kPath));
   EXPECT_EQ(machine_.BytesOf(kPath), records + File("[OTHER:]\nkept\n"));
+  machine_.AddFile(kPath, kSmallFile.substr(0, 30) + "\xE9" + kSmallFile.substr(31));
+  app_.Summary.SummaryTitle = L"\x41F";  // makes an ANSI file one of UTF-8
+  ASSERT_TRUE(ConfigFileUpdateSummary(app_, kPath));
+  EXPECT_NE(machine_.BytesOf(kPath).find("\xC3\xA9"), std::string::npos);
 }
 
-TEST_F(Config, TheSummaryOfADamagedMissingOrReadOnlyFile) {
+TEST_F(Config, TheSummaryOfADamagedOrMissingFile) {
   EXPECT_TRUE(ConfigFileUpdateSummary(app_, L"C:\\data\\none.bwmk"));
   EXPECT_FALSE(machine_.files.FileExists(L"C:\\data\\none.bwmk"));
   app_.Summary.SummaryTitle = L"New";
@@ -290,62 +254,40 @@ TEST_F(Config, TheSummaryOfADamagedMissingOrReadOnlyFile) {
   machine_.AddFile(kPath, cut);
   EXPECT_FALSE(ConfigFileUpdateSummary(app_, kPath));
   EXPECT_EQ(machine_.BytesOf(kPath), cut);
-  machine_.AddFile(kPath, kSmallFile);
-  machine_.files.SetFileAttributesA(kPath, kFileReadOnly);
-  EXPECT_FALSE(ConfigFileUpdateSummary(app_, kPath));
-  EXPECT_FALSE(Write());
-  EXPECT_EQ(machine_.BytesOf(kPath), kSmallFile);
-}
-
-TEST_F(Config, ANewSummaryTextCanMakeAnAnsiFileUtf8) {
-  std::string bytes = kSmallFile;
-  bytes.replace(bytes.find("Projects"), 8, "\xE9t\xE9");
-  machine_.AddFile(kPath, bytes);
-  app_.Summary.SummaryTitle = L"\x41F";
-  ASSERT_TRUE(ConfigFileUpdateSummary(app_, kPath));
-  ASSERT_TRUE(Read(machine_.BytesOf(kPath)));
-  EXPECT_EQ(store_->GetMenuItemFromName(L"N1")->Caption(), L"\xE9t\xE9");
-  EXPECT_EQ(app_.Summary.SummaryTitle, L"\x41F");
 }
 
 TEST_F(Config, TheListingShowsCountsAndTheTree) {
-  app_.AC[0] = false;
+  app_.AC[Appearance::kSystemFolders] = false;
   ASSERT_TRUE(Read(kSmallFile));
-  app_.AC[0] = true;
+  app_.AC[Appearance::kSystemFolders] = true;
   store_->AddNewMenuItem({.Caption = L"Group", .OwnerName = MIT_GROUP_USER, .Name = L"G", .SubMenu = true});
   store_->AddNewMenuItem({.Caption = L"Inner", .OwnerName = L"G", .FolderPath = L"C:\\i"});
   store_->AddNewMenuItem({.OwnerName = L"G", .ItemType = MIT_OPENALL});
+  store_->AddNewMenuItem({.Caption = L"D", .OwnerName = L"G", .ItemType = MIT_DRIVE});  // counts nowhere
   store_->AddNewMenuItem(
       {.Caption = L"System Folders", .OwnerName = kRootOwner, .Name = MIT_PATHS_SYSTEM, .SubMenu = true});
   ASSERT_TRUE(Write(true));
-  EXPECT_EQ(
-      machine_.BytesOf(kPath),
-      "C:\\data\\tree.bwmk\r\n\r\n"
-      "Number of shortcuts: 2\r\nNumber of Folder Shortcuts: 1\r\nNumber of Windows Explorer Shortcuts: 1\r\n"
-      "Number of Open-All shortcuts: 1\r\nNumber of groups: 3\r\n\r\n"
-      "[Personal]\r\n [Group]\r\n  Inner (C:\\i)\r\n  Open-All ()\r\n Projects (D:\\Projects)\r\n[System Folders]\r\n");
+  EXPECT_EQ(machine_.BytesOf(kPath),
+            "C:\\data\\tree.bwmk\r\n\r\n"
+            "Number of shortcuts: 2\r\nNumber of Folder Shortcuts: 1\r\nNumber of Windows Explorer Shortcuts: 1\r\n"
+            "Number of Open-All shortcuts: 1\r\nNumber of groups: 3\r\n\r\n"
+            "[Personal]\r\n [Group]\r\n  D ()\r\n  Inner (C:\\i)\r\n  Open-All ()\r\n Projects (D:\\Projects)\r\n"
+            "[System Folders]\r\n");
   store_->GetMenuItemFromName(L"N1")->SetCaption(L"\x41F");
   store_->GetMenuItemFromName(MIT_GROUP_USER)->OwnerName = L"G";  // a circle of owners ends
   ASSERT_TRUE(Write(true));
-  EXPECT_TRUE(
-      machine_.BytesOf(kPath).starts_with("\xEF\xBB\xBF"
-                                          "C:"));
+  EXPECT_TRUE(machine_.BytesOf(kPath).starts_with("\xEF\xBB\xBF"));
 }
 
-TEST_F(Config, TheDefaultFileIsRegisteredOrBesideTheProgramOrInTheUsersData) {
+TEST_F(Config, TheDefaultFileIsRegisteredOrBesideTheProgram) {
   GetConfigFileName(app_, false);
   EXPECT_EQ(app_.ConfigFile, L"C:\\Program Files\\Burrowmark\\default.bwmk");
   SaveConfigFileName(app_, L"D:\\mine.bwmk");
   GetConfigFileName(app_, false);
   EXPECT_EQ(app_.ConfigFile, L"D:\\mine.bwmk");
-  machine_.faults.FoldersWithoutNewFiles.insert(L"C:\\PROGRAM FILES\\BURROWMARK");
   GetConfigFileName(app_, true);
-  EXPECT_EQ(app_.ConfigFile, L"C:\\Users\\User\\AppData\\Roaming\\Kestrelan\\Burrowmark\\default.bwmk");
-  EXPECT_TRUE(ConfigFileWrite(app_, *store_, L"", false));
   SaveConfigFileName(app_, L"");
-  std::wstring registered;
-  clsRegHandler(machine_.registry).GetKeyValue(RegistryKey::kCurrentUser, kSettingsKey, L"ConfigFile", registered);
-  EXPECT_EQ(registered, app_.ConfigFile);
+  EXPECT_EQ(scratch_.Registered(kSettingsKey, kConfigFileValue), app_.ConfigFile);
 }
 
 TEST_F(Config, AnUnreadableFileIsKeptBesideUnderAFreeName) {
@@ -358,39 +300,15 @@ TEST_F(Config, AnUnreadableFileIsKeptBesideUnderAFreeName) {
   EXPECT_FALSE(KeepUnreadableFile(app_, L"C:\\data\\none.bwmk"));
 }
 
-// Whatever the bytes, a read ends and leaves a store that holds together.
-class DamagedConfig : public Config {
- protected:
-  void ReadAndCheck(const std::string& bytes, const std::string& what) {
-    const bool read = Read(bytes);
-    ASSERT_EQ(test::UniqueKeysIn(*store_), "") << what;
-    for (std::int32_t i = 1; i <= store_->Count(); ++i) {  // every walk ends
-      store_->ItemFullPath(*store_->Item(i));
-      store_->GetItemRootNode(*store_->Item(i));
-    }
-    ASSERT_EQ(machine_.files.FileExists(kPath), !bytes.empty()) << what;
-    if (!bytes.empty()) {
-      ASSERT_EQ(machine_.BytesOf(kPath), bytes) << what;
-    }
-    if (read) {
-      ASSERT_TRUE(Write(true)) << what;
-    }
-  }
-};
-
-TEST_F(DamagedConfig, EveryLength) {
+TEST_F(Config, WhateverTheBytesAReadEndsAndLeavesAStoreThatHoldsTogether) {
   for (std::size_t length = 0; length <= kSmallFile.size(); ++length) {
-    ReadAndCheck(kSmallFile.substr(0, length), "length " + std::to_string(length));
+    ASSERT_EQ(test::BrokenBy(app_, kSmallFile.substr(0, length)), "") << "length " << length;
   }
-}
-
-TEST_F(DamagedConfig, EveryByte) {
   for (std::size_t at = 0; at < kSmallFile.size(); ++at) {
-    const auto byte = static_cast<unsigned char>(kSmallFile[at]);
-    for (const int value : {byte ^ 1, byte ^ 0x20, byte ^ 0x80, 0, 255, byte + 1}) {
+    for (const int value : {kSmallFile[at] ^ 1, kSmallFile[at] ^ 0x20, 0, 255}) {
       std::string bytes = kSmallFile;
-      bytes[at] = static_cast<char>(static_cast<unsigned char>(value));
-      ReadAndCheck(bytes, "byte " + std::to_string(at) + " as " + std::to_string(value));
+      bytes[at] = static_cast<char>(value);
+      ASSERT_EQ(test::BrokenBy(app_, bytes), "") << "byte " << at << " as " << value;
     }
   }
 }

@@ -1,14 +1,4 @@
-// Configuration files that one build writes and the other reads.
-//
-// The folder named by BURROWMARK_EXCHANGE is passed from the native build to the Windows build and back; each writes
-// its files there and reads what it finds. Without it there is nothing to exchange.
-#include <algorithm>
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
-#include <sstream>
-
+// Configuration files that every build writes byte for byte and reads back whole, whatever its system.
 #include "config/config_reader.h"
 #include "config/config_writer.h"
 #include "tests/contract/system_under_test.h"
@@ -16,73 +6,50 @@
 namespace burrowmark {
 namespace {
 
-namespace fs = std::filesystem;
-
-class Exchange : public ContractTest {
+class ExchangeContract : public ContractTest {
  protected:
-  void SetUp() override {
-    const char* folder = std::getenv("BURROWMARK_EXCHANGE");
-    if (folder == nullptr) GTEST_SKIP() << "BURROWMARK_EXCHANGE isn't set";
-    if (!system_->HasPage1252()) GTEST_SKIP() << "the system has another ANSI page";
-    folder_ = folder;
-    app_.AC[0] = false;
-  }
-
-  // A tree whose texts have the characters of `title`.
+  // A group in a group, a shortcut with a hot key in each, and a separator; every text has the title in it.
   void Fill(clsMenuCollection& store, const std::wstring& title) {
-    auto top = std::make_shared<clsMenuItem>(platform_.clock);
-    top->SetName(MIT_GROUP_USER);
-    top->SetCaption(L"Personal");
-    top->OwnerName = kRootOwner;
-    top->SetSubMenu(true);
-    store.AddOne(top, true, true);
-    for (int i = 1; i <= 50; ++i) {
-      auto item = std::make_shared<clsMenuItem>(platform_.clock);
-      item->SetCaption(title + std::to_wstring(i));
-      item->OwnerName = i % 10 == 0 ? L"N" + std::to_wstring(i - 1) : std::wstring(MIT_GROUP_USER);
-      item->SetSubMenu(i % 10 == 9);
-      item->FolderPath = L"C:\\" + title;
-      item->UserDescription = title + L"\r\n" + title;
-      item->KeyboardCode = i <= 9 ? 48 + i : -1;
-      item->TimeModified = 37930 + i / 64.0;
-      store.AddOne(item, true, true);
+    const std::wstring lines = title + L"\r\n" + title;
+    const NewMenuItem items[] = {
+        {.Caption = L"Personal", .OwnerName = kRootOwner, .Name = MIT_GROUP_USER, .SubMenu = true},
+        {.Caption = title + L" 1", .OwnerName = MIT_GROUP_USER, .FolderPath = L"C:\\" + title, .KeyboardCode = 48},
+        {.OwnerName = MIT_GROUP_USER, .Name = L"line", .Separator = true},
+        {.Caption = title, .OwnerName = MIT_GROUP_USER, .Name = L"group", .SubMenu = true, .UserDescription = lines},
+        {.Caption = title + L" 2", .OwnerName = L"group", .FolderPath = L"\\\\a\\" + title, .KeyboardCode = 57}};
+    for (const NewMenuItem& values : items) {
+      const ItemRef item = store.AddNewMenuItem(values);
+      item->TimeCreated = 30000 + store.Count();
+      item->TimeModified = 37930 + store.Count() / 64.0;
     }
-    for (int i = 1; i <= store.Count(); ++i) store.Item(i)->TimeCreated = 30000 + i;
+    summary_ = {title, L"author", {}, title + L"; " + title, L"two\r\nlines"};
+    app_.AC[Appearance::kSystemFolders] = false;
   }
 
   Application app_{platform_};
-  fs::path folder_;
+  ConfigSummary summary_;
 };
+INSTANTIATE_TEST_SUITE_P(Systems, ExchangeContract, ::testing::ValuesIn(Systems()), KindName);
 
-TEST_P(Exchange, EachBuildReadsWhatTheOtherWrote) {
-  const std::pair<const char*, std::wstring> trees[] = {{"ansi", L"\x20AC \xE9t\xE9 \x153"},
-                                                        {"wide", L"\x41F\x440 \xE9"}};
-  for (const auto& [tree, title] : trees) {
+TEST_P(ExchangeContract, EveryBuildWritesAndReadsTheSameFiles) {
+  if (!system_->HasPage1252()) GTEST_SKIP() << "the system has another ANSI page";
+  const std::pair<const char*, std::wstring> files[] = {
+      {"plain.bwmk", L"Plain"}, {"ansi.bwmk", L"\x20AC \xE9t\xE9 \x153"}, {"utf8.bwmk", L"\x41F\x440 \xE9"}};
+  for (const auto& [name, title] : files) {
+    SCOPED_TRACE(name);
+    const std::string bytes = Fixture(name);
     clsMenuCollection store(platform_.clock);
     Fill(store, title);
-    const std::string bytes = BuildConfig(app_, store);
-    const std::string mine = GetParam().name + std::to_string(sizeof(wchar_t));
-    std::ofstream(folder_ / (std::string(tree) + "-" + mine), std::ios::binary) << bytes;
-
-    for (const fs::directory_entry& file : fs::directory_iterator(folder_)) {
-      if (!file.path().filename().string().starts_with(tree)) continue;
-      std::ifstream in(file.path(), std::ios::binary);
-      const std::string other{std::istreambuf_iterator<char>(in), {}};
-      EXPECT_EQ(other, bytes) << file.path();
-      clsMenuCollection read(platform_.clock);
-      ConfigContent content;
-      ASSERT_TRUE(ReadConfig(app_, other, read, content)) << file.path();
-      ASSERT_EQ(read.Count(), store.Count());
-      for (int i = 1; i <= store.Count(); ++i) {
-        EXPECT_EQ(read.Item(i)->Caption(), store.Item(i)->Caption());
-        EXPECT_EQ(read.Item(i)->UserDescription, store.Item(i)->UserDescription);
-        EXPECT_EQ(read.Item(i)->TimeModified, store.Item(i)->TimeModified);
-      }
-    }
+    EXPECT_EQ(BuildConfig(app_, store, summary_), bytes);
+    clsMenuCollection read(platform_.clock);
+    ConfigContent content;
+    ASSERT_TRUE(ReadConfig(app_, bytes, read, content));
+    ASSERT_EQ(read.Count(), store.Count() - 1) << "the separator isn't the file's";
+    EXPECT_EQ(read.GetMenuItemFromName(L"group")->Caption(), title);
+    EXPECT_EQ(content.summary.SummaryTitle, title);
+    EXPECT_EQ(BuildConfig(app_, read, content.summary), bytes);
   }
 }
-
-INSTANTIATE_TEST_SUITE_P(Systems, Exchange, ::testing::ValuesIn(Systems()), KindName);
 
 }  // namespace
 }  // namespace burrowmark

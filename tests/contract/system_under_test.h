@@ -1,10 +1,13 @@
-// The systems that keep the contract of the seam, each with a scratch place of its own for one test.
+// The system that keeps the contract of the seam: the local machine natively, the real one in a Windows build. Each
+// test has a scratch place of its own on it.
 #pragma once
 
 #include <gtest/gtest.h>
 
-#include <functional>
+#include <fstream>
+#include <iterator>
 #include <memory>
+#include <random>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -34,27 +37,39 @@ class SystemUnderTest {
   // Wine stands in for Windows and does some things otherwise.
   virtual bool IsWine() const { return false; }
   virtual bool HasPage1252() const { return true; }
+
+ protected:
+  static std::string UniqueName() {
+    std::random_device random;
+    return "burrowmark-contract-" + std::to_string(random()) + std::to_string(random());
+  }
 };
 
-struct SystemKind {
-  std::string name;
-  std::function<std::unique_ptr<SystemUnderTest>()> make;
-};
+std::unique_ptr<SystemUnderTest> MakeSystem();
+// The name of the system that this build tests.
+std::vector<std::string> Systems();
+inline std::string KindName(const ::testing::TestParamInfo<std::string>& info) { return info.param; }
 
-// The local machine everywhere, and in a Windows build the real system too.
-std::vector<SystemKind> Systems();
-void PrintTo(const SystemKind& kind, std::ostream* out);
-std::string KindName(const ::testing::TestParamInfo<SystemKind>& info);
-
-class ContractTest : public ::testing::TestWithParam<SystemKind> {
+class ContractTest : public ::testing::TestWithParam<std::string> {
  protected:
   std::wstring In(const std::wstring& name) const { return system_->Folder() + L'\\' + name; }
   // Writes a new file by the seam's own calls.
-  bool Make(const std::wstring& path, std::string_view bytes = {});
+  bool Make(const std::wstring& path, std::string_view bytes = {}) {
+    const std::unique_ptr<OutputFile> file = files_.CreateNewFile(path);
+    return file && file->Write(bytes) && file->Close();
+  }
   // What stands in a file, or a word that no test writes if it can't be read.
-  std::string Content(const std::wstring& path);
+  std::string Content(const std::wstring& path) {
+    std::string bytes;
+    return files_.ReadWholeFile(path, bytes) ? bytes : "(unreadable)";
+  }
+  // A file that stands beside these tests.
+  static std::string Fixture(const std::string& name) {
+    std::ifstream in(FIXTURES + name, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), {}};
+  }
 
-  std::unique_ptr<SystemUnderTest> system_ = GetParam().make();
+  std::unique_ptr<SystemUnderTest> system_ = MakeSystem();
   Platform platform_ = system_->platform();
   FileSystem& files_ = platform_.files;
 };

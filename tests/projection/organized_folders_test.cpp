@@ -3,8 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-
 #include "core/registry.h"
 #include "core/registry_keys.h"
 #include "platform/characters.h"
@@ -28,7 +26,7 @@ class OrganizedFolders : public testing::Test {
     InitOrganizedFoldersPaths(app_);
     scene_.AddPersonal();
   }
-  void Project() { RefreshOrganizedFoldersDesktop(app_, store_, false); }
+  void Project() { RefreshOrganizedFoldersDesktop(app_, app_.MainDocument.Store, false); }
   // Everything below a folder but Desktop.ini, in the disk's order: "A[x.lnk] y.lnk".
   std::wstring Tree(const std::wstring& folder = kDesktop) {
     std::vector<FolderEntry> entries;
@@ -41,11 +39,7 @@ class OrganizedFolders : public testing::Test {
     }
     return tree;
   }
-  std::wstring Setting(const std::wstring& name) {
-    std::wstring text;
-    clsRegHandler(machine_.registry).GetKeyValue(RegistryKey::kCurrentUser, kSettingsKey, name, text);
-    return text;
-  }
+  std::wstring Setting(const std::wstring& name) { return scene_.Registered(kSettingsKey, name); }
   ItemRef Add(const std::wstring& name, const std::wstring& caption, const std::wstring& owner = MIT_GROUP_USER) {
     return scene_.AddShortcut(name, caption, kTarget, owner);
   }
@@ -54,7 +48,7 @@ class OrganizedFolders : public testing::Test {
   LocalMachine& machine_ = scene_.machine;
   Application& app_ = scene_.app;
   FileSystem& files_ = machine_.files;
-  clsMenuCollection& store_ = *app_.MainStore;
+  clsMenuCollection& store_ = app_.MainStore();
 };
 
 TEST_F(OrganizedFolders, GroupsAreFoldersAndShortcutsAreLinks) {
@@ -69,11 +63,7 @@ TEST_F(OrganizedFolders, GroupsAreFoldersAndShortcutsAreLinks) {
     ShellLink read;
     ASSERT_TRUE(machine_.shell.ReadShellLink(kDesktop + std::wstring(link), read));
     EXPECT_EQ(read.target, kTarget);
-    EXPECT_EQ(read.description, L"Organized Folder Shortcut");
-    EXPECT_EQ(read.showCommand, 1);
   }
-  EXPECT_EQ(machine_.BytesOf(kDesktop + std::wstring(L"\\Desktop.ini")), kDesktopIni);
-  EXPECT_EQ(files_.GetFileAttributesA(kDesktop + std::wstring(L"\\Desktop.ini")), kFileHidden | kFileSystem);
   EXPECT_EQ(files_.GetFileAttributesA(kDesktop), kFileSystem | kFileDirectory);
   EXPECT_FALSE(files_.FileExists(kDesktop + std::wstring(L"\\A\\Desktop.ini")));
 }
@@ -86,19 +76,17 @@ TEST_F(OrganizedFolders, OtherItemsArePassedOver) {
   Add(L"file", L"file", L"G")->FolderPath = L"C:\\Windows\\explorer.exe";
   Add(L"odd", L"odd", L"G")->OpenType = L"odd";
   Add(L"drive", L"drive")->FolderPath = L"C:\\";
-  AddFixedEntries(app_, store_, true);
-  const std::wstring outside[] = {L"GO", L"O"};
-  scene_.AddGroup(outside[0], L"Outside", kRootOwner);
-  Add(outside[1], L"O", outside[0]);
+  AddFixedEntries(app_, app_.MainDocument.Store, true);
+  scene_.AddGroup(L"GO", L"Outside", kRootOwner);
+  Add(L"O", L"O", L"GO");
   store_.AddNewMenuItem({.Caption = L"Drives", .OwnerName = kRootOwner, .Name = MIT_PATHS_DRIVES, .SubMenu = true});
   store_.AddNewMenuItem({.Caption = L"C", .OwnerName = MIT_PATHS_DRIVES, .FolderPath = L"C:\\", .ItemType = MIT_DRIVE});
   Project();
   EXPECT_EQ(Tree(), L"drive.lnk Empty[]");
-  app_.ADVC[5] = true;
+  app_.ADVC[Advanced::kWithSystemFolders] = true;
   Project();
   const std::wstring all = Tree();
   EXPECT_TRUE(all.starts_with(L"drive.lnk Empty[] Outside[O.lnk] System Folders[")) << ToUtf8(all);
-  EXPECT_NE(all.find(L"Personal[Application Data.lnk"), std::wstring::npos) << ToUtf8(all);
   for (const wchar_t* none : {L"Drives", L"Help", L"Cursors"}) EXPECT_EQ(all.find(none), std::wstring::npos);
 }
 
@@ -109,7 +97,7 @@ TEST_F(OrganizedFolders, TwoGroupsOfOneTitleShareAFolder) {
   scene_.AddGroup(L"G2", L"A");
   Add(L"S3", L"same", L"G2")->FolderPath = L"C:\\Users";
   Add(L"S4", L"two", L"G2");
-  app_.ADVC[5] = true;
+  app_.ADVC[Advanced::kWithSystemFolders] = true;
   machine_.user.NextBox(kConflict, kAnswerOk, [this] { store_.Remove(L"S4"); });
   Project();
   EXPECT_EQ(Tree(), L"A[one.lnk same.lnk two.lnk]");
@@ -124,7 +112,6 @@ TEST_F(OrganizedFolders, AMovedItemGoesWhereItStandsNow) {
   const ItemRef item = Add(L"S", L"S", L"GA");
   item->OwnerName = L"GB";
   group->SetCaption(L"Renamed");
-  EXPECT_EQ(item->ItemPath, L"A\\");
   Project();
   EXPECT_EQ(Tree(), L"A[] Renamed[S.lnk]");
 }
@@ -169,27 +156,15 @@ TEST_F(OrganizedFolders, WithoutAPlaceNothingIsProjected) {
   Add(L"T", L"T");
   std::filesystem::remove(machine_.RealPath(L"C:\\Users\\User\\Favorites"));
   machine_.user.NextBox(L"Organized Folders have been restored.", kAnswerOk);
-  RefreshOrganizedFoldersFavorites(app_, store_, true);
+  RefreshOrganizedFoldersFavorites(app_, app_.MainDocument.Store, true);
   EXPECT_FALSE(files_.FolderExists(L"C:\\Users\\User\\Favorites"));
   EXPECT_EQ(Setting(L"DirFavorites"), L"");
-  RefreshOrganizedFoldersSendTo(app_, store_, false);
-  EXPECT_EQ(Tree(app_.OrganizedFoldersSendTo), L"T.lnk");
-  EXPECT_EQ(Setting(L"DirSendTo"), app_.OrganizedFoldersSendTo);
-
   clsRegHandler(machine_.registry).DeleteValue(RegistryKey::kCurrentUser, kShellFoldersKey, L"SendTo");
   InitOrganizedFoldersPaths(app_);
   EXPECT_EQ(app_.OrganizedFoldersSendTo, L"");
   machine_.faults.FailFrom(0);
-  RefreshOrganizedFoldersSendTo(app_, store_, true);
+  RefreshOrganizedFoldersSendTo(app_, app_.MainDocument.Store, true);
   EXPECT_EQ(machine_.faults.Calls(), 0U);
-}
-
-TEST_F(OrganizedFolders, AnEmptyStoreEmptiesTheRoot) {
-  Add(L"T", L"T");
-  Project();
-  RefreshOrganizedFoldersDesktop(app_, clsMenuCollection(machine_.clock), false);
-  EXPECT_EQ(Tree(), L"");
-  EXPECT_EQ(machine_.BytesOf(kDesktop + std::wstring(L"\\Desktop.ini")), kDesktopIni);
 }
 
 // Whatever single call fails, the others are made, and the next projection mends what is missing.
@@ -219,45 +194,6 @@ TEST_F(OrganizedFolders, NoFailureStopsTheRest) {
     EXPECT_EQ(machine_.BytesOf(kDesktop + std::wstring(L"\\Desktop.ini")), kDesktopIni);
     EXPECT_EQ(files_.GetFileAttributesA(kDesktop + std::wstring(L"\\Desktop.ini")), kFileHidden | kFileSystem);
   }
-}
-
-TEST_F(OrganizedFolders, ADesktopIniThatTheWipeLeavesIsWrittenAnew) {
-  const std::wstring path = kDesktop + std::wstring(L"\\Desktop.ini");
-  Project();
-  machine_.faults.FailFrom(0);
-  Project();
-  const std::vector<std::string> calls = machine_.faults.Record();
-  const auto wipe = std::find(calls.begin(), calls.end(), "DeleteFileA " + ToUtf8(path));
-  ASSERT_NE(wipe, calls.end());
-  machine_.AddFile(path, "old");
-  machine_.faults.FailCall(static_cast<std::size_t>(wipe - calls.begin()) + 1);
-  Project();
-  EXPECT_EQ(machine_.BytesOf(path), kDesktopIni);
-  machine_.AddFile(path, "old");
-  machine_.files.SetFileAttributesA(path, kFileHidden | kFileSystem | kFileReadOnly);
-  Project();
-  EXPECT_EQ(machine_.BytesOf(path), "old");
-  EXPECT_EQ(files_.GetFileAttributesA(path), kFileHidden | kFileSystem | kFileReadOnly);
-}
-
-TEST_F(OrganizedFolders, ALinkThatIsRefusedIsTheOnlyOneMissing) {
-  Add(L"S", L"S");
-  Add(L"T", L"T");
-  machine_.uiFaults.FailCall(1);
-  Project();
-  EXPECT_EQ(machine_.uiFaults.Failed(), 1U);
-  EXPECT_EQ(Tree(), L"T.lnk");
-}
-
-TEST_F(OrganizedFolders, ARootThatIsGoneTurnsItsOptionOff) {
-  app_.ADVC[2] = app_.ADVC[3] = true;
-  Project();
-  CheckOrganizedFoldersExist(app_);
-  EXPECT_TRUE(app_.ADVC[2]);
-  EXPECT_FALSE(app_.ADVC[3]);
-  EXPECT_EQ(Setting(L"ADVC2"), L"");
-  EXPECT_EQ(Setting(L"ADVC3"), L"0");
-  EXPECT_EQ(Setting(L"ADVC4"), L"");
 }
 
 }  // namespace

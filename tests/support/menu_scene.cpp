@@ -13,28 +13,34 @@ MenuScene::MenuScene() {
   app.HelpFile = app.AppPath + L"\\Burrowmark.chm";
   events.TrayMouse = [this](std::uint32_t mouseMessage) { tray.Form_MouseMove(mouseMessage); };
   events.TaskbarCreated = [this] { tray.Add(); };
+  events.AtRest = [this] { app.Requests.RunAtRest(); };
   app.MainWindow = machine.windows.CreateMainWindow(L"Burrowmark", events);
 }
 
 void MenuScene::AddPersonal() {
-  app.MainStore->AddNewMenuItem(
+  app.MainStore().AddNewMenuItem(
       {.Caption = L"Personal", .OwnerName = kRootOwner, .Name = MIT_GROUP_USER, .SubMenu = true});
 }
 
 ItemRef MenuScene::AddGroup(const std::wstring& name, const std::wstring& caption, const std::wstring& owner) {
-  return app.MainStore->AddNewMenuItem({.Caption = caption, .OwnerName = owner, .Name = name, .SubMenu = true});
+  return app.MainStore().AddNewMenuItem({.Caption = caption, .OwnerName = owner, .Name = name, .SubMenu = true});
 }
 
 ItemRef MenuScene::AddShortcut(const std::wstring& name, const std::wstring& caption, const std::wstring& path,
                                const std::wstring& owner) {
   if (!path.empty()) machine.AddFolders(path);
-  return app.MainStore->AddNewMenuItem({.Caption = caption, .OwnerName = owner, .Name = name, .FolderPath = path});
+  return app.MainStore().AddNewMenuItem({.Caption = caption, .OwnerName = owner, .Name = name, .FolderPath = path});
 }
 
 void MenuScene::Start() {
   menu.LoadMenuIcons();
   menu.Build({});
   tray.Add();
+}
+
+void MenuScene::Choose(MenuActions actions, LocalUser::Button button) {
+  machine.user.NextMenu(std::move(actions));
+  machine.user.ClickTray(button);
 }
 
 MenuHandle MenuScene::Root() { return machine.menus.GetSubMenu(machine.menus.GetMenu(app.MainWindow), 0); }
@@ -50,8 +56,8 @@ std::wstring MenuScene::NativeTexts(MenuHandle handle) {
 
 std::string MenuScene::WrongNumbers() {
   std::set<std::int32_t> numbers;
-  for (std::int32_t i = 1; i <= app.MainStore->Count(); ++i) {
-    const clsMenuItem& item = *app.MainStore->Item(i);
+  for (std::int32_t i = 1; i <= app.MainStore().Count(); ++i) {
+    const clsMenuItem& item = app.MainStore()->Item(i);
     const std::string name = ToUtf8(item.Name());
     const auto& siblings = machine.menus.Entries(item.OwnerID);
     if (item.Position < 0 || static_cast<std::size_t>(item.Position) >= siblings.size()) return name + " has no place";

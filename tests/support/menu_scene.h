@@ -20,6 +20,8 @@ class MenuScene : public ScratchMachine {
                       const std::wstring& owner = MIT_GROUP_USER);
   // Builds the whole menu and puts the icon up.
   void Start();
+  // Opens the menu by a click on the tray icon, and does this in it.
+  void Choose(MenuActions actions, LocalUser::Button button = LocalUser::Button::kLeft);
 
   MenuHandle Root();
   // Texts of a native menu in order, a blank between them; separators are "-", a popup's own entries follow in

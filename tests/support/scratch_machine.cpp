@@ -4,9 +4,8 @@
 
 #include <atomic>
 #include <chrono>
-#include <set>
 
-#include "core/text.h"
+#include "core/registry.h"
 
 namespace burrowmark::test {
 
@@ -30,6 +29,16 @@ ScratchMachine::ScratchMachine() : machine(folder.Path()), app(machine.platform(
 
 ScratchMachine::~ScratchMachine() { EXPECT_EQ(machine.user.Complaints(), ""); }
 
+std::wstring ScratchMachine::Registered(const wchar_t* key, const std::wstring& value) {
+  std::wstring text;
+  clsRegHandler(machine.registry).GetKeyValue(RegistryKey::kCurrentUser, key, value, text);
+  return text;
+}
+
+void ScratchMachine::Register(const wchar_t* key, const std::wstring& value, const std::wstring& text) {
+  clsRegHandler(machine.registry).SetKeyValue(RegistryKey::kCurrentUser, key, value, text);
+}
+
 ItemRef MakeItem(const Clock& clock, const std::wstring& name, const std::wstring& caption, const std::wstring& owner,
                  bool group) {
   auto item = std::make_shared<clsMenuItem>(clock);
@@ -52,26 +61,6 @@ std::wstring TitlesUnder(const clsMenuCollection& store, const std::wstring& own
     if (store.Item(i)->OwnerName == owner) titles += (titles.empty() ? L"" : L" ") + store.Item(i)->Caption();
   }
   return titles;
-}
-
-std::string UniqueKeysIn(const clsMenuCollection& store) {
-  std::set<std::wstring> keys;
-  for (std::int32_t i = 1; i <= store.Count(); ++i) {
-    if (!keys.insert(UpperCaseText(store.Item(i)->Name())).second) return "two of " + ToUtf8(store.Item(i)->Name());
-  }
-  return {};
-}
-
-std::string OwnersAheadIn(const clsMenuCollection& store) {
-  std::set<std::wstring> seen;
-  for (std::int32_t i = 1; i <= store.Count(); ++i) {
-    const clsMenuItem& item = *store.Item(i);
-    seen.insert(item.Name());
-    if (store.ItemExists(item.OwnerName) && !seen.contains(item.OwnerName)) {
-      return ToUtf8(item.Name()) + " stands ahead of its owner " + ToUtf8(item.OwnerName);
-    }
-  }
-  return {};
 }
 
 }  // namespace burrowmark::test

@@ -34,6 +34,10 @@ class ScratchMachine {
   ScratchMachine(const ScratchMachine&) = delete;
   ScratchMachine& operator=(const ScratchMachine&) = delete;
 
+  // A text value of the user's part of the registry; empty without one.
+  std::wstring Registered(const wchar_t* key, const std::wstring& value);
+  void Register(const wchar_t* key, const std::wstring& value, const std::wstring& text);
+
   ScratchFolder folder;
   LocalMachine machine;
   Application app;
@@ -47,10 +51,5 @@ ItemRef MakeItem(const Clock& clock, const std::wstring& name, const std::wstrin
 std::wstring NamesOf(const clsMenuCollection& store);
 // The same of the titles under one owner.
 std::wstring TitlesUnder(const clsMenuCollection& store, const std::wstring& owner);
-
-// Each empty if all is well, otherwise what is wrong: no two keys of a store are equal; every owner that it holds
-// stands ahead of what it owns.
-std::string UniqueKeysIn(const clsMenuCollection& store);
-std::string OwnersAheadIn(const clsMenuCollection& store);
 
 }  // namespace burrowmark::test

@@ -4,14 +4,10 @@
 #include <string_view>
 #include <utility>
 
-#include "platform/local/disk.h"
-#include "platform/local/icon_file.h"
 #include "platform/local/menu_text.h"
 
 namespace burrowmark {
 namespace {
-
-namespace fs = std::filesystem;
 
 constexpr Color kColorBits = 0x00FFFFFF;
 constexpr Color kWhite = 0xFFFFFF;
@@ -46,19 +42,6 @@ std::int32_t WidthOf(const std::wstring& seen, std::int32_t dpi) {
   std::int32_t width = 0;
   for (const wchar_t c : seen) width += CharWidth(c, dpi);
   return width;
-}
-
-// As the icon would look if it were drawn in the size of the rectangle.
-void DrawImage(Canvas& canvas, const Rect& rect, const IconImage& image) {
-  const std::int32_t width = rect.right - rect.left;
-  const std::int32_t height = rect.bottom - rect.top;
-  for (std::int32_t y = 0; y < height; ++y) {
-    for (std::int32_t x = 0; x < width; ++x) {
-      const std::int32_t index = y * image.size / height * image.size + x * image.size / width;
-      const Color under = canvas.At(rect.left + x, rect.top + y);
-      canvas.Set(rect.left + x, rect.top + y, Blend(image.pixels[static_cast<std::size_t>(index)], under));
-    }
-  }
 }
 
 }  // namespace
@@ -195,26 +178,7 @@ void LocalDrawing::DrawIconEx(DeviceContext context, std::int32_t x, std::int32_
   const std::int32_t size = IconSize(icon);
   const Rect rect{x, y, x + (width > 0 ? width : size), y + (height > 0 ? height : size)};
   page->calls.push_back({.name = "DrawIconEx", .rect = rect, .format = flags, .icon = icon});
-  if (size == 0 || (flags & kIconAsIs) != kIconAsIs) return;
-  std::string bytes;
-  ReadDiskFile(IconFile(IconNumber(icon)), bytes);
-  const IconImage image = ReadIconImage(bytes, size);
-  if (image.size > 0) {
-    DrawImage(page->canvas, rect, image);
-  } else {
-    page->canvas.Fill(rect, IconColor(IconNumber(icon)));
-  }
-}
-
-// An empty path if there is none.
-fs::path LocalDrawing::IconFile(std::int32_t number) const {
-  const std::string start = {static_cast<char>('0' + number / 10 % 10), static_cast<char>('0' + number % 10), '-'};
-  std::error_code error;
-  for (const fs::directory_entry& entry : fs::directory_iterator(IconFolder, error)) {
-    const fs::path name = entry.path().filename();
-    if (name.extension() == ".ico" && name.string().starts_with(start)) return entry.path();
-  }
-  return {};
+  if (size > 0 && (flags & kIconAsIs) == kIconAsIs) page->canvas.Fill(rect, IconColor(IconNumber(icon)));
 }
 
 DeviceContext LocalDrawing::MenuMeasureContext(std::int32_t dpi) {

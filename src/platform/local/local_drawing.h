@@ -1,7 +1,6 @@
 // Drawing on the local machine: a record of the calls, and pixels.
 #pragma once
 
-#include <filesystem>
 #include <map>
 #include <optional>
 #include <string>
@@ -33,9 +32,6 @@ class LocalDrawing final : public Drawing {
   std::map<std::int32_t, Color> Colors;  // by index; one that is missing is 0
   bool HighContrast = false;
   std::int32_t IconCount = 13;
-  // Where the icons' files are, each with its number of two digits and "-" ahead of its name: "03-folder.ico". An icon
-  // without a file is drawn as a block of IconColor.
-  std::filesystem::path IconFolder;
 
   // A context to draw on, of an empty canvas; it stays until it is closed.
   DeviceContext OpenContext(std::int32_t dpi, std::int32_t width, std::int32_t height, Color background);
@@ -52,6 +48,7 @@ class LocalDrawing final : public Drawing {
   static std::int32_t TextHeight(std::int32_t dpi);
   static std::int32_t IconNumber(IconHandle icon);
   static std::int32_t IconSize(IconHandle icon);
+  // An icon is drawn as a block of this colour.
   static Color IconColor(std::int32_t number);
 
   Color GetSysColor(std::int32_t index) override;
@@ -81,7 +78,6 @@ class LocalDrawing final : public Drawing {
   Page* Find(DeviceContext context);
   const Page& Look(DeviceContext context) const;
   static void DrawBlocks(Page& page, const std::wstring& seen, const Rect& clip, std::int32_t x, std::int32_t y);
-  std::filesystem::path IconFile(std::int32_t number) const;
 
   std::map<BrushHandle, Color> brushes_;
   BrushHandle lastBrush_ = 0x1000;

@@ -26,14 +26,8 @@ std::size_t TakeRoom(Faults& faults, std::size_t wanted) {
 
 class LocalOutputFile final : public OutputFile {
  public:
-  LocalOutputFile(const fs::path& place, std::wstring path, std::wstring folded, std::set<std::wstring>& written,
-                  Faults& faults)
-      : file_(place), path_(std::move(path)), folded_(std::move(folded)), written_(written), faults_(faults) {
-    if (file_.IsOpen()) written_.insert(folded_);
-  }
-  ~LocalOutputFile() override { LetGo(); }
-  LocalOutputFile(const LocalOutputFile&) = delete;
-  LocalOutputFile& operator=(const LocalOutputFile&) = delete;
+  LocalOutputFile(const fs::path& place, std::wstring path, Faults& faults)
+      : file_(place), path_(std::move(path)), faults_(faults) {}
 
   bool IsOpen() const { return file_.IsOpen(); }
 
@@ -48,20 +42,12 @@ class LocalOutputFile final : public OutputFile {
   // A close that fails lets go of the file all the same.
   bool Close() override {
     const bool struck = faults_.Strikes("Close", path_);
-    return LetGo() && !struck;
+    return file_.Close() && !struck;
   }
 
  private:
-  bool LetGo() {
-    if (!file_.IsOpen()) return false;
-    written_.erase(folded_);
-    return file_.Close();
-  }
-
   DiskFile file_;
   std::wstring path_;
-  std::wstring folded_;
-  std::set<std::wstring>& written_;
   Faults& faults_;
 };
 
@@ -96,14 +82,7 @@ std::optional<LocalFileSystem::Entry> LocalFileSystem::LookForFile(const std::ws
   return entry && entry->isFile ? entry : std::nullopt;
 }
 
-bool LocalFileSystem::HeldByOther(const Entry& entry) const {
-  return faults_.HeldOpen.contains(Folded(entry.name.Text()));
-}
-
-bool LocalFileSystem::Held(const std::wstring& path) const {
-  const std::wstring folded = Folded(path);
-  return faults_.HeldOpen.contains(folded) || written_.contains(folded);
-}
+bool LocalFileSystem::Held(const std::wstring& path) const { return faults_.HeldOpen.contains(Folded(path)); }
 
 bool LocalFileSystem::MayMakeFileAt(const Entry& entry) const {
   return !entry.name.IsRoot() && !entry.name.folderOnly && !entry.isFolder && !Held(entry) &&
@@ -160,7 +139,7 @@ bool LocalFileSystem::ReadWholeFile(const std::wstring& path, std::string& bytes
 
 bool LocalFileSystem::Load(const std::wstring& path, std::string& bytes) {
   const std::optional<Entry> entry = LookForFile(path);
-  return entry && !HeldByOther(*entry) && ReadDiskFile(entry->place, bytes);
+  return entry && !Held(*entry) && ReadDiskFile(entry->place, bytes);
 }
 
 std::unique_ptr<OutputFile> LocalFileSystem::CreateNewFile(const std::wstring& path) {
@@ -168,7 +147,7 @@ std::unique_ptr<OutputFile> LocalFileSystem::CreateNewFile(const std::wstring& p
   const std::optional<Entry> entry = Look(path);
   if (!entry || entry->Exists() || !MayMakeFileAt(*entry)) return nullptr;
   const std::wstring name = entry->name.Text();
-  auto file = std::make_unique<LocalOutputFile>(entry->place, path, Folded(name), written_, faults_);
+  auto file = std::make_unique<LocalOutputFile>(entry->place, path, faults_);
   if (!file->IsOpen()) return nullptr;
   // A file that was removed behind the machine's back may have left its attributes.
   attributes_.Forget(name);
@@ -202,7 +181,7 @@ bool LocalFileSystem::CopyFileA(const std::wstring& from, const std::wstring& to
   if (faults_.Strikes("CopyFileA", from)) return false;
   const std::optional<Entry> source = LookForFile(from);
   const std::optional<Entry> target = Look(to);
-  if (!source || !target || HeldByOther(*source) || source->IsSameAs(*target)) return false;
+  if (!source || !target || Held(*source) || source->IsSameAs(*target)) return false;
   if ((failIfExists && target->isFile) || !MayWriteAt(*target)) return false;
   std::string bytes;
   return ReadDiskFile(source->place, bytes) && PutBytes(bytes, *target) && Remember(*target, source->attributes);

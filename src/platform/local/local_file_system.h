@@ -2,7 +2,6 @@
 #pragma once
 
 #include <filesystem>
-#include <set>
 
 #include "platform/characters.h"
 #include "platform/file_system.h"
@@ -13,8 +12,6 @@
 
 namespace burrowmark {
 
-// A file that is being written can be read meanwhile, but not deleted, moved or replaced, as on the real system. It
-// must be let go of before the file system.
 class LocalFileSystem final : public FileSystem {
  public:
   // `folder` is the machine's; the drives and the faults must outlive this object.
@@ -71,7 +68,6 @@ class LocalFileSystem final : public FileSystem {
   // Nothing if the path can't be or the folder that it stands in doesn't exist.
   std::optional<Entry> Look(const std::wstring& path);
   std::optional<Entry> LookForFile(const std::wstring& path);
-  bool HeldByOther(const Entry& entry) const;
   bool Held(const Entry& entry) const { return Held(entry.name.Text()); }
   bool Held(const std::wstring& path) const;
   bool MayMakeFileAt(const Entry& entry) const;
@@ -85,7 +81,6 @@ class LocalFileSystem final : public FileSystem {
   DriveFolders& drives_;
   Faults& faults_;
   AttributeBook attributes_;
-  std::set<std::wstring> written_;  // files that are being written now, folded paths
 };
 
 }  // namespace burrowmark

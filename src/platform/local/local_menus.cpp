@@ -77,11 +77,6 @@ std::uint32_t LocalMenus::SelectedState() const {
   return hidesUnderlines ? kSelected + kNoAccelerator : kSelected;
 }
 
-void LocalMenus::ForgetHistory() {
-  for (const PopupView& popup : history_.popups) drawing_.CloseContext(popup.context);
-  history_ = {};
-}
-
 void LocalMenus::Play(PopupRun& run, const std::vector<MenuAction>& actions) {
   for (const MenuAction& action : actions) {
     if (!run.IsOpen()) user_.Complain("the menu closed before " + ToUtf8(action.title) + " could be done");
@@ -93,8 +88,7 @@ void LocalMenus::Play(PopupRun& run, const std::vector<MenuAction>& actions) {
 std::int32_t LocalMenus::TrackPopupMenu(MenuHandle menu, WindowHandle window) {
   if (showing_ || !tree_.Exists(menu) || window == 0 || window != windows_.Main()) return 0;
   const MenuActions actions = user_.TakeMenu();
-  ForgetHistory();
-  PopupRun run(tree_, windows_, drawing_, history_, window, SelectedState());
+  PopupRun run(tree_, windows_, drawing_, window, SelectedState());
   {
     const Raised raised(showing_);
     run.Open(menu);

@@ -28,8 +28,6 @@ class LocalMenus final : public Menus {
   // (its bar and the popup in it) among them.
   const std::vector<LocalMenuEntry>& Entries(MenuHandle menu) const;
   std::size_t LiveMenus() const { return tree_.Count(); }
-  // What the last TrackPopupMenu did. Contexts in it stay until the next one.
-  const PopupHistory& History() const { return history_; }
   // True while a popup is on the screen.
   bool IsShowing() const { return showing_; }
 
@@ -48,7 +46,6 @@ class LocalMenus final : public Menus {
 
  private:
   std::uint32_t SelectedState() const;
-  void ForgetHistory();
   void Play(PopupRun& run, const std::vector<MenuAction>& actions);
 
   MenuTree& tree_;
@@ -57,7 +54,6 @@ class LocalMenus final : public Menus {
   const LocalFacts& facts_;
   LocalUser& user_;
   Faults& faults_;
-  PopupHistory history_;
   bool showing_ = false;
   const std::vector<LocalMenuEntry> none_;
 };

@@ -14,10 +14,8 @@ constexpr std::int32_t kErrorInvalidHandle = 6;
 constexpr std::int32_t kErrorInvalidParameter = 87;
 constexpr std::int32_t kErrorBadPathName = 161;
 constexpr std::int32_t kErrorRegistryIoFailed = 1016;
-constexpr std::int32_t kErrorKeyDeleted = 1018;
 
 constexpr std::size_t kLongestKeyName = 255;
-constexpr std::size_t kLongestValueName = 16383;
 constexpr std::uint32_t kMayWrite = 2 | 4;  // the rights to set values and to make keys
 
 struct RootName {
@@ -35,10 +33,6 @@ const RootName* RootOf(RegistryKey key) {
   return root == std::end(kRoots) ? nullptr : root;
 }
 
-bool IsValueName(const std::wstring& name) {
-  return name.size() <= kLongestValueName && name.find(L'\0') == std::wstring::npos;
-}
-
 // Appends the names of `subKey` to `path`. Empty names, as behind a closing backslash, are passed over.
 std::int32_t AppendNames(std::wstring_view subKey, std::wstring& path) {
   if (subKey.starts_with(L'\\')) return kErrorBadPathName;
@@ -52,16 +46,6 @@ std::int32_t AppendNames(std::wstring_view subKey, std::wstring& path) {
   return kErrorSuccess;
 }
 
-std::wstring Clean(std::uint32_t type, std::wstring data) {
-  if (!IsRegistryText(type)) {
-    std::transform(data.begin(), data.end(), data.begin(),
-                   [](wchar_t c) { return static_cast<wchar_t>(static_cast<std::uint32_t>(c) & 0xFF); });
-  } else if (!data.empty() && data.back() != L'\0') {
-    data += L'\0';  // the system adds the NUL that a text lacks
-  }
-  return data;
-}
-
 }  // namespace
 
 LocalRegistry::LocalRegistry(const std::filesystem::path& folder, Faults& faults)
@@ -73,7 +57,6 @@ void LocalRegistry::Refresh() {
   if (!kept_.Refresh()) return;
   tree_ = RegistryFromText(kept_.Text());
   for (const RootName& root : kRoots) tree_[root.name].path = root.name;
-  for (auto& [handle, opened] : open_) opened.deleted = opened.deleted || !tree_.contains(Folded(opened.path));
 }
 
 std::int32_t LocalRegistry::Save() {
@@ -98,7 +81,6 @@ std::int32_t LocalRegistry::Usable(RegistryKey key, bool forWriting) const {
   if (RootOf(key) != nullptr) return kErrorSuccess;
   const OpenKey* opened = Opened(key);
   if (opened == nullptr) return kErrorInvalidHandle;
-  if (opened->deleted) return kErrorKeyDeleted;
   return forWriting && !opened->writable ? kErrorAccessDenied : kErrorSuccess;
 }
 
@@ -112,7 +94,7 @@ std::int32_t LocalRegistry::Locate(RegistryKey parent, const std::wstring& subKe
 RegistryKey LocalRegistry::Hand(const std::wstring& path, bool writable) {
   lastHandle_ += 4;
   const auto handle = static_cast<RegistryKey>(lastHandle_);
-  open_[handle] = {path, writable, false};
+  open_[handle] = {path, writable};
   return handle;
 }
 
@@ -196,11 +178,10 @@ std::int32_t LocalRegistry::RegSetValueExA(RegistryKey key, const std::wstring& 
   Refresh();
   const std::int32_t result = Usable(key, true);
   if (result != kErrorSuccess) return result;
-  if (!IsValueName(name)) return kErrorInvalidParameter;
   RegistryValue& value = Node(key).values[Folded(name)];
   if (value.name.empty()) value.name = name;
   value.type = type;
-  value.data = Clean(type, data);
+  value.data = data;
   return Save();
 }
 
@@ -223,7 +204,6 @@ std::int32_t LocalRegistry::RegDeleteKeyA(RegistryKey key, const std::wstring& n
   const bool isRoot = path.find(L'\\') == std::wstring::npos;
   if (isRoot || IsRefused(path) || HasKeysBelow(path)) return kErrorAccessDenied;
   tree_.erase(folded);
-  for (auto& [handle, opened] : open_) opened.deleted = opened.deleted || Folded(opened.path) == folded;
   return Save();
 }
 

@@ -36,7 +36,6 @@ class LocalRegistry final : public RegistryApi {
   struct OpenKey {
     std::wstring path;
     bool writable = false;
-    bool deleted = false;
   };
 
   void Refresh();

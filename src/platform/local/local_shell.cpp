@@ -72,7 +72,7 @@ bool LocalShell::WriteShellLink(const std::wstring& path, const ShellLink& link)
 
 std::int32_t LocalShell::mciSendStringA(const std::wstring& command) {
   MediaCommands.push_back(command);
-  return MediaResult;
+  return 0;
 }
 
 }  // namespace burrowmark

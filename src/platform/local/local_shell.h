@@ -38,7 +38,6 @@ class LocalShell final : public Shell {
   // What it answers.
   std::int32_t LaunchResult = 42;
   bool HelpOpens = true;
-  std::int32_t MediaResult = 0;
   bool HasTaskBar = true;
 
   // The first icon of the tray; none if there is none.

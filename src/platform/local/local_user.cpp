@@ -8,8 +8,6 @@
 namespace burrowmark {
 namespace {
 
-constexpr std::uint32_t kDoubleClick = 1;  // from the message of a button that comes up to the one of its second click
-
 std::uint32_t UpMessage(LocalUser::Button button) {
   return button == LocalUser::Button::kLeft ? kMessageLeftButtonUp : kMessageRightButtonUp;
 }
@@ -45,27 +43,9 @@ void LocalUser::MoveOverTray() { SendTray({kMessageMouseMove}); }
 
 void LocalUser::ClickTray(Button button) { SendTray({kMessageMouseMove, DownMessage(button), UpMessage(button)}); }
 
-void LocalUser::DoubleClickTray(Button button) {
-  SendTray(
-      {kMessageMouseMove, DownMessage(button), UpMessage(button), UpMessage(button) + kDoubleClick, UpMessage(button)});
-}
-
 void LocalUser::StartTaskBar() {
   shell_.HasTaskBar = true;
   Send(windows_.RegisterWindowMessageA(kTaskbarCreated), 0);
-  LetItRun();
-}
-
-void LocalUser::ChangeDpi(std::int32_t dpi) {
-  windows_.Dpi = dpi;
-  constexpr std::int32_t kHighWord = 0x10000;
-  Send(kMessageDpiChanged, dpi * kHighWord + dpi);
-  LetItRun();
-}
-
-void LocalUser::TryToEndSession() {
-  Send(kMessageQueryEndSession, 0);
-  Send(kMessageEndSession, 0);
   LetItRun();
 }
 

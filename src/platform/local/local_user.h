@@ -38,15 +38,10 @@ class LocalUser {
   enum class Button : std::uint8_t { kLeft, kRight };
   void MoveOverTray();
   void ClickTray(Button button);
-  void DoubleClickTray(Button button);
   void LoseTaskBar() { shell_.LoseTaskBar(); }
   // The task bar is there, for the first time or again.
   void StartTaskBar();
-  // The mouse goes to a screen of this scale.
-  void ChangeDpi(std::int32_t dpi);
-  // The session ends. The other one: every program was asked, and another one refused.
   void EndSession();
-  void TryToEndSession();
 
   // What happens in the next popup, and what is answered to the next box whose text must contain `part`. In order.
   // `meanwhile` runs while the box is open.

@@ -72,7 +72,6 @@ MenuHandle LocalWindows::MakeBar() {
 
 WindowHandle LocalWindows::CreateMainWindow(const std::wstring& title, MainWindowEvents& events) {
   if (faults_.Strikes("CreateMainWindow", title) || main_) return 0;
-  title_ = title;
   main_ = MainWindow{session_->AddWindow(*this), MakeBar(), &events, {}};
   return main_->handle;
 }

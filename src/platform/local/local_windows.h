@@ -56,7 +56,6 @@ class LocalWindows final : public WindowSystem, private LocalProcess {
   void Advance(std::int64_t milliseconds);
   // 0 without a main window.
   WindowHandle Main() const { return main_ ? main_->handle : 0; }
-  const std::wstring& Title() const { return title_; }
   MenuHandle MenuOf(WindowHandle window) const { return window != 0 && window == Main() ? main_->bar : 0; }
   WindowHandle Foreground() const { return session_->Foreground; }
   std::size_t Beeps() const { return beeps_; }
@@ -130,7 +129,6 @@ class LocalWindows final : public WindowSystem, private LocalProcess {
   Faults& faults_;
   std::int64_t processNumber_;
   std::optional<MainWindow> main_;
-  std::wstring title_;
   LocalPeers peers_;
   std::deque<std::function<void()>> queue_;
   std::multimap<std::int64_t, std::function<void()>> later_;  // by the time when it falls due

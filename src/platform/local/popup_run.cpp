@@ -16,12 +16,6 @@ constexpr std::int32_t kCheckWidth = 15;
 constexpr std::int32_t kPlainHeight = 19;
 constexpr std::int32_t kPlainMargin = 24;
 
-// Answers to kMessageMenuChar, in the high word (winuser.h).
-constexpr std::int64_t kWordSize = 0x10000;
-constexpr std::int64_t kCharClose = 1;
-constexpr std::int64_t kCharExecute = 2;
-constexpr std::int64_t kCharSelect = 3;
-
 std::int32_t Scaled(std::int32_t pixels, std::int32_t dpi) { return pixels * dpi / kDesignDpi; }
 
 std::int32_t CountOf(const std::vector<LocalMenuEntry>* entries) {
@@ -32,12 +26,11 @@ std::int32_t ItemNumber(const LocalMenuEntry& entry) { return entry.popup != 0 ?
 
 }  // namespace
 
-PopupRun::PopupRun(MenuTree& tree, LocalWindows& windows, LocalDrawing& drawing, PopupHistory& history,
-                   WindowHandle window, std::uint32_t selectedState)
+PopupRun::PopupRun(MenuTree& tree, LocalWindows& windows, LocalDrawing& drawing, WindowHandle window,
+                   std::uint32_t selectedState)
     : tree_(tree),
       windows_(windows),
       drawing_(drawing),
-      history_(history),
       window_(window),
       selectedState_(selectedState),
       cancelModes_(windows.CancelledModes()) {}
@@ -47,8 +40,7 @@ void PopupRun::Open(MenuHandle menu) {
   PopupView view;
   view.menu = menu;
   LayOut(view);
-  history_.popups.push_back(view);
-  levels_.push_back(history_.popups.size() - 1);
+  levels_.push_back(view);
   for (std::int32_t i = 0; i < CountOf(tree_.Entries(menu)); ++i) Draw(view, i);
   LetOthersRun();
 }
@@ -62,7 +54,6 @@ void PopupRun::Measure(MenuHandle menu) {
       WindowMessage message = MessageTo(window_, kMessageMeasureItem, 0, 0);
       message.measure = &record;
       windows_.Deliver(message);
-      history_.measurings.push_back({menu, i, record});
     } else {
       record.itemWidth = drawing_.TextWidth(entry.text, windows_.Dpi) + Scaled(kPlainMargin, windows_.Dpi);
       record.itemHeight = Scaled(kPlainHeight, windows_.Dpi);
@@ -96,12 +87,10 @@ void PopupRun::Draw(const PopupView& view, std::int32_t position) {
                           .itemState = view.selected == position ? selectedState_ : 0,
                           .context = view.context,
                           .rect = view.rects[index]};
-  const MenuHandle menu = view.menu;  // the view may move while the program draws
   drawing_.StartDrawing(record.context);
   WindowMessage message = MessageTo(window_, kMessageDrawItem, 0, 0);
   message.draw = &record;
   windows_.Deliver(message);
-  history_.drawings.push_back({menu, position, record, drawing_.Calls(record.context)});
 }
 
 void PopupRun::Select(std::int32_t position) {
@@ -115,9 +104,13 @@ void PopupRun::Select(std::int32_t position) {
 
 const LocalMenuEntry* PopupRun::Selected() { return tree_.Entry(Top().menu, Top().selected); }
 
+void PopupRun::CloseFrom(std::size_t level) {
+  for (; levels_.size() > level; levels_.pop_back()) drawing_.CloseContext(levels_.back().context);
+}
+
 std::optional<PopupRun::Spot> PopupRun::FindTitle(const std::wstring& title) const {
   for (std::size_t level = levels_.size(); level > 0; --level) {
-    const std::vector<LocalMenuEntry>* entries = tree_.Entries(history_.popups[levels_[level - 1]].menu);
+    const std::vector<LocalMenuEntry>* entries = tree_.Entries(levels_[level - 1].menu);
     if (entries == nullptr) continue;
     const auto found = std::find_if(entries->begin(), entries->end(), [&title](const LocalMenuEntry& entry) {
       return entry.text == title || WithoutPrefixes(entry.text) == title;
@@ -130,7 +123,7 @@ std::optional<PopupRun::Spot> PopupRun::FindTitle(const std::wstring& title) con
 bool PopupRun::MoveMouseTo(const std::wstring& title) {
   const std::optional<Spot> spot = FindTitle(title);
   if (!spot) return false;
-  levels_.resize(spot->level + 1);
+  CloseFrom(spot->level + 1);
   Select(spot->position);
   return true;
 }
@@ -155,7 +148,7 @@ bool PopupRun::Perform(const MenuAction& action) {
       if (action.what) action.what();
       break;
     case MenuAction::Kind::kCancel:
-      levels_.clear();
+      CloseFrom(0);
       break;
   }
   LetOthersRun();
@@ -211,25 +204,10 @@ std::int32_t PopupRun::NextStartingWith(wchar_t letter) {
   return -1;
 }
 
-// A program that has nothing to say of a letter leaves the search to the texts of the entries.
 void PopupRun::Type(wchar_t letter) {
-  WindowMessage message =
-      MessageTo(window_, kMessageMenuChar, static_cast<std::int64_t>(letter) + kMenuPopup * kWordSize, Top().menu);
-  const MessageResult result = windows_.Deliver(message);
-  if (result.handled) return ObeyMenuChar(result.value);
   const std::int32_t next = NextStartingWith(letter);
   if (next < 0) return windows_.Beep();
   Select(next);
-}
-
-void PopupRun::ObeyMenuChar(std::int64_t value) {
-  const std::int64_t answer = value / kWordSize;
-  const auto position = static_cast<std::int32_t>(value % kWordSize);
-  if (answer == kCharClose) return CloseLevel();
-  if (answer != kCharSelect && answer != kCharExecute) return windows_.Beep();
-  if (tree_.Entry(Top().menu, position) == nullptr) return;
-  Select(position);
-  if (answer == kCharExecute) Execute(true);
 }
 
 void PopupRun::OpenSelected(bool byKey) {
@@ -243,15 +221,15 @@ void PopupRun::Execute(bool byKey) {
   const LocalMenuEntry* entry = Selected();
   if (entry != nullptr && entry->popup != 0) return OpenSelected(byKey);
   if (entry != nullptr) chosen_ = entry->id;
-  levels_.clear();
+  CloseFrom(0);
 }
 
 // The program's messages go on while a menu is open. One of them may end the menu, or take it away.
 void PopupRun::LetOthersRun() {
   windows_.DoEvents();
-  const bool gone = std::any_of(levels_.begin(), levels_.end(),
-                                [this](std::size_t level) { return !tree_.Exists(history_.popups[level].menu); });
-  if (gone || windows_.Main() != window_ || windows_.CancelledModes() != cancelModes_) levels_.clear();
+  const bool gone =
+      std::any_of(levels_.begin(), levels_.end(), [this](const PopupView& view) { return !tree_.Exists(view.menu); });
+  if (gone || windows_.Main() != window_ || windows_.CancelledModes() != cancelModes_) CloseFrom(0);
 }
 
 }  // namespace burrowmark

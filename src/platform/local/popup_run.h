@@ -13,7 +13,7 @@
 
 namespace burrowmark {
 
-// A popup as it is, or was, on the screen.
+// A popup as it is on the screen.
 struct PopupView {
   MenuHandle menu = 0;
   DeviceContext context = 0;
@@ -21,35 +21,16 @@ struct PopupView {
   std::int32_t selected = -1;  // position; -1 for none
 };
 
-// One drawing of one entry by the program, with the calls that it made.
-struct EntryDrawing {
-  MenuHandle menu = 0;
-  std::int32_t position = 0;
-  DrawRecord record;
-  std::vector<DrawCall> calls;
-};
-
-// One measuring, with its answer.
-struct EntryMeasuring {
-  MenuHandle menu = 0;
-  std::int32_t position = 0;
-  MeasureRecord record;
-};
-
-// What happened on the screen, in order.
-struct PopupHistory {
-  std::vector<PopupView> popups;
-  std::vector<EntryMeasuring> measurings;
-  std::vector<EntryDrawing> drawings;
-};
-
 // Owner-drawn entries are measured when a popup opens for the first time after they or the scale changed, and drawn by
 // the window's hook on a canvas that has the colour of menus.
 class PopupRun {
  public:
   // All must outlive this object. `selectedState` is what an entry's state is while it is selected.
-  PopupRun(MenuTree& tree, LocalWindows& windows, LocalDrawing& drawing, PopupHistory& history, WindowHandle window,
+  PopupRun(MenuTree& tree, LocalWindows& windows, LocalDrawing& drawing, WindowHandle window,
            std::uint32_t selectedState);
+  ~PopupRun() { CloseFrom(0); }
+  PopupRun(const PopupRun&) = delete;
+  PopupRun& operator=(const PopupRun&) = delete;
 
   void Open(MenuHandle menu);
   // False if there is no entry of this title to click on.
@@ -64,7 +45,7 @@ class PopupRun {
     std::int32_t position = 0;
   };
 
-  PopupView& Top() { return history_.popups[levels_.back()]; }
+  PopupView& Top() { return levels_.back(); }
   const LocalMenuEntry* Selected();
   std::optional<Spot> FindTitle(const std::wstring& title) const;
   std::int32_t NextStartingWith(wchar_t letter);
@@ -78,22 +59,21 @@ class PopupRun {
   void RightClick();
   void Press(MenuKey key);
   void Type(wchar_t letter);
-  // What the program answered to a letter.
-  void ObeyMenuChar(std::int64_t value);
   void OpenSelected(bool byKey);
   // Opens the selected entry if it is a group, otherwise chooses it.
   void Execute(bool byKey);
-  void CloseLevel() { levels_.pop_back(); }
+  // Closes the popups from this level on.
+  void CloseFrom(std::size_t level);
+  void CloseLevel() { CloseFrom(levels_.size() - 1); }
   void LetOthersRun();
 
   MenuTree& tree_;
   LocalWindows& windows_;
   LocalDrawing& drawing_;
-  PopupHistory& history_;
   WindowHandle window_;
   std::uint32_t selectedState_;
   std::size_t cancelModes_;
-  std::vector<std::size_t> levels_;  // open popups from the root on, as places in the history
+  std::vector<PopupView> levels_;  // open popups from the root on
   std::optional<std::int32_t> chosen_;
 };
 

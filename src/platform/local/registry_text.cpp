@@ -21,12 +21,8 @@ struct TypeWord {
   std::wstring_view word;
 };
 
-constexpr TypeWord kTypeWords[] = {{kRegSz, L"text"},
-                                   {kRegExpandSz, L"expand"},
-                                   {kRegMultiSz, L"list"},
-                                   {kRegBinary, L"bytes"},
-                                   {kRegDword, L"number"}};
-constexpr std::wstring_view kOtherType = L"type";
+constexpr TypeWord kTypeWords[] = {
+    {kRegSz, L"text"}, {kRegExpandSz, L"expand"}, {kRegBinary, L"bytes"}, {kRegDword, L"number"}};
 constexpr std::wstring_view kDigits = L"0123456789ABCDEF";
 
 bool MustEscape(wchar_t c) {
@@ -117,14 +113,10 @@ std::wstring ByteDigits(std::wstring_view bytes) {
 }
 
 std::wstring ValueLine(const RegistryValue& value) {
-  const std::wstring name = L'"' + Escaped(value.name) + L"\" ";
   const auto* known = std::find_if(std::begin(kTypeWords), std::end(kTypeWords),
                                    [&value](const TypeWord& row) { return row.type == value.type; });
-  const bool oddNumber = value.type == kRegDword && value.data.size() != kNumberBytes;
-  if (known == std::end(kTypeWords) || oddNumber) {
-    return name + std::wstring(kOtherType) + L' ' + std::to_wstring(value.type) + ByteDigits(value.data);
-  }
-  const std::wstring start = name + std::wstring(known->word);
+  if (known == std::end(kTypeWords)) return {};
+  const std::wstring start = L'"' + Escaped(value.name) + L"\" " + std::wstring(known->word);
   if (IsRegistryText(value.type)) return start + L" \"" + Escaped(value.data) + L'"';
   if (value.type == kRegDword) return start + L' ' + std::to_wstring(NumberOf(value.data));
   return start + ByteDigits(value.data);
@@ -152,20 +144,12 @@ std::optional<RegistryValue> ReadValue(std::wstring_view line) {
   if (!TakeWord(line, L"\"")) return std::nullopt;
   const std::optional<std::wstring> name = TakeEscaped(line, L'"');
   if (!name || !TakeWord(line, L" ")) return std::nullopt;
-  std::optional<std::uint32_t> type;
-  std::optional<std::wstring> data;
-  if (TakeWord(line, kOtherType) && TakeWord(line, L" ")) {
-    type = TakeNumber(line, 10);
-    data = TakeBytes(line);
-  } else {
-    const auto* known = std::find_if(std::begin(kTypeWords), std::end(kTypeWords),
-                                     [&line](const TypeWord& row) { return TakeWord(line, row.word); });
-    if (known == std::end(kTypeWords)) return std::nullopt;
-    type = known->type;
-    data = TakeData(line, *type);
-  }
-  if (!type || !data || !line.empty()) return std::nullopt;
-  return RegistryValue{*name, *type, *data};
+  const auto* known = std::find_if(std::begin(kTypeWords), std::end(kTypeWords),
+                                   [&line](const TypeWord& row) { return TakeWord(line, row.word); });
+  if (known == std::end(kTypeWords)) return std::nullopt;
+  const std::optional<std::wstring> data = TakeData(line, known->type);
+  if (!data || !line.empty()) return std::nullopt;
+  return RegistryValue{*name, known->type, *data};
 }
 
 }  // namespace

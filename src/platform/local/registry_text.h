@@ -23,7 +23,8 @@ struct RegistryNode {
 using RegistryTree = std::map<std::wstring, RegistryNode>;
 
 // One line for each key, "[HKEY_CURRENT_USER\Software]", and one for each of its values below it: the name in quotes,
-// the type as a word (or as "type" and its number) and the data. What would break a line or a quote is written as
+// the type as a word and the data; a value of another type is left out. What would break a line or a quote is written
+// as
 // ^{code}, with the character's code in hexadecimal digits; so is ^ itself.
 std::string RegistryToText(const RegistryTree& tree);
 // Lines that aren't of this form are passed over.

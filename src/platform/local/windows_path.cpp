@@ -12,9 +12,6 @@ constexpr std::wstring_view kSeparators = L"\\/";
 constexpr std::wstring_view kForbidden = L"<>:\"|?*";
 constexpr std::wstring_view kDotAndBlank = L". ";
 constexpr std::size_t kLongestName = 255;
-// Names of devices: with or without an extension they never mean a file.
-constexpr std::wstring_view kDevices[] = {L"CON", L"PRN", L"AUX", L"NUL"};
-constexpr std::wstring_view kNumberedDevices[] = {L"COM", L"LPT"};
 
 bool IsSeparator(wchar_t c) { return kSeparators.find(c) != std::wstring_view::npos; }
 
@@ -23,19 +20,8 @@ bool IsLetter(wchar_t c) {
   return capital >= L'A' && capital <= L'Z';
 }
 
-bool IsDevice(std::wstring_view name) {
-  std::wstring_view stem = name.substr(0, name.find(L'.'));
-  while (stem.ends_with(L' ')) stem.remove_suffix(1);
-  const auto isStem = [stem](std::wstring_view device) { return EqualIgnoringCase(stem, device); };
-  if (std::any_of(std::begin(kDevices), std::end(kDevices), isStem)) return true;
-  if (stem.size() != 4 || stem[3] < L'1' || stem[3] > L'9') return false;
-  stem.remove_suffix(1);
-  return std::any_of(std::begin(kNumberedDevices), std::end(kNumberedDevices),
-                     [stem](std::wstring_view device) { return EqualIgnoringCase(stem, device); });
-}
-
 bool CanBeName(std::wstring_view name) {
-  return name.size() <= kLongestName && !IsDevice(name) && std::all_of(name.begin(), name.end(), [](wchar_t c) {
+  return name.size() <= kLongestName && std::all_of(name.begin(), name.end(), [](wchar_t c) {
            return c >= L' ' && kForbidden.find(c) == std::wstring_view::npos;
          });
 }
