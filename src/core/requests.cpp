@@ -40,6 +40,7 @@ bool Requests::AtRest() const { return busy_.empty() && !windows_.AnyInGesture()
 
 void Requests::Add(std::function<void()> request) {
   waiting_.push_back(std::move(request));
+  system_.Post([] {});  // what came by a call of the system's doesn't wake the loop
   if (!AtRest()) bringForward_();
 }
 

@@ -60,7 +60,7 @@ class Start : public testing::Test {
       store.AddNewMenuItem({.Caption = group, .OwnerName = MIT_GROUP_USER, .SubMenu = true});
     }
     store.AddNewMenuItem({.Caption = title, .OwnerName = MIT_GROUP_USER, .FolderPath = L"C:\\Windows"});
-    ConfigFileWrite(app, store, L"C:\\made.bwmk", false);
+    ConfigFileWriteAs(app, app.MainDocument, L"C:\\made.bwmk");
     return machine_.BytesOf(L"C:\\made.bwmk");
   }
 
@@ -121,7 +121,10 @@ TEST_F(Start, AFileThatCannotBeReadIsNotOverwritten) {
       machine_.user.NextBox(L"does not exist", kAnswerYes);
       machine_.user.ClickTray(LocalUser::Button::kLeft);
     }});
-    EXPECT_EQ(machine_.BytesOf(kBeside), bytes);
+    const std::wstring copy = L"C:\\Program Files\\Burrowmark\\default (unreadable).bwmk";
+    EXPECT_EQ(machine_.BytesOf(copy), bytes);
+    EXPECT_NE(machine_.BytesOf(kBeside), bytes);
+    machine_.files.DeleteFileA(copy);
   }
 }
 
@@ -150,7 +153,13 @@ TEST_F(Start, ADeletionIsWrittenUnlessTheFileCannotBe) {
     EXPECT_TRUE(machine_.shell.Launches.empty());
   };
   machine_.files.SetFileAttributesA(kBeside, kFileReadOnly);
-  Run({choose});
+  Run({[&] {
+    machine_.user.NextMenu({L"Mine", L"Found"});
+    machine_.user.NextBox(L"Path 'D:\\Windows' does not exist", kAnswerYes);
+    machine_.user.NextBox(L"Error saving configuration file default.bwmk\r\nFile is read-only.", kAnswerOk);
+    machine_.user.ClickTray(LocalUser::Button::kLeft);
+    EXPECT_NE(Menu().find(L"Mine"), std::wstring::npos);  // it is still there
+  }});
   EXPECT_EQ(machine_.BytesOf(kBeside), bytes);
   machine_.files.SetFileAttributesA(kBeside, 0);
   Run({choose});
@@ -237,7 +246,6 @@ TEST_F(Start, AnEditorWithChangesCanStopTheEndOfTheProgram) {
          EXPECT_EQ(machine_.BytesOf(L"C:\\other.bwmk").find("First"), std::string::npos);
          machine_.user.EndSession();  // nobody is asked then
          EXPECT_NE(machine_.BytesOf(L"C:\\other.bwmk").find("First"), std::string::npos);
-         machine_.user.NextBox(L"Do you want to save the changes you made to other.bwmk?", kAnswerNo);
        }});
   EXPECT_EQ(machine_.BytesOf(kBeside).find("First"), std::string::npos);
 }
@@ -251,27 +259,9 @@ TEST_F(Start, ExitReachesAProgramWhoseMenuIsOpen) {
   EXPECT_EQ(machine_.windows.Main(), 0);
 }
 
-TEST_F(Start, TheCommandLineOfTheFirstProcessIsObeyed) {
+TEST_F(Start, AnExitWithoutAnInstanceTouchesNothing) {
   RunBurrowmark(machine_.platform(), L"/EXIT");
-  EXPECT_EQ(machine_.windows.Main(), 0);
-}
-
-TEST(CommandLine, CommandsReachTheWindowsThatAreOpen) {
-  test::ScratchMachine scratch;
-  Application& app = scratch.app;
-  std::wstring calls;
-  app.Calls.BringToFront = [&](SingleWindow window) {
-    calls += window == SingleWindow::kOrganize ? L"front " : L"dialog ";
-  };
-  app.Calls.ShowFolderReport = [&](const std::wstring& folder) { calls += L"report(" + folder + L") "; };
-  app.Calls.UnloadOptions = [&] { calls += L"options "; };
-  for (const SingleWindow open : {SingleWindow::kOrganize, SingleWindow::kAddModify, SingleWindow::kOptions}) {
-    app.IsOpen(open) = true;
-    ProcessCommand(app, false, L"/ADD C:\\y");
-  }
-  ProcessCommand(app, false, L"/FR \"C:\\z\"");
-  for (const wchar_t* unknown : {L"/of", L"/OF ", L""}) ProcessCommand(app, false, unknown);
-  EXPECT_EQ(calls, L"front front dialog options front dialog options report(C:\\z) options options options ");
+  EXPECT_FALSE(machine_.files.FileExists(kBeside));
 }
 
 }  // namespace

@@ -105,15 +105,16 @@ TEST_F(System, AFirstStartHasGeneralAndAppearanceOnAndAdvancedOff) {
   app_.GC[General::kAskBeforeDeleting] = app_.AC[Appearance::kRedSelection] = false;
   app_.ADVC[Advanced::kHotKeys] = true;
   LoadSettings(app_);
-  EXPECT_EQ(std::count(app_.GC.begin(), app_.GC.end(), true), 3);
-  EXPECT_EQ(std::count(app_.AC.begin(), app_.AC.end(), true), 7);
-  EXPECT_EQ(std::count(app_.ADVC.begin(), app_.ADVC.end(), true), 0);
+  EXPECT_EQ(app_.GC, SettingValues<General>(true));
+  EXPECT_EQ(app_.AC, SettingValues<Appearance>(true));
+  EXPECT_EQ(app_.ADVC, SettingValues<Advanced>(false));
 }
 
 TEST_F(System, WhatIsSavedIsLoadedAndStoredAsNumbers) {
   app_.AppCommand = L"\"C:\\x\\burrowmark.exe\"";
   for (const bool on : {true, false}) {
-    app_.GC = {on, !on, on};
+    app_.GC[General::kAskBeforeDeleting] = on;
+    app_.GC[General::kAskForDeletingDead] = !on;
     app_.AC[Appearance::kRedSelection] = on;
     app_.ADVC[Advanced::kStartWithSession] = app_.ADVC[Advanced::kHotKeys] = on;
     SaveSettings(app_);

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "core/hot_keys.h"
 #include "core/registry.h"
 #include "core/registry_keys.h"
 #include "groups/special_folders.h"
@@ -86,7 +87,7 @@ TEST_F(SystemFolders, TheGroupGoesAheadOfTheDrivesAndGoesWhole) {
   EXPECT_EQ(TitlesUnder(store_, kRootOwner), L"Help  System Folders Drives  Options Organize Folders");
   const ItemRef fonts = store_.CaptionExists2(L"Fonts", MIT_PATHS_SYSTEM_W, false, L"");
   fonts->KeyboardCode = 50;
-  app_.HotKeyItems = {fonts};
+  RefreshHotKeys(app_, app_.MainDocument.Store);
   RemoveSystemFolders(app_, store_);
   EXPECT_EQ(test::NamesOf(store_), before);
   EXPECT_TRUE(app_.HotKeyItems.Items.empty());

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "core/hot_keys.h"
+#include "core/menu_entries.h"
 #include "tests/support/menu_scene.h"
 
 namespace burrowmark {
@@ -15,12 +16,11 @@ constexpr auto kRight = LocalUser::Button::kRight;
 class MenuInUse : public testing::Test {
  protected:
   MenuInUse() {
-    app_.Calls.SaveMainStore = [this] { ++saves_; };
-    app_.Calls.BringToFront = [this](SingleWindow window) { forward_ = window; };
-    app_.Calls.ProcessCommand = [this](bool FromMenu, const std::wstring& Command) {
-      commands_ += (FromMenu ? L"menu:" : L"text:") + Command + L";";
+    app_.Calls.OpenEditor = [this] { ++editorOpened_; };
+    app_.Calls.DeleteShortcut = [this](const std::shared_ptr<clsMenuCollection>& store, const ItemRef& item) {
+      RemoveEntries(app_, *store, [&item](const clsMenuItem& entry) { return &entry == item.get(); });
+      ++deleted_;
     };
-    app_.MainStoreFromConfigFile = true;
     app_.AC[Appearance::kDrives] = false;  // the drives have a test of their own
     scene_.AddPersonal();
     scene_.AddShortcut(L"live", L"Live", L"C:\\live");
@@ -46,9 +46,8 @@ class MenuInUse : public testing::Test {
   LocalMachine& machine_ = scene_.machine;
   LocalUser& user_ = machine_.user;
   Application& app_ = scene_.app;
-  int saves_ = 0;
-  SingleWindow forward_ = SingleWindow::kCount;
-  std::wstring commands_;
+  int deleted_ = 0;
+  int editorOpened_ = 0;
 };
 
 TEST_F(MenuInUse, AChosenShortcutOpensItsFolderAndIsStamped) {
@@ -67,11 +66,11 @@ TEST_F(MenuInUse, AChosenShortcutOpensItsFolderAndIsStamped) {
 
 TEST_F(MenuInUse, NeitherADriveNorTheMenuIsOpenedWithATestOfPaths) {
   app_.MainStore().AddNewMenuItem({.Caption = L"Q",
-                                  .OwnerName = kRootOwner,
-                                  .FolderPath = L"Q:\\",
-                                  .ItemType = MIT_DRIVE,
-                                  .OpenType = MIT_PATH_EXPLORER,
-                                  .DriveType = 5});
+                                   .OwnerName = kRootOwner,
+                                   .FolderPath = L"Q:\\",
+                                   .ItemType = MIT_DRIVE,
+                                   .OpenType = MIT_PATH_EXPLORER,
+                                   .DriveType = 5});
   Start();
   machine_.faults.Clear();
   Choose({L"Q"});
@@ -88,26 +87,11 @@ TEST_F(MenuInUse, ADeadShortcutAsksAndYesTakesItOutOfMenuAndFile) {
   for (const std::int32_t answer : {kAnswerNo, kAnswerYes}) {
     user_.NextBox(L"Path 'C:\\gone' does not exist", answer);
     Choose({L"Personal", L"Dead"});
-    EXPECT_EQ(saves_, answer == kAnswerYes ? 1 : 0);
     EXPECT_EQ(app_.MainStore().ItemExists(L"dead"), answer == kAnswerNo);
   }
   EXPECT_EQ(scene_.NativeTexts(), L"Help - Personal[Live] - Options Organize Folders");
   EXPECT_EQ(scene_.WrongNumbers(), "");
   EXPECT_EQ(Opened(), L"");
-}
-
-TEST_F(MenuInUse, TheFileIsLeftAloneWhileTheEditorIsOpenOrTheTreeIsNotTheFiles) {
-  Start();
-  for (const bool editing : {true, false}) {
-    app_.IsOpen(SingleWindow::kOrganize) = editing;
-    app_.MainStoreFromConfigFile = editing;
-    const ItemRef live = app_.MainStore().GetMenuItemFromName(editing ? L"dead" : L"live");
-    live->FolderPath = L"C:\\gone";
-    user_.NextBox(L"C:\\gone", kAnswerYes);
-    EXPECT_FALSE(OpenMenuItem(app_, live));
-  }
-  EXPECT_EQ(scene_.NativeTexts(), L"Help - Personal[] - Options Organize Folders");
-  EXPECT_EQ(saves_, 0);
 }
 
 TEST_F(MenuInUse, OpenAllOpensTheLivingOfItsLevelAndAsksForEachOfTheDead) {
@@ -117,16 +101,13 @@ TEST_F(MenuInUse, OpenAllOpensTheLivingOfItsLevelAndAsksForEachOfTheDead) {
   scene_.AddShortcut(L"zlast", L"Z", L"C:\\z");
   app_.MainStore().AddNewMenuItem({.OwnerName = MIT_GROUP_USER, .Name = L"all", .ItemType = MIT_OPENALL});
   Start();
-  bool second = true;
-  user_.NextBox(L"C:\\gone'", kAnswerYes,
-                [&] { second = OpenAllMenuItem(app_, app_.MainStore().GetMenuItemFromName(L"all")); });
+  user_.NextBox(L"C:\\gone'", kAnswerYes);
   user_.NextBox(L"C:\\gone2'", kAnswerYes);
   Choose({L"Personal", L"Open-All"});
-  EXPECT_FALSE(second);  // one walk at a time
   EXPECT_EQ(Opened(), L"C:\\live;C:\\z;");
   EXPECT_EQ(scene_.NativeTexts(), L"Help - Personal[Group[Inner] Live Z Open-All] - Options Organize Folders");
   EXPECT_GT(app_.MainStore().GetMenuItemFromName(L"zlast")->TimeAccessed, 0);
-  EXPECT_EQ(saves_, 2);
+  EXPECT_EQ(deleted_, 2);
 }
 
 TEST_F(MenuInUse, AHotKeyOpensEveryItemOfItsCode) {
@@ -139,27 +120,24 @@ TEST_F(MenuInUse, AHotKeyOpensEveryItemOfItsCode) {
   RefreshHotKeys(app_, app_.MainDocument.Store);
   EXPECT_TRUE(OpenHotKeyItem(app_, 53));
   EXPECT_EQ(Opened(), L"C:\\live;C:\\inner;");
-  user_.NextBox(L"C:\\gone", kAnswerYes);
   EXPECT_FALSE(OpenHotKeyItem(app_, 54));
-  ASSERT_EQ(app_.HotKeyItems.Items.size(), 2U);
-  EXPECT_EQ(app_.HotKeyItems.Items[0], app_.MainStore().GetMenuItemFromName(L"live"));
+  user_.NextBox(L"C:\\gone", kAnswerYes);  // when the program is at rest
+  machine_.windows.DoEvents();
+  EXPECT_EQ(deleted_, 1);
 }
 
 TEST_F(MenuInUse, FixedEntriesGoTheirOwnWays) {
   Start();
   Choose({L"Organize Folders"});
-  EXPECT_EQ(commands_, L"menu:;");
+  EXPECT_EQ(editorOpened_, 1);
   bool shown = false;
   app_.Calls.ShowOptions = [&](clsMenuCollection& store, bool FromMainMenu) {
-    EXPECT_EQ(&store, app_.MainStore.get());
-    EXPECT_TRUE(FromMainMenu);
-    EXPECT_FALSE(ShowOptions(app_, store, true));  // it is open
+    EXPECT_TRUE(FromMainMenu && app_.IsMainStore(store));
     shown = true;
     return true;
   };
   Choose({L"Options"});
   EXPECT_TRUE(shown);
-  EXPECT_FALSE(app_.IsOpen(SingleWindow::kOptions));
   user_.NextBox(L"Burrowmark help file is missing. Unable to display help.", kAnswerOk);
   Choose({L"Help"});
   machine_.AddFile(app_.HelpFile, "x");
@@ -182,18 +160,6 @@ TEST_F(MenuInUse, ARightClickOnACompactDiscOpensItsTrayAndClosesTheMenu) {
   scene_.Choose(MenuActions().Click(L"Personal").RightClick(L"Live").Cancel());
   EXPECT_EQ(machine_.shell.MediaCommands.size(), 4U);
   EXPECT_EQ(Opened(), L"");
-}
-
-TEST_F(MenuInUse, AnOpenWindowComesForwardInsteadOfTheMenu) {
-  Start();
-  // Each goes ahead of those before it.
-  for (const SingleWindow window :
-       {SingleWindow::kOrganize, SingleWindow::kTip, SingleWindow::kProperties, SingleWindow::kOptions}) {
-    app_.IsOpen(window) = true;
-    user_.ClickTray(window == SingleWindow::kTip ? kRight : kLeft);
-    EXPECT_EQ(forward_, window);
-  }
-  user_.MoveOverTray();
 }
 
 TEST_F(MenuInUse, TheTrayIconIsTriedAgainAndComesBackWithTheTaskBar) {

@@ -30,7 +30,7 @@ TEST_F(MenuSetup, AnEmptyStoreLeavesTheDummyAndTheFirstEntryReplacesIt) {
   scene_.AddShortcut(L"S", L"Only", L"", kRootOwner);
   scene_.menu.Build({});
   EXPECT_EQ(scene_.NativeTexts(), L"Only");
-  ClearMenu(app_);
+  ReplaceMainStore(app_, std::make_shared<clsMenuCollection>(scene_.machine.clock));
   EXPECT_EQ(scene_.NativeTexts(), L"Dummy");
 }
 

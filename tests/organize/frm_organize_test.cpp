@@ -19,22 +19,25 @@ class Organize : public testing::Test {
  protected:
   std::wstring Layout(const std::wstring& name) { return scene_.Registered(kLayoutKey, name); }
   void SetLayout(const std::wstring& name, const std::wstring& text) { scene_.Register(kLayoutKey, name, text); }
-  bool IsClosed() const { return !form_.Loaded(); }
+  frmOrganize& form() { return scene_.form(); }
+  bool IsClosed() { return !form().Loaded(); }
   // A change as an edit makes it.
   void Change(const std::wstring& title = L"Changed") {
-    form_.WorkCollection->AddNewMenuItem({.Caption = title, .OwnerName = MIT_GROUP_USER, .FolderPath = L"C:\\Beta"});
-    form_.Changed = true;
+    form().WorkCollection()->AddNewMenuItem({.Caption = title, .OwnerName = MIT_GROUP_USER, .FolderPath = L"C:\\Beta"});
+    form().Edited.Changed = true;
   }
   bool FileHas(const std::wstring& path, const std::string& text) {
     return machine_.BytesOf(path).find(text) != std::string::npos;
   }
   bool MenuHas(const std::wstring& text) { return scene_.NativeTexts().find(text) != std::wstring::npos; }
-  void WriteOther() { ConfigFileWrite(app_, app_.MainStore(), kOther, false); }
+  void WriteOther() {
+    Document other = app_.MainDocument;
+    ConfigFileWriteAs(app_, other, kOther);
+  }
 
   test::OrganizeScene scene_;
   LocalMachine& machine_ = scene_.machine;
   Application& app_ = scene_.app;
-  frmOrganize& form_ = scene_.form;
 };
 
 class OpenOrganize : public Organize {
@@ -149,10 +152,10 @@ TEST_F(Organize, EveryKindOfTargetHasItsCommands) {
     const wchar_t* buttons;
   };
   const Case cases[] = {
-      {L"Organized Folders", L"...|...|.|+++", L"+|++|...|...|.|.", L"WindowsExplorer"},
-      {L"Personal", L"...|.+.|.|+++", L"+|++|...|...|+|+|+", L"New Up WindowsExplorer Properties"},
-      {L"System Folders", L"...|+..|.|+++", L"+|++|...|+..|+|+|+", L"New Up WindowsExplorer Delete Properties"},
-      {L"Alpha", L"++.|+++|+|+++", L"+|++|++.|+++|+|+", L"New Change Up WindowsExplorer Cut Copy Delete Properties"},
+      {L"Organized Folders", L"...|...|.|+++", L"+|+.|...|...|.|.", L"WindowsExplorer"},
+      {L"Personal", L"...|.+.|.|+++", L"+|+.|...|...|+|.|.", L"Up WindowsExplorer"},
+      {L"System Folders", L"...|...|.|+++", L"+|+.|...|...|+|.|.", L"Up WindowsExplorer"},
+      {L"Alpha", L"...|.+.|+|+++", L"+|+.|...|.+.|+|.", L"Up WindowsExplorer"},
   };
   for (const Case& row : cases) {
     scene_.Window().ClickNode(scene_.Tree(), row.node);
@@ -173,7 +176,7 @@ TEST_F(OpenOrganize, PopupsAreThoseOfWhatWasClicked) {
   scene_.ClickRow(L"Alpha", kRightButton);
   machine_.user.NextPopup([](ShownPopup& popup) {
     EXPECT_EQ(popup.Texts(), (std::vector<std::wstring>{L"New", L"-", L"Paste (disabled)", L"-", L"Arrange Icons",
-                                                        L"Select All", L"-", L"Properties..."}));
+                                                        L"Select All", L"-", L"Properties... (disabled)"}));
   });
   scene_.Window().ClickRow(scene_.List(), -1, kRightButton);
   machine_.user.NextPopup([](ShownPopup& popup) {
@@ -185,28 +188,12 @@ TEST_F(OpenOrganize, PopupsAreThoseOfWhatWasClicked) {
   scene_.Window().ClickNode(scene_.Tree(), L"Personal", kRightButton);
 }
 
-TEST_F(Organize, CommandsGoToTheirWindows) {
-  app_.ShowTips = true;
-  scene_.Open();
+TEST_F(OpenOrganize, CommandsActOnWhatIsSelected) {
   scene_.Window().ClickButton(scene_.Toolbar(), L"keyWindowsExplorer");
   EXPECT_EQ(machine_.shell.Launches.back().parameters, L"C:\\Users\\User\\Documents");  // a group has no folder
-  form_.UserActivate(false);
-  form_.UserActivate(true);
   scene_.ClickRow(L"Beta");
-  scene_.Window().ChooseMenu({L"Tools", L"Folder Report..."});
-  scene_.Window().ChooseMenu({L"File", L"New..."});
-  form_.Init(L"/ADD \"C:\\Some folder\" ");
-  scene_.Window().ToggleNode(scene_.Tree(), L"Alpha");
-  scene_.Window().ClickNode(scene_.Tree(), L"Inner");
-  form_.Init(L"/ADD C:\\x");
-  EXPECT_EQ(scene_.heard, (std::vector<std::string>{"tip", "report C:\\Beta", "new MIT_GROUP_USER MIT_PATH_EXPLORER ",
-                                                    "new MIT_GROUP_USER MIT_PATH_EXPLORER C:\\Some folder",
-                                                    "new A MIT_PATH_EXPLORER C:\\x"}));
-  machine_.files.DeleteFolder(L"C:\\Inner");
-  machine_.user.NextBox(L"Folder 'C:\\Inner' does not exist or is not a directory.", kAnswerOk);
-  scene_.Window().ChooseMenu({L"Tools", L"Folder Report..."});
   scene_.Window().ChooseMenu({L"Tools", L"Find..."});
-  EXPECT_EQ(machine_.shell.Launches.back().file, L"C:\\Inner");
+  EXPECT_EQ(machine_.shell.Launches.back().file, L"C:\\Beta");
   scene_.Window().ChooseMenu({L"Help", L"Support"});
   EXPECT_EQ(machine_.shell.Launches.back().file, L"http://www.kestrelan.example/products/bm/support.html");
 }
@@ -224,7 +211,7 @@ TEST_F(OpenOrganize, LabelsAreRenamedInBothPanesAndBadOnesRefused) {
   EXPECT_EQ(scene_.Rows(), L"Omega|Beta|Delta");
   EXPECT_EQ(scene_.Column(2), L"||Shift+Ctrl+5");
   EXPECT_EQ(scene_.Nodes(), L"0 Organized Folders|1 Personal|2 Omega|3 Inner|2 Beta|2 Delta|1 Drives");
-  EXPECT_TRUE(std::exchange(form_.Changed, false));
+  EXPECT_TRUE(std::exchange(form().Edited.Changed, false));
   machine_.user.NextBox(L"cannot contain any of the following characters", kAnswerOk);
   rename(L"a*b");
   scene_.ClickRow(L"Beta");
@@ -232,11 +219,11 @@ TEST_F(OpenOrganize, LabelsAreRenamedInBothPanesAndBadOnesRefused) {
   rename(L"Delta");
   for (const wchar_t* same : {L"Beta", L""}) rename(same);
   EXPECT_EQ(scene_.Rows(), L"Omega|Beta|Delta");
-  EXPECT_FALSE(form_.Changed);
+  EXPECT_FALSE(form().Edited.Changed);
   scene_.Window().ClickNode(scene_.Tree(), L"Drives");
   scene_.Window().Press(kKeyCodeF2);
   EXPECT_THROW(scene_.Window().TypeLabel(L"x"), std::logic_error);
-  form_.Changed = true;
+  form().Edited.Changed = true;
   scene_.Window().Close();
   EXPECT_EQ(app_.MainStore().GetMenuItemFromName(L"I")->ItemLocation, L"\\\\Personal\\Omega");
   EXPECT_EQ(app_.MainStore().GetMenuItemFromName(L"G")->KeyboardCode, 53);
@@ -303,22 +290,6 @@ TEST_F(Organize, BadLayoutValuesAreTheDefaults) {
   EXPECT_LE(scene_.Window().place.bottom, WindowStack::kScreen.bottom);
 }
 
-TEST_F(OpenOrganize, NothingOfAnEarlierOpeningShows) {
-  scene_.Window().ChooseSystemMenu(L"Always On Top");
-  EXPECT_TRUE(scene_.Window().topMost);
-  scene_.Window().ClickColumn(scene_.List(), 0);
-  const std::int32_t edge = ToTwips(scene_.Control(ShownKind::kTreeView).place.right, kDesignDpi) + 30;
-  scene_.Window().Mouse(0, MouseAction::kMove, {0, 0, edge, 3000});
-  scene_.Window().Mouse(0, MouseAction::kDown, {kLeftButton, 0, edge, 3000});
-  form_.Unload();
-  scene_.Open();
-  EXPECT_FALSE(scene_.Window().topMost);
-  EXPECT_EQ(scene_.Window().systemMenu, (std::vector<SystemMenuEntry>{{555, L"Always On Top", false}}));
-  EXPECT_EQ(scene_.Control(ShownKind::kListView).list->columns[0].text, L"Name");
-  EXPECT_EQ(scene_.Window().pointer, kPointerDefault);
-  EXPECT_FALSE(scene_.Control(ShownKind::kPicture).visible);  // the splitter's bar
-}
-
 // --- the ways out
 
 TEST_F(Organize, WithoutChangesNothingIsWrittenAndNothingAsked) {
@@ -334,9 +305,10 @@ TEST_F(Organize, WithoutChangesNothingIsWrittenAndNothingAsked) {
 
 TEST_F(Organize, ChangesReachTheFileTheMenuAndTheProjections) {
   for (const bool projects : {false, true}) {
-    app_.ADVC = {};
-    app_.ADVC[Advanced::kOnDesktop] = app_.ADVC[Advanced::kInSendTo] = true;  // project on the Desktop and in Send To ...
-    app_.ADVC[Advanced::kProjectAtClosing] = projects;             // ... at closing
+    app_.ADVC = SettingValues<Advanced>(false);
+    app_.ADVC[Advanced::kOnDesktop] = app_.ADVC[Advanced::kInSendTo] =
+        true;                                           // project on the Desktop and in Send To ...
+    app_.ADVC[Advanced::kProjectAtClosing] = projects;  // ... at closing
     InitOrganizedFoldersPaths(app_);
     scene_.Open();
     const std::wstring title = L"Changed" + std::to_wstring(projects);
@@ -361,8 +333,8 @@ TEST_F(Organize, DiscardingAsksAndNoSaves) {
     scene_.Window().ChooseMenu({L"File", L"Exit Discarding Changes"});
     EXPECT_EQ(IsClosed(), answer != kAnswerCancel) << answer;
     EXPECT_EQ(MenuHas(L"Word" + std::to_wstring(answer)), answer == kAnswerNo) << answer;
-    form_.Changed = false;
-    form_.Unload();
+    form().Edited.Changed = false;
+    form().Unload();
   }
 }
 
@@ -370,7 +342,7 @@ TEST_F(Organize, AnotherFileAsksAndNeverReachesTheMenu) {
   for (const std::int32_t answer : {kAnswerCancel, kAnswerNo, kAnswerYes}) {
     scene_.Open();
     WriteOther();
-    form_.Init(std::wstring(L"/OPEN ") + kOther);
+    form().Init(std::wstring(L"/OPEN ") + kOther);
     EXPECT_EQ(scene_.Window().caption, L"Organize Folders - other.bwmk");
     Change();
     machine_.user.NextBox(L"Do you want to save the changes you made to other.bwmk?", answer);
@@ -378,8 +350,8 @@ TEST_F(Organize, AnotherFileAsksAndNeverReachesTheMenu) {
     EXPECT_EQ(IsClosed(), answer != kAnswerCancel);
     EXPECT_EQ(FileHas(kOther, "Changed"), answer == kAnswerYes);
     EXPECT_FALSE(MenuHas(L"Changed"));
-    form_.Changed = false;
-    form_.Unload();
+    form().Edited.Changed = false;
+    form().Unload();
   }
   EXPECT_FALSE(FileHas(L"C:\\default.bwmk", "Changed"));
 }
@@ -390,7 +362,7 @@ TEST_F(OpenOrganize, AFailedSaveKeepsTheWindowAndEverythingInIt) {
   machine_.user.NextBox(L"Error saving configuration file default.bwmk\r\nFile is read-only.", kAnswerOk);
   scene_.Window().Close();
   EXPECT_FALSE(IsClosed());
-  EXPECT_TRUE(form_.Changed);
+  EXPECT_TRUE(form().Edited.Changed);
   EXPECT_FALSE(MenuHas(L"Changed"));
   machine_.files.SetFileAttributesA(L"C:\\default.bwmk", 0);
   scene_.Window().Close();
@@ -402,13 +374,13 @@ TEST_F(OpenOrganize, OpeningAsksAboutChangesAndABadFileChangesNothing) {
   machine_.AddFile(L"C:\\bad.bwmk", "nothing of ours");
   Change();
   machine_.user.NextBox(L"Do you want to save the changes you made to default.bwmk?", kAnswerCancel);
-  form_.Init(L"/OPEN C:\\bad.bwmk");
+  form().Init(L"/OPEN C:\\bad.bwmk");
   machine_.user.NextBox(L"Do you want to save the changes you made to default.bwmk?", kAnswerNo);
   machine_.user.NextBox(L"Error opening configuration file bad.bwmk", kAnswerOk);
-  form_.Init(L"/OPEN C:\\bad.bwmk");
-  EXPECT_TRUE(form_.Changed);
+  form().Init(L"/OPEN C:\\bad.bwmk");
+  EXPECT_TRUE(form().Edited.Changed);
   EXPECT_EQ(scene_.Window().caption, L"Organize Folders");
-  form_.SaveOnExit = false;
+  form().SaveOnExit = false;
 }
 
 // --- the File menu
@@ -453,7 +425,7 @@ TEST_F(OpenOrganize, SavingUnderAnotherNameAsksAndAListingChangesNoName) {
   scene_.Window().ChooseMenu({L"File", L"Save As..."});
   EXPECT_TRUE(FileHas(L"C:\\list.txt", "Changed"));
   EXPECT_EQ(scene_.Window().caption, L"Organize Folders");
-  EXPECT_FALSE(form_.Changed);
+  EXPECT_TRUE(form().Edited.Changed);  // a listing can't be read back
   WriteOther();
   for (const std::int32_t answer : {kAnswerNo, kAnswerYes}) {
     machine_.user.NextFile(kSaveTitle, kOther, 1);
@@ -467,7 +439,7 @@ TEST_F(OpenOrganize, SavingUnderAnotherNameAsksAndAListingChangesNoName) {
 
 TEST_F(OpenOrganize, AnotherFileBecomesTheDefaultOne) {
   WriteOther();
-  form_.Init(std::wstring(L"/OPEN ") + kOther);
+  form().Init(std::wstring(L"/OPEN ") + kOther);
   for (const std::int32_t answer : {kAnswerNo, kAnswerYes}) {
     machine_.user.NextBox(L"Do you want to make other.bwmk the default configuration file?", answer);
     if (answer == kAnswerYes) machine_.user.NextBox(L"other.bwmk is now the default configuration file.", kAnswerOk);
@@ -476,7 +448,7 @@ TEST_F(OpenOrganize, AnotherFileBecomesTheDefaultOne) {
   }
   EXPECT_EQ(scene_.Window().caption, L"Organize Folders");
   Change();
-  form_.Changed = false;
+  form().Edited.Changed = false;
   scene_.Window().Close();  // no question, though nothing counts as changed
   EXPECT_TRUE(FileHas(kOther, "Changed"));
   EXPECT_TRUE(MenuHas(L"Changed"));

@@ -9,16 +9,6 @@
 namespace burrowmark::test {
 namespace {
 
-OrganizeCalls Recording(std::vector<std::string>& heard) {
-  OrganizeCalls calls;
-  calls.ShowTip = [&heard](Form&) { heard.push_back("tip"); };
-  calls.ShowFolderReport = [&heard](Form&, const std::wstring& folder) { heard.push_back("report " + ToUtf8(folder)); };
-  calls.ShowNewItem = [&heard](Form&, const std::wstring& group, const std::wstring& kind, const std::wstring& path) {
-    heard.push_back("new " + ToUtf8(group + L" " + kind + L" " + path));
-  };
-  return calls;
-}
-
 void AddNodes(const ShownNode& node, int level, std::wstring& texts) {
   texts += (texts.empty() ? L"" : L"|") + std::to_wstring(level) + L" " + node.text;
   for (const auto& child : node.children) AddNodes(*child, level + 1, texts);
@@ -26,8 +16,8 @@ void AddNodes(const ShownNode& node, int level, std::wstring& texts) {
 
 }  // namespace
 
-OrganizeScene::OrganizeScene() : form(app, Recording(heard)) {
-  app.ConfigFile = app.CurrentConfigFile = L"C:\\default.bwmk";
+OrganizeScene::OrganizeScene() {
+  app.ConfigFile = app.MainDocument.CurrentConfigFile = L"C:\\default.bwmk";
   app.AC[Appearance::kSystemFolders] = false;  // without System Folders
   AddPersonal();
   AddGroup(L"A", L"Alpha");
@@ -43,9 +33,9 @@ OrganizeScene::OrganizeScene() : form(app, Recording(heard)) {
 }
 
 void OrganizeScene::Open() {
-  ConfigFileWrite(app, app.MainStore(), {}, false);
-  app.IsOpen(SingleWindow::kOrganize) = true;
-  form.Show(Modeless, app.MainWindow);
+  ConfigFileWrite(app, app.MainDocument);
+  opened_ = std::make_unique<frmOrganize>(app);
+  form().Show(Modeless, app.MainWindow);
   machine.windows.DoEvents();
 }
 

@@ -1,8 +1,8 @@
 // The editor over a small tree, and a person in front of it.
 #pragma once
 
+#include <memory>
 #include <string>
-#include <vector>
 
 #include "organize/frm_organize.h"
 #include "tests/support/menu_scene.h"
@@ -14,9 +14,9 @@ class OrganizeScene : public MenuScene {
  public:
   OrganizeScene();
 
-  // Writes the store to the default file, and shows the editor.
+  // Writes the menu's document to its file, and shows a new editor.
   void Open();
-  ShownWindow& Window() { return machine.user.Window(form.Caption()); }
+  ShownWindow& Window() { return machine.user.Window(form().Caption()); }
   ShownControl& Control(ShownKind kind);
   WindowHandle Tree() { return Control(ShownKind::kTreeView).window; }
   WindowHandle List() { return Control(ShownKind::kListView).window; }
@@ -35,8 +35,11 @@ class OrganizeScene : public MenuScene {
   void ClickRow(const std::wstring& text, std::int32_t button = kLeftButton, std::int32_t shift = 0);
   std::int32_t RowOf(const std::wstring& text);
 
-  std::vector<std::string> heard;  // windows that the editor asked for
-  frmOrganize form;
+  // The editor of the last opening.
+  frmOrganize& form() { return *opened_; }
+
+ private:
+  std::unique_ptr<frmOrganize> opened_;
 };
 
 }  // namespace burrowmark::test

@@ -48,19 +48,14 @@ class PopupTest : public LocalTest {
       message.measure->itemHeight = line ? 10 : 19;
     }
     if (message.number == kMessageMenuRightButtonUp) rightClicks_.push_back({message.lParam, message.wParam});
-    if (message.number == kMessageCommand) commands_.push_back(message.wParam);
     if (message.draw != nullptr) drawn_.push_back({message.draw->itemID, message.draw->itemState});
     return {};
   }
 
-  // What the commands say after a popup that meets these actions.
-  Numbers Chosen(const MenuActions& actions) {
-    commands_.clear();
+  // What was chosen in a popup that meets these actions.
+  std::int32_t Chosen(const MenuActions& actions) {
     machine_.user.NextMenu(actions);
-    menus_.TrackPopupMenu(root_, window_);
-    EXPECT_TRUE(commands_.empty()) << "a command waits until the program comes back to its loop";
-    machine_.windows.DoEvents();
-    return commands_;
+    return menus_.TrackPopupMenu(root_, window_);
   }
 
   MainWindowEvents events_;
@@ -69,28 +64,27 @@ class PopupTest : public LocalTest {
   MenuHandle root_ = 0;
   MenuHandle box_ = 0;
   std::vector<Pair> rightClicks_;
-  Numbers commands_;
   int measured_ = 0;
   std::vector<Pair> drawn_;  // numbers and states
 };
 
 TEST_F(PopupTest, AClickedEntryArrivesAsTheLow16BitsOfItsNumber) {
-  EXPECT_EQ(Chosen({L"Alpha"}), Numbers({1}));
-  EXPECT_EQ(Chosen({L"&Box", L"Bread"}), Numbers({12}));
-  EXPECT_EQ(Chosen({L"Box", L"Zulu"}), Numbers({70000 & 0xFFFF})) << "out of an open group and back into the root";
-  EXPECT_EQ(Chosen(MenuActions().Click(L"").Cancel()), Numbers()) << "a separator can't be chosen";
+  EXPECT_EQ(Chosen({L"Alpha"}), 1);
+  EXPECT_EQ(Chosen({L"&Box", L"Bread"}), 12);
+  EXPECT_EQ(Chosen({L"Box", L"Zulu"}), 70000 & 0xFFFF) << "out of an open group and back into the root";
+  EXPECT_EQ(Chosen(MenuActions().Click(L"").Cancel()), 0) << "a separator can't be chosen";
 }
 
 TEST_F(PopupTest, KeysMoveOverSeparatorsAndAroundTheEnds) {
   using enum MenuKey;
-  const std::pair<std::vector<MenuKey>, Numbers> rows[] = {
-      {{kUp, kEnter}, {70000 & 0xFFFF}},
-      {{kUp, kDown, kEnter}, {1}},
-      {{kDown, kDown, kEnter, kUp, kEnter}, {12}},
-      {{kDown, kDown, kRight, kLeft, kDown, kEnter}, {2}},
-      {{kDown, kDown, kRight, kEscape, kUp, kEnter}, {1}},
-      {{kDown, kRight, kLeft, kEnter}, {1}},
-      {{kDown, kDown, kRight, kEscape, kEscape}, {}},
+  const std::pair<std::vector<MenuKey>, std::int32_t> rows[] = {
+      {{kUp, kEnter}, 70000 & 0xFFFF},
+      {{kUp, kDown, kEnter}, 1},
+      {{kDown, kDown, kEnter, kUp, kEnter}, 12},
+      {{kDown, kDown, kRight, kLeft, kDown, kEnter}, 2},
+      {{kDown, kDown, kRight, kEscape, kUp, kEnter}, 1},
+      {{kDown, kRight, kLeft, kEnter}, 1},
+      {{kDown, kDown, kRight, kEscape, kEscape}, 0},
   };
   for (const auto& [keys, chosen] : rows) {
     MenuActions actions;
@@ -100,16 +94,16 @@ TEST_F(PopupTest, KeysMoveOverSeparatorsAndAroundTheEnds) {
 }
 
 TEST_F(PopupTest, ALetterMovesToTheNextEntryThatStartsWithIt) {
-  EXPECT_EQ(Chosen(MenuActions().Type(L"bb").Press(MenuKey::kEnter)), Numbers({2}));
-  EXPECT_EQ(Chosen(MenuActions().Type(L"Bbb").Press(MenuKey::kEnter).Type(L"b").Press(MenuKey::kEnter)), Numbers({12}))
+  EXPECT_EQ(Chosen(MenuActions().Type(L"bb").Press(MenuKey::kEnter)), 2);
+  EXPECT_EQ(Chosen(MenuActions().Type(L"Bbb").Press(MenuKey::kEnter).Type(L"b").Press(MenuKey::kEnter)), 12)
       << "around the end to the group, and on in its popup";
   EXPECT_EQ(machine_.windows.Beeps(), 0U);
-  EXPECT_EQ(Chosen(MenuActions().Type(L"aq").Press(MenuKey::kEnter)), Numbers({1}));
+  EXPECT_EQ(Chosen(MenuActions().Type(L"aq").Press(MenuKey::kEnter)), 1);
   EXPECT_EQ(machine_.windows.Beeps(), 1U);
 }
 
 TEST_F(PopupTest, ARightClickTellsMenuAndPositionAndLeavesTheMenuOpen) {
-  EXPECT_EQ(Chosen(MenuActions().RightClick(L"Beta").Click(L"Box").RightClick(L"Bread").Cancel()), Numbers());
+  EXPECT_EQ(Chosen(MenuActions().RightClick(L"Beta").Click(L"Box").RightClick(L"Bread").Cancel()), 0);
   EXPECT_EQ(rightClicks_, std::vector<Pair>({{root_, 3}, {box_, 2}}));
 }
 
@@ -121,13 +115,13 @@ TEST_F(PopupTest, MessagesRunWhileAMenuIsOpenAndOneOfThemCanEndIt) {
       menus_.TrackPopupMenu(root_, window_);  // no second menu opens
     });
   };
-  EXPECT_EQ(Chosen(MenuActions().Do(post).Click(L"Alpha")), Numbers({1}));
+  EXPECT_EQ(Chosen(MenuActions().Do(post).Click(L"Alpha")), 1);
   EXPECT_TRUE(ran);
   const auto cancelMode = [this] { machine_.windows.SendMessageA(window_, kMessageCancelMode, 0, 0); };
-  EXPECT_EQ(Chosen(MenuActions().Click(L"Box").Do(cancelMode)), Numbers());
-  EXPECT_EQ(Chosen({L"Alpha"}), Numbers({1})) << "an earlier end doesn't touch the next menu";
+  EXPECT_EQ(Chosen(MenuActions().Click(L"Box").Do(cancelMode)), 0);
+  EXPECT_EQ(Chosen({L"Alpha"}), 1) << "an earlier end doesn't touch the next menu";
   const auto leave = [this] { machine_.windows.DestroyMainWindow(window_); };
-  EXPECT_EQ(Chosen(MenuActions().Click(L"Box").Do(leave)), Numbers());
+  EXPECT_EQ(Chosen(MenuActions().Click(L"Box").Do(leave)), 0);
   EXPECT_EQ(menus_.LiveMenus(), 0U) << "the window's menus go with it";
 }
 

@@ -76,7 +76,7 @@ TEST_F(OrganizedFolders, OtherItemsArePassedOver) {
   Add(L"file", L"file", L"G")->FolderPath = L"C:\\Windows\\explorer.exe";
   Add(L"odd", L"odd", L"G")->OpenType = L"odd";
   Add(L"drive", L"drive")->FolderPath = L"C:\\";
-  AddFixedEntries(app_, app_.MainDocument.Store, true);
+  AddFixedEntries(app_, app_.MainStore(), true);
   scene_.AddGroup(L"GO", L"Outside", kRootOwner);
   Add(L"O", L"O", L"GO");
   store_.AddNewMenuItem({.Caption = L"Drives", .OwnerName = kRootOwner, .Name = MIT_PATHS_DRIVES, .SubMenu = true});

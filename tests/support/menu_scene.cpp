@@ -57,7 +57,7 @@ std::wstring MenuScene::NativeTexts(MenuHandle handle) {
 std::string MenuScene::WrongNumbers() {
   std::set<std::int32_t> numbers;
   for (std::int32_t i = 1; i <= app.MainStore().Count(); ++i) {
-    const clsMenuItem& item = app.MainStore()->Item(i);
+    const clsMenuItem& item = *app.MainStore().Item(i);
     const std::string name = ToUtf8(item.Name());
     const auto& siblings = machine.menus.Entries(item.OwnerID);
     if (item.Position < 0 || static_cast<std::size_t>(item.Position) >= siblings.size()) return name + " has no place";

@@ -9,30 +9,55 @@ namespace {
 bool HasButton(std::uint32_t style, std::int32_t answer) {
   constexpr std::uint32_t kButtons = 0xF;
   if ((style & kButtons) == kBoxOk) return answer == kAnswerOk;
+  if ((style & kButtons) == kBoxYesNo) return answer == kAnswerYes || answer == kAnswerNo;
   if ((style & kButtons) != kBoxYesNoCancel) return false;
   return answer == kAnswerYes || answer == kAnswerNo || answer == kAnswerCancel;
 }
 
 }  // namespace
 
+class LocalDialogs::Up {
+ public:
+  explicit Up(LocalDialogs& dialogs) : dialogs_(dialogs), nested_(dialogs.windows_) {
+    dialogs_.open_.push_back(&state_);
+  }
+  ~Up() { dialogs_.open_.pop_back(); }
+  Up(const Up&) = delete;
+  Up& operator=(const Up&) = delete;
+
+  bool IsCancelled() const { return state_.cancelled; }
+
+ private:
+  LocalDialogs& dialogs_;
+  LocalWindows::Nested nested_;
+  Open state_;
+};
+
 std::int32_t LocalDialogs::MessageBoxA(WindowHandle owner, const std::wstring& text, const std::wstring& title,
                                        std::uint32_t style) {
-  const BoxAnswer answer = user_.TakeBox(text);
+  BoxAnswer answer = user_.TakeBox(text);
   if (!HasButton(style, answer.answer)) user_.Complain("a box without the button of its answer: " + ToUtf8(text));
+  const Up up(*this);
   windows_.DoEvents();
-  if (answer.meanwhile) answer.meanwhile();
+  if (answer.meanwhile && !up.IsCancelled()) answer.meanwhile();
   windows_.DoEvents();
+  if (up.IsCancelled()) answer.answer = CancelAnswer(style);
   Shown.push_back({owner, text, title, style, answer.answer});
   return answer.answer;
 }
 
 std::optional<FileAnswer> LocalDialogs::FileDialog(const FileRequest& request) {
   const FileScript script = user_.TakeFile(request.title);
+  const Up up(*this);
   windows_.DoEvents();
   std::optional<FileAnswer> answer;
-  if (script.path) answer = FileAnswer{*script.path, script.filterIndex};
+  if (script.path && !up.IsCancelled()) answer = FileAnswer{*script.path, script.filterIndex};
   FileDialogs.push_back({request, answer});
   return answer;
+}
+
+void LocalDialogs::CancelBox() {
+  if (!open_.empty()) open_.back()->cancelled = true;
 }
 
 }  // namespace burrowmark

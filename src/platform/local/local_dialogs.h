@@ -36,10 +36,18 @@ class LocalDialogs final : public Dialogs {
   std::int32_t MessageBoxA(WindowHandle owner, const std::wstring& text, const std::wstring& title,
                            std::uint32_t style) override;
   std::optional<FileAnswer> FileDialog(const FileRequest& request) override;
+  void CancelBox() override;
 
  private:
+  // What is up now.
+  struct Open {
+    bool cancelled = false;
+  };
+  class Up;
+
   LocalUser& user_;
   LocalWindows& windows_;
+  std::vector<Open*> open_;  // the last one that came up last
 };
 
 }  // namespace burrowmark
