@@ -7,7 +7,7 @@
 #include "organize/frm_organize.h"
 #include "platform/characters.h"
 #include "tests/contract/system_under_test.h"
-#include "tools/progress.h"
+#include "core/progress.h"
 #include "ui/check_box.h"
 #include "ui/frame.h"
 
