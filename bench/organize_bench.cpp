@@ -17,7 +17,7 @@ class BenchEditor {
     for (std::int64_t i = 0; i < items; ++i) {
       const auto item = std::make_shared<clsMenuItem>(machine_.machine.clock);
       item->SetCaption(L"A shortcut with a title of some length " + DecimalText(i));
-      item->OwnerName = MIT_GROUP_USER;
+      item->SetOwnerName(MIT_GROUP_USER);
       item->FolderPath = L"C:\\Windows";
       store.AddOne(item, true, true);
     }

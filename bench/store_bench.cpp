@@ -28,7 +28,7 @@ void Fill(clsMenuCollection& store, const Clock& clock, std::int64_t records) {
   auto top = std::make_shared<clsMenuItem>(clock);
   top->SetName(MIT_GROUP_USER);
   top->SetCaption(L"Personal");
-  top->OwnerName = kRootOwner;
+  top->SetOwnerName(kRootOwner);
   top->SetSubMenu(true);
   store.AddOne(top, true, true);
   std::wstring group = MIT_GROUP_USER;
@@ -37,7 +37,7 @@ void Fill(clsMenuCollection& store, const Clock& clock, std::int64_t records) {
     auto item = std::make_shared<clsMenuItem>(clock);
     item->SetName(L"N" + DecimalText(i));
     item->SetCaption(Title(random));
-    item->OwnerName = isGroup ? std::wstring(MIT_GROUP_USER) : group;
+    item->SetOwnerName(isGroup ? std::wstring(MIT_GROUP_USER) : group);
     item->SetSubMenu(isGroup);
     if (isGroup) group = item->Name();
     item->FolderPath = isGroup ? L"" : L"C:\\Users\\User\\Documents\\" + item->Caption();
@@ -108,7 +108,7 @@ void NextFreeId(benchmark::State& state) {
   const LocalClock clock;
   clsMenuCollection store(clock);
   Fill(store, clock, state.range(0));
-  for (std::int32_t i = 1; i <= store.Count(); ++i) store.Item(i)->ID = 49 + i;
+  for (std::int32_t i = 1; i <= store.Count(); ++i) store.Item(i)->SetID(49 + i);
   store.IDCounter = 49 + store.Count();
   for (auto _ : state) benchmark::DoNotOptimize(store.GetNextFreeID());
 }

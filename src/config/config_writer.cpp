@@ -15,7 +15,7 @@ void AppendRecord(std::wstring& text, const clsMenuItem& item) {
       item.Name(),
       item.Caption(),
       DecimalText(item.flags),
-      item.OwnerName,
+      item.OwnerName(),
       DecimalText(item.IconID),
       BooleanWord(item.Separator()),
       BooleanWord(item.SubMenu()),

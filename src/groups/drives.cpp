@@ -28,7 +28,7 @@ void AddGroup(clsMenuCollection& store, const Clock& clock) {
   auto group = std::make_shared<clsMenuItem>(clock);
   group->SetName(MIT_PATHS_DRIVES);
   group->SetCaption(L"Drives");
-  group->OwnerName = kRootOwner;
+  group->SetOwnerName(kRootOwner);
   group->SetSubMenu(true);
   group->ItemType = MIT_PATHS_DRIVES;
   group->UserDescription = kGroupDescription;
@@ -93,8 +93,8 @@ void RemoveDrives(Application& app, clsMenuCollection& store, bool DeleteFromMen
   std::vector<std::wstring> names;
   for (std::int32_t i = store.Count(); i >= 1; --i) {
     const ItemRef item = store.Item(i);
-    if (item->OwnerName != MIT_PATHS_DRIVES && item->Name() != MIT_PATHS_DRIVES) continue;
-    if (DeleteFromMenu) app.platform.menus.DeleteMenu(item->OwnerID, item->Position, kMenuByPosition);
+    if (item->OwnerName() != MIT_PATHS_DRIVES && item->Name() != MIT_PATHS_DRIVES) continue;
+    if (DeleteFromMenu) app.platform.menus.DeleteMenu(item->OwnerID(), item->Position, kMenuByPosition);
     names.push_back(item->Name());
   }
   for (const std::wstring& name : names) store.Remove(name);

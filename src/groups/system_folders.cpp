@@ -84,7 +84,7 @@ void AddTopGroup(const Application& app, clsMenuCollection& store) {
   auto group = std::make_shared<clsMenuItem>(app.platform.clock);
   group->SetName(MIT_PATHS_SYSTEM);
   group->SetCaption(L"System Folders");
-  group->OwnerName = kRootOwner;
+  group->SetOwnerName(kRootOwner);
   group->SetSubMenu(true);
   group->ItemType = MIT_PATHS_SYSTEM;
   group->UserDescription = L"Contains shortcuts to Windows system folders";

@@ -72,7 +72,7 @@ std::vector<std::wstring> ShortcutsBeside(const clsMenuCollection& store, const 
   std::vector<std::wstring> names;
   for (std::int32_t i = 1; i <= store.Count(); ++i) {
     const ItemRef item = store.Item(i);
-    if (item->OwnerName == openAll.OwnerName && item->ItemType == MIT_PATH) names.push_back(item->Name());
+    if (item->OwnerName() == openAll.OwnerName() && item->ItemType == MIT_PATH) names.push_back(item->Name());
   }
   return names;
 }

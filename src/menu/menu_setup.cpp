@@ -16,6 +16,9 @@ namespace {
 // One below the first command number of a build.
 constexpr std::int32_t kBuildStart = 49;
 constexpr std::int32_t kDummyId = 50;
+// Numbers from here on are the system's own: what comes back of a chosen entry are the low 16 bits of its number.
+constexpr std::int32_t kNumberEnd = 0xF000;
+constexpr std::int32_t kNoMenu = -1;
 constexpr wchar_t kDummyText[] = L"Dummy";
 
 NewMenuItem FixedEntry(const wchar_t* name, const wchar_t* caption, const std::wstring& beforeKey) {
@@ -40,7 +43,7 @@ NewMenuItem FixedSeparator(const wchar_t* name, const std::wstring& beforeKey) {
 std::wstring FirstRootKey(const clsMenuCollection& store) {
   if (store.GetMenuItemFromName(MIT_GROUP_USER)) return MIT_GROUP_USER;
   for (std::int32_t i = 1; i <= store.Count(); ++i) {
-    if (store.Item(i)->OwnerName == kRootOwner) return store.Item(i)->Name();
+    if (store.Item(i)->OwnerName() == kRootOwner) return store.Item(i)->Name();
   }
   return {};
 }
@@ -52,7 +55,7 @@ void NumberPositions(const clsMenuCollection& store) {
   std::map<std::int32_t, std::int32_t> next;
   for (std::int32_t i = 1; i <= store.Count(); ++i) {
     const ItemRef item = store.Item(i);
-    item->Position = next[item->OwnerID]++;
+    item->Position = next[item->OwnerID()]++;
   }
 }
 
@@ -63,7 +66,7 @@ void RemoveEntries(Application& app, clsMenuCollection& store, std::initializer_
   for (std::int32_t i = store.Count(); i >= 1; --i) {
     const ItemRef item = store.Item(i);
     if (std::find(names.begin(), names.end(), item->Name()) == names.end()) continue;
-    if (IsMainStore(app, store)) app.platform.menus.DeleteMenu(item->OwnerID, item->Position, kMenuByPosition);
+    if (IsMainStore(app, store)) app.platform.menus.DeleteMenu(item->OwnerID(), item->Position, kMenuByPosition);
     found.push_back(item->Name());
   }
   for (const std::wstring& name : found) store.Remove(name);
@@ -71,35 +74,44 @@ void RemoveEntries(Application& app, clsMenuCollection& store, std::initializer_
 }
 
 bool TakesPart(const clsMenuItem& item, const std::wstring& filter) {
-  return filter.empty() || filter == item.OwnerName || filter == item.Name();
+  return filter.empty() || filter == item.OwnerName() || filter == item.Name();
 }
 
-// First pass: the entry goes in, at the place that the store's order gives it among its siblings.
+// Gives the entry its number or popup; false if all numbers are gone.
+bool NumberEntry(Application& app, clsMenuItem& item) {
+  if (item.SubMenu()) {
+    item.SetID(app.platform.menus.CreatePopupMenu());
+    item.flags = kMenuByPosition | kMenuPopup;
+    return true;
+  }
+  const std::int32_t number = app.MainStore->GetNextFreeID();
+  if (number >= kNumberEnd) return false;
+  item.SetID(number);
+  item.flags = item.Separator() ? kMenuByPosition | kMenuSeparator : kMenuByPosition;
+  return true;
+}
+
+// First pass: the entry goes in, at the place that the store's order gives it among its siblings. One that has no
+// number stays out and takes no place.
 void InsertEntry(Application& app, clsMenuItem& item, bool replacesDummy) {
   clsMenuCollection& store = *app.MainStore;
   Menus& menus = app.platform.menus;
-  if (item.SubMenu()) {
-    item.ID = menus.CreatePopupMenu();
-    item.flags = kMenuByPosition | kMenuPopup;
-  } else {
-    item.ID = store.GetNextFreeID();
-    item.flags = item.Separator() ? kMenuByPosition | kMenuSeparator : kMenuByPosition;
-  }
+  if (!NumberEntry(app, item)) return item.SetOwnerID(kNoMenu);
   bool noOwner = false;
-  item.OwnerID = store.GetIDFromName(item.OwnerName, noOwner);
-  item.Position = store.GetNextFreeItemPosition(item.ID, item.OwnerID);
-  const bool done = replacesDummy ? menus.ModifyMenuA(item.OwnerID, item.Position, item.flags, item.ID, item.Caption())
-                                  : menus.InsertMenuA(item.OwnerID, item.Position, item.flags, item.ID, item.Caption());
+  item.SetOwnerID(store.GetIDFromName(item.OwnerName(), noOwner));
+  item.Position = store.GetNextFreeItemPosition(item.ID(), item.OwnerID());
+  const auto put = replacesDummy ? &Menus::ModifyMenuA : &Menus::InsertMenuA;
+  const bool done = (menus.*put)(item.OwnerID(), item.Position, item.flags, item.ID(), item.Caption());
   if (!done && item.SubMenu()) {
-    menus.DestroyMenu(item.ID);
-    item.ID = 0;
+    menus.DestroyMenu(item.ID());
+    item.SetID(0);
   }
 }
 
 // Second pass: the entry is drawn by the program. Its text stays with it for screen readers and typed letters.
 void MakeOwnerDrawn(Application& app, clsMenuItem& item) {
   item.flags = kMenuByPosition | kMenuOwnerDrawn | (item.Separator() ? kMenuSeparator : 0);
-  app.platform.menus.ModifyMenuA(item.OwnerID, item.Position, item.flags, item.ID, item.Caption());
+  app.platform.menus.ModifyMenuA(item.OwnerID(), item.Position, item.flags, item.ID(), item.Caption());
 }
 
 }  // namespace
@@ -135,11 +147,10 @@ void MenuSetupBuild(Application& app, const std::wstring& filter) {
     store.IDCounter = kBuildStart;
     std::vector<ItemRef> entries;
     for (std::int32_t i = 1; i <= store.Count(); ++i) {
-      const ItemRef item = store.Item(i);
-      if (!TakesPart(*item, filter)) continue;
-      InsertEntry(app, *item, i == 1 && filter.empty());
-      entries.push_back(item);
+      if (TakesPart(*store.Item(i), filter)) entries.push_back(store.Item(i));
     }
+    for (const ItemRef& item : entries) item->SetID(0);  // numbers of the last build are free again
+    for (const ItemRef& item : entries) InsertEntry(app, *item, filter.empty() && item == entries.front());
     for (const ItemRef& item : entries) MakeOwnerDrawn(app, *item);
     if (!filter.empty()) NumberPositions(store);
   });
@@ -150,7 +161,7 @@ void ClearMenu(Application& app) {
   std::vector<std::wstring> names;
   for (std::int32_t i = store.Count(); i >= 1; --i) {
     const ItemRef item = store.Item(i);
-    app.platform.menus.DeleteMenu(item->OwnerID, item->Position, kMenuByPosition);
+    app.platform.menus.DeleteMenu(item->OwnerID(), item->Position, kMenuByPosition);
     names.push_back(item->Name());
   }
   for (const std::wstring& name : names) store.Remove(name);

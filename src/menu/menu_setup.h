@@ -21,7 +21,7 @@ void AddOptionsEntry(clsMenuCollection& store);
 void RemoveOptionsEntry(Application& app, clsMenuCollection& store);
 
 // Makes the native entries of the main store: all of them over the lone dummy entry or, with a filter, those of that
-// owner and the one of that name beside what is there. An entry whose owner isn't in the store stays out.
+// owner and the one of that name beside what is there. An entry whose owner isn't in the store stays out, and so do those for which no number is left.
 void MenuSetupBuild(Application& app, const std::wstring& filter);
 // Empties the main store and its native menu, which keeps a dummy entry.
 void ClearMenu(Application& app);

@@ -76,7 +76,7 @@ TEST_F(Config, TheSmallFileIsReadFieldByField) {
   const ItemRef leaf = store_->GetMenuItemFromName(L"N1");
   ASSERT_TRUE(leaf);
   EXPECT_EQ(leaf->Caption(), L"Projects");
-  EXPECT_EQ(leaf->OwnerName, MIT_GROUP_USER);
+  EXPECT_EQ(leaf->OwnerName(), MIT_GROUP_USER);
   EXPECT_EQ(leaf->IconID, 4);
   EXPECT_EQ(leaf->OpenType, MIT_PATH_EXPLORER);
   EXPECT_EQ(leaf->FolderPath, L"D:\\Projects");
@@ -325,7 +325,7 @@ TEST_F(Config, TheListingShowsCountsAndTheTree) {
       "Number of Open-All shortcuts: 1\r\nNumber of groups: 3\r\n\r\n"
       "[Personal]\r\n [Group]\r\n  Inner (C:\\i)\r\n  Open-All ()\r\n Projects (D:\\Projects)\r\n[System Folders]\r\n");
   store_->GetMenuItemFromName(L"N1")->SetCaption(L"\x41F");
-  store_->GetMenuItemFromName(MIT_GROUP_USER)->OwnerName = L"G";  // a circle of owners ends
+  store_->GetMenuItemFromName(MIT_GROUP_USER)->SetOwnerName(L"G");  // a circle of owners ends
   ASSERT_TRUE(Write(true));
   EXPECT_TRUE(
       machine_.BytesOf(kPath).starts_with("\xEF\xBB\xBF"

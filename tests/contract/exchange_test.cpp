@@ -33,13 +33,13 @@ class Exchange : public ContractTest {
     auto top = std::make_shared<clsMenuItem>(platform_.clock);
     top->SetName(MIT_GROUP_USER);
     top->SetCaption(L"Personal");
-    top->OwnerName = kRootOwner;
+    top->SetOwnerName(kRootOwner);
     top->SetSubMenu(true);
     store.AddOne(top, true, true);
     for (int i = 1; i <= 50; ++i) {
       auto item = std::make_shared<clsMenuItem>(platform_.clock);
       item->SetCaption(title + std::to_wstring(i));
-      item->OwnerName = i % 10 == 0 ? L"N" + std::to_wstring(i - 1) : std::wstring(MIT_GROUP_USER);
+      item->SetOwnerName(i % 10 == 0 ? L"N" + std::to_wstring(i - 1) : std::wstring(MIT_GROUP_USER));
       item->SetSubMenu(i % 10 == 9);
       item->FolderPath = L"C:\\" + title;
       item->UserDescription = title + L"\r\n" + title;

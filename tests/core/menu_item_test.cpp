@@ -132,13 +132,13 @@ TEST_F(MenuItem, AnOpenAllEntryIsRenamedBesideItsMenuTitle) {
 TEST_F(MenuItem, AChangeKeepsWhatItDoesNotName) {
   item_.SetName(L"N1");
   item_.SetCaption(L"Old");
-  item_.OwnerName = L"MIT_GROUP_USER";
+  item_.SetOwnerName(L"MIT_GROUP_USER");
   item_.FolderPath = L"C:\\x";
   item_.UserDescription = L"mine";
   item_.KeyboardCode = 50;
   item_.ModifyMenuItem({});
   EXPECT_EQ(item_.Caption(), L"Old");
-  EXPECT_EQ(item_.OwnerName, L"MIT_GROUP_USER");
+  EXPECT_EQ(item_.OwnerName(), L"MIT_GROUP_USER");
   EXPECT_EQ(item_.FolderPath, L"C:\\x");
   EXPECT_EQ(item_.UserDescription, L"mine");
   EXPECT_EQ(item_.KeyboardCode, -1);

@@ -121,9 +121,9 @@ TEST_F(MenuSetup, ACloneHasEverythingAndADrivesTitleKeepsItsColon) {
   const ItemRef source = scene_.AddShortcut(L"S", L"x", L"C:\\x", MIT_PATHS_DRIVES);
   source->SetCaption2(L"C: (x)");
   source->ItemType = MIT_DRIVE;
-  source->ID = 1;
+  source->SetID(1);
   source->Position = 2;
-  source->OwnerID = 3;
+  source->SetOwnerID(3);
   source->flags = 4;
   source->NameOld = L"old";
   source->KeyboardCode = 50;
@@ -134,11 +134,11 @@ TEST_F(MenuSetup, ACloneHasEverythingAndADrivesTitleKeepsItsColon) {
   EXPECT_EQ(clone.Caption(), L"C: (x)");
   EXPECT_EQ(clone.CaptionMenu(), L"menu");
   EXPECT_EQ(clone.ItemType, MIT_DRIVE);
-  EXPECT_EQ(clone.ID + clone.Position + clone.OwnerID + clone.flags, 10);
+  EXPECT_EQ(clone.ID() + clone.Position + clone.OwnerID() + clone.flags, 10);
   EXPECT_EQ(clone.NameOld, L"old");
   EXPECT_EQ(clone.KeyboardCode, 50);
   EXPECT_EQ(clone.TimeAccessed, 7);
-  source->OwnerName = L"G";
+  source->SetOwnerName(L"G");
   CloneMenuItem(*source, clone);
   EXPECT_EQ(clone.Caption(), L"C (x)");
 }

@@ -122,7 +122,7 @@ TEST_F(OrganizedFolders, AMovedItemGoesWhereItStandsNow) {
   scene_.AddGroup(L"GA", L"A");
   const ItemRef group = scene_.AddGroup(L"GB", L"B");
   const ItemRef item = Add(L"S", L"S", L"GA");
-  item->OwnerName = L"GB";
+  item->SetOwnerName(L"GB");
   group->SetCaption(L"Renamed");
   EXPECT_EQ(item->ItemPath, L"A\\");
   Project();
