@@ -41,14 +41,14 @@ void OpenTheEditor(benchmark::State& state) {
     state.ResumeTiming();
   }
 }
-BENCHMARK(OpenTheEditor)->Arg(1000)->Arg(5000)->Unit(benchmark::kMillisecond);
+BENCHMARK(OpenTheEditor)->Arg(300)->Arg(3000)->Unit(benchmark::kMillisecond);
 
 void RefreshThePanes(benchmark::State& state) {
   BenchEditor editor(state.range(0));
   editor.Open();
   for (auto _ : state) editor.Refresh();
 }
-BENCHMARK(RefreshThePanes)->Arg(1000)->Arg(5000)->Unit(benchmark::kMillisecond);
+BENCHMARK(RefreshThePanes)->Arg(300)->Arg(3000)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace burrowmark
