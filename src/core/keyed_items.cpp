@@ -21,13 +21,6 @@ void EraseEntry(Index& index, const Key& key, const ListEntry& entry) {
   if (found != end) index.erase(found);
 }
 
-template <typename Index, typename Key>
-void LeaveRow(Index& index, const Key& key, const ListEntry& entry) {
-  const auto found = index.find(key);
-  found->second.Remove(entry);
-  if (found->second.Empty()) index.erase(found);
-}
-
 // The first of the entries that an index holds under a key, in the order of the list.
 template <typename Index, typename Key>
 const ListEntry* FirstOf(const Index& index, const Key& key) {
@@ -36,12 +29,6 @@ const ListEntry* FirstOf(const Index& index, const Key& key) {
     if (first == nullptr || at->second->rank < first->rank) first = at->second;
   }
   return first;
-}
-
-template <typename Index, typename Key, typename Row>
-const Row& RowOf(const Index& index, const Key& key, const Row& none) {
-  const auto found = index.find(key);
-  return found == index.end() ? none : found->second;
 }
 
 }  // namespace
@@ -123,9 +110,6 @@ void KeyedItems::Enter(ListEntry& entry, ItemAspect aspect) const {
     case ItemAspect::kID:
       if (byID_ && item.ID() != 0) byID_->emplace(item.ID(), &entry);
       break;
-    case ItemAspect::kOwnerID:
-      if (byOwnerID_) (*byOwnerID_)[item.OwnerID()].Insert(entry);
-      break;
   }
 }
 
@@ -136,15 +120,18 @@ void KeyedItems::Leave(ListEntry& entry, ItemAspect aspect) const {
       EraseEntry(byName_, item.Name(), entry);
       break;
     case ItemAspect::kPlace:
-      if (byOwner_) LeaveRow(*byOwner_, item.OwnerName(), entry);
+      if (byOwner_) LeaveOwner(entry);
       break;
     case ItemAspect::kID:
       if (byID_) EraseEntry(*byID_, item.ID(), entry);
       break;
-    case ItemAspect::kOwnerID:
-      if (byOwnerID_) LeaveRow(*byOwnerID_, item.OwnerID(), entry);
-      break;
   }
+}
+
+void KeyedItems::LeaveOwner(const ListEntry& entry) const {
+  const auto found = byOwner_->find(entry.item->OwnerName());
+  found->second.Remove(entry);
+  if (found->second.Empty()) byOwner_->erase(found);
 }
 
 const ListEntry* KeyedItems::WithKey(std::wstring_view key) const {
@@ -184,12 +171,9 @@ const ListEntry* KeyedItems::FirstWithID(std::int32_t id) const {
 
 const Siblings& KeyedItems::Under(const std::wstring& owner) const {
   static const Siblings none;
-  return RowOf(Known(byOwner_, ItemAspect::kPlace), owner, none);
-}
-
-const EntryRow& KeyedItems::UnderID(std::int32_t ownerID) const {
-  static const EntryRow none;
-  return RowOf(Known(byOwnerID_, ItemAspect::kOwnerID), ownerID, none);
+  const auto& byOwner = Known(byOwner_, ItemAspect::kPlace);
+  const auto found = byOwner.find(owner);
+  return found == byOwner.end() ? none : found->second;
 }
 
 }  // namespace burrowmark

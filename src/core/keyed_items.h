@@ -47,7 +47,6 @@ class KeyedItems final {
 
   bool HasName(const std::wstring& name) const { return byName_.contains(name); }
   const Siblings& Under(const std::wstring& owner) const;
-  const EntryRow& UnderID(std::int32_t ownerID) const;
 
   // An entry's item is going to change, or has changed, in one respect.
   void Leave(ListEntry& entry, ItemAspect aspect) const;
@@ -55,6 +54,7 @@ class KeyedItems final {
 
  private:
   std::uint64_t RankAt(std::size_t position);
+  void LeaveOwner(const ListEntry& entry) const;
   template <typename Index>
   const Index& Known(std::optional<Index>& index, ItemAspect aspect) const;
 
@@ -64,7 +64,6 @@ class KeyedItems final {
   mutable std::unordered_multimap<std::wstring_view, ListEntry*> byName_;
   mutable std::optional<std::unordered_map<std::wstring, Siblings>> byOwner_;
   mutable std::optional<std::unordered_multimap<std::int32_t, ListEntry*>> byID_;  // without 0
-  mutable std::optional<std::unordered_map<std::int32_t, EntryRow>> byOwnerID_;
 };
 
 }  // namespace burrowmark

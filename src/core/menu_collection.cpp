@@ -192,12 +192,6 @@ std::int32_t clsMenuCollection::GetIDFromName(const std::wstring& Name, bool& Er
   return Err ? -1 : entry->item->ID();
 }
 
-std::int32_t clsMenuCollection::GetNextFreeItemPosition(std::int32_t ID, std::int32_t OwnerID) const {
-  const ListEntry* entry = list_.FirstWithID(ID);
-  const EntryRow& siblings = list_.UnderID(OwnerID);
-  return Number(entry == nullptr ? siblings.Size() : siblings.CountAhead(entry->rank));
-}
-
 std::int32_t clsMenuCollection::GetNextFreeID() {
   do {
     CheckedIncrement(IDCounter);

@@ -85,8 +85,6 @@ class clsMenuCollection {
   ItemRef GetMenuItemFromName(const std::wstring& Name) const;
   // The ID of the item with this key, FileMenuHandle for "-1". Without one `Err` is true and the result -1.
   std::int32_t GetIDFromName(const std::wstring& Name, bool& Err) const;
-  // Place of the entry with this ID among the entries of one owner, from 0.
-  std::int32_t GetNextFreeItemPosition(std::int32_t ID, std::int32_t OwnerID) const;
 
   std::int32_t GetNextFreeID();
   std::wstring GetNextFreeMenuName();

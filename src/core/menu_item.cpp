@@ -69,10 +69,6 @@ void clsMenuItem::SetID(std::int32_t id) {
   if (id != id_) ChangeWatched(ItemAspect::kID, [&] { id_ = id; });
 }
 
-void clsMenuItem::SetOwnerID(std::int32_t ownerId) {
-  if (ownerId != ownerId_) ChangeWatched(ItemAspect::kOwnerID, [&] { ownerId_ = ownerId; });
-}
-
 void clsMenuItem::SetName(std::wstring_view name) {
   if (name != name_) ChangeWatched(ItemAspect::kName, [&] { name_ = name; });
 }

@@ -23,10 +23,8 @@ enum class ItemAspect : std::uint8_t {
   kName,
   kPlace,  // the owner, the title, and whether the item is a group or a separator
   kID,
-  kOwnerID,
 };
-inline constexpr ItemAspect kItemAspects[] = {ItemAspect::kName, ItemAspect::kPlace, ItemAspect::kID,
-                                              ItemAspect::kOwnerID};
+inline constexpr ItemAspect kItemAspects[] = {ItemAspect::kName, ItemAspect::kPlace, ItemAspect::kID};
 
 // Hears of changes that a list of items must know to find them again.
 class ItemWatcher {
@@ -80,8 +78,7 @@ class clsMenuItem {
   std::int32_t ID() const { return id_; }  // a group's popup handle; otherwise a command number
   void SetID(std::int32_t id);
   std::int32_t Position = 0;  // place among the entries of one owner, from 0
-  std::int32_t OwnerID() const { return ownerId_; }
-  void SetOwnerID(std::int32_t ownerId);
+  std::int32_t OwnerID = 0;
   std::int32_t flags = 0;  // native menu flags
 
   // The unique key of the item in its store, never shown.
@@ -145,7 +142,6 @@ class clsMenuItem {
 
   const Clock* clock_;
   std::int32_t id_ = 0;
-  std::int32_t ownerId_ = 0;
   std::wstring name_;
   std::wstring ownerName_;
   std::wstring caption_;

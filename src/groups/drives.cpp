@@ -94,7 +94,7 @@ void RemoveDrives(Application& app, clsMenuCollection& store, bool DeleteFromMen
   for (std::int32_t i = store.Count(); i >= 1; --i) {
     const ItemRef item = store.Item(i);
     if (item->OwnerName() != MIT_PATHS_DRIVES && item->Name() != MIT_PATHS_DRIVES) continue;
-    if (DeleteFromMenu) app.platform.menus.DeleteMenu(item->OwnerID(), item->Position, kMenuByPosition);
+    if (DeleteFromMenu) app.platform.menus.DeleteMenu(item->OwnerID, item->Position, kMenuByPosition);
     names.push_back(item->Name());
   }
   for (const std::wstring& name : names) store.Remove(name);

@@ -189,7 +189,7 @@ void RebuildMainMenu(Application& app, const std::function<void(clsMenuCollectio
   CopyStore(app.platform.clock, *app.MainStore, copy);
   if (change) change(copy);
   ClearMenu(app);
-  CopyStore(app.platform.clock, copy, *app.MainStore);
+  HandOverItems(copy, *app.MainStore);
   RefreshHotKeys(app, *app.MainStore);
   MenuSetupBuild(app, {});
 }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <initializer_list>
 #include <map>
+#include <unordered_map>
 #include <vector>
 
 #include "core/failure.h"
@@ -18,6 +19,8 @@ constexpr std::int32_t kBuildStart = 49;
 constexpr std::int32_t kDummyId = 50;
 // Numbers from here on are the system's own: what comes back of a chosen entry are the low 16 bits of its number.
 constexpr std::int32_t kNumberEnd = 0xF000;
+// The last numbers are for the top level, where "Organize Folders" stands behind all others.
+constexpr std::int32_t kTopLevelNumbers = 256;
 constexpr std::int32_t kNoMenu = -1;
 constexpr wchar_t kDummyText[] = L"Dummy";
 
@@ -55,7 +58,7 @@ void NumberPositions(const clsMenuCollection& store) {
   std::map<std::int32_t, std::int32_t> next;
   for (std::int32_t i = 1; i <= store.Count(); ++i) {
     const ItemRef item = store.Item(i);
-    item->Position = next[item->OwnerID()]++;
+    item->Position = next[item->OwnerID]++;
   }
 }
 
@@ -66,7 +69,7 @@ void RemoveEntries(Application& app, clsMenuCollection& store, std::initializer_
   for (std::int32_t i = store.Count(); i >= 1; --i) {
     const ItemRef item = store.Item(i);
     if (std::find(names.begin(), names.end(), item->Name()) == names.end()) continue;
-    if (IsMainStore(app, store)) app.platform.menus.DeleteMenu(item->OwnerID(), item->Position, kMenuByPosition);
+    if (IsMainStore(app, store)) app.platform.menus.DeleteMenu(item->OwnerID, item->Position, kMenuByPosition);
     found.push_back(item->Name());
   }
   for (const std::wstring& name : found) store.Remove(name);
@@ -77,6 +80,9 @@ bool TakesPart(const clsMenuItem& item, const std::wstring& filter) {
   return filter.empty() || filter == item.OwnerName() || filter == item.Name();
 }
 
+// How many entries of each owner, by its ID, stand ahead in the store.
+using PlacesTaken = std::unordered_map<std::int32_t, std::int32_t>;
+
 // Gives the entry its number or popup; false if all numbers are gone.
 bool NumberEntry(Application& app, clsMenuItem& item) {
   if (item.SubMenu()) {
@@ -84,8 +90,13 @@ bool NumberEntry(Application& app, clsMenuItem& item) {
     item.flags = kMenuByPosition | kMenuPopup;
     return true;
   }
-  const std::int32_t number = app.MainStore->GetNextFreeID();
-  if (number >= kNumberEnd) return false;
+  clsMenuCollection& store = *app.MainStore;
+  const std::int32_t last = store.IDCounter;
+  const std::int32_t number = store.GetNextFreeID();
+  if (number >= (item.OwnerName() == kRootOwner ? kNumberEnd : kNumberEnd - kTopLevelNumbers)) {
+    store.IDCounter = last;
+    return false;
+  }
   item.SetID(number);
   item.flags = item.Separator() ? kMenuByPosition | kMenuSeparator : kMenuByPosition;
   return true;
@@ -93,15 +104,16 @@ bool NumberEntry(Application& app, clsMenuItem& item) {
 
 // First pass: the entry goes in, at the place that the store's order gives it among its siblings. One that has no
 // number stays out and takes no place.
-void InsertEntry(Application& app, clsMenuItem& item, bool replacesDummy) {
+void InsertEntry(Application& app, clsMenuItem& item, PlacesTaken& taken, bool replacesDummy) {
   clsMenuCollection& store = *app.MainStore;
   Menus& menus = app.platform.menus;
-  if (!NumberEntry(app, item)) return item.SetOwnerID(kNoMenu);
+  item.OwnerID = kNoMenu;
+  if (!NumberEntry(app, item)) return;
   bool noOwner = false;
-  item.SetOwnerID(store.GetIDFromName(item.OwnerName(), noOwner));
-  item.Position = store.GetNextFreeItemPosition(item.ID(), item.OwnerID());
+  item.OwnerID = store.GetIDFromName(item.OwnerName(), noOwner);
+  item.Position = taken[item.OwnerID];
   const auto put = replacesDummy ? &Menus::ModifyMenuA : &Menus::InsertMenuA;
-  const bool done = (menus.*put)(item.OwnerID(), item.Position, item.flags, item.ID(), item.Caption());
+  const bool done = (menus.*put)(item.OwnerID, item.Position, item.flags, item.ID(), item.Caption());
   if (!done && item.SubMenu()) {
     menus.DestroyMenu(item.ID());
     item.SetID(0);
@@ -111,7 +123,7 @@ void InsertEntry(Application& app, clsMenuItem& item, bool replacesDummy) {
 // Second pass: the entry is drawn by the program. Its text stays with it for screen readers and typed letters.
 void MakeOwnerDrawn(Application& app, clsMenuItem& item) {
   item.flags = kMenuByPosition | kMenuOwnerDrawn | (item.Separator() ? kMenuSeparator : 0);
-  app.platform.menus.ModifyMenuA(item.OwnerID(), item.Position, item.flags, item.ID(), item.Caption());
+  app.platform.menus.ModifyMenuA(item.OwnerID, item.Position, item.flags, item.ID(), item.Caption());
 }
 
 }  // namespace
@@ -150,7 +162,12 @@ void MenuSetupBuild(Application& app, const std::wstring& filter) {
       if (TakesPart(*store.Item(i), filter)) entries.push_back(store.Item(i));
     }
     for (const ItemRef& item : entries) item->SetID(0);  // numbers of the last build are free again
-    for (const ItemRef& item : entries) InsertEntry(app, *item, filter.empty() && item == entries.front());
+    PlacesTaken taken;
+    for (std::int32_t i = 1; i <= store.Count(); ++i) {
+      const ItemRef item = store.Item(i);
+      if (TakesPart(*item, filter)) InsertEntry(app, *item, taken, i == 1 && filter.empty());
+      ++taken[item->OwnerID];
+    }
     for (const ItemRef& item : entries) MakeOwnerDrawn(app, *item);
     if (!filter.empty()) NumberPositions(store);
   });
@@ -161,7 +178,7 @@ void ClearMenu(Application& app) {
   std::vector<std::wstring> names;
   for (std::int32_t i = store.Count(); i >= 1; --i) {
     const ItemRef item = store.Item(i);
-    app.platform.menus.DeleteMenu(item->OwnerID(), item->Position, kMenuByPosition);
+    app.platform.menus.DeleteMenu(item->OwnerID, item->Position, kMenuByPosition);
     names.push_back(item->Name());
   }
   for (const std::wstring& name : names) store.Remove(name);

@@ -265,18 +265,6 @@ TEST_F(MenuCollection, ChildrenAreTheDirectOnesBehindTheirOwner) {
   EXPECT_EQ(store_.GetSecondChild(L"missing", L"leaf"), nullptr);
 }
 
-TEST_F(MenuCollection, TitlesCollideExactlyAmongSiblingsOfOneKind) {
-  store_.AddOne(Leaf(L"1", L"Docs", L"g"), true, false);
-  store_.AddOne(Group(L"2", L"Docs", L"g"), true, false);
-  EXPECT_TRUE(store_.CaptionExists(L"Docs", L"g", false, L"x"));
-  EXPECT_FALSE(store_.CaptionExists(L"docs", L"g", false, L"x"));
-  EXPECT_FALSE(store_.CaptionExists(L"Docs", L"h", false, L"x"));
-  EXPECT_FALSE(store_.CaptionExists(L"Docs", L"g", false, L"1"));
-  EXPECT_EQ(store_.CaptionExists2(L"Docs", L"g", true, L"x"), store_.Item(2));
-  EXPECT_EQ(store_.CountSameCaption(L"Docs", L"g", L"1"), 1);
-  EXPECT_EQ(store_.CountSameCaption(L"Docs", L"g", L"x"), 2);
-}
-
 TEST_F(MenuCollection, FreeTitlesAreCountedUp) {
   for (const wchar_t* name : {L"1", L"2", L"3"}) {
     const ItemRef item = Leaf(name, L"X", L"g");
@@ -306,18 +294,6 @@ TEST_F(MenuCollection, ChangingThroughTheStoreFindsByPositionOrNameAndWorksOutTh
   EXPECT_FALSE(store_.CaptionExists(L"nobody", L"B", false, L""));
 }
 
-TEST_F(MenuCollection, PositionsAmongSiblingsGoByTheIdOfTheOwner) {
-  for (int i = 0; i < 4; ++i) {
-    const ItemRef item = Leaf(L"", L"", L"g");
-    item->SetID(100 + i);
-    item->SetOwnerID(i == 1 ? 8 : 7);
-    store_.AddOne(item, true, false);
-  }
-  EXPECT_EQ(store_.GetNextFreeItemPosition(100, 7), 0);
-  EXPECT_EQ(store_.GetNextFreeItemPosition(103, 7), 2);
-  EXPECT_EQ(store_.GetNextFreeItemPosition(999, 7), 3);
-}
-
 TEST_F(MenuCollection, CountsTellTheKindsApart) {
   FillThreeLevels();
   store_.AddNewMenuItem({.OwnerName = L"A", .OpenType = MIT_PATH_EXPLORER});
@@ -332,115 +308,78 @@ TEST_F(MenuCollection, CountsTellTheKindsApart) {
   EXPECT_EQ(counts.Groups, 3);
 }
 
-// The store's rules told plainly: every look-up is a walk over a list of keys and items.
-struct PlainStore {
-  std::vector<std::pair<std::wstring, ItemRef>> list;
-
-  template <typename Test>
-  std::size_t Find(Test fits) const {
-    return static_cast<std::size_t>(
-        std::find_if(list.begin(), list.end(), [&](auto& entry) { return fits(*entry.second); }) - list.begin());
-  }
-  template <typename Test>
-  std::int32_t CountAhead(std::size_t end, Test fits) const {
-    return static_cast<std::int32_t>(std::count_if(list.begin(), list.begin() + static_cast<std::ptrdiff_t>(end),
-                                                   [&](auto& entry) { return fits(*entry.second); }));
-  }
-  std::size_t Key(const std::wstring& name) const {
-    return static_cast<std::size_t>(
-        std::find_if(list.begin(), list.end(), [&](auto& entry) { return entry.first == UpperCaseText(name); }) -
-        list.begin());
-  }
-  // A place that goes by a key is lost if no entry has it, as that of a renamed sibling.
-  static constexpr std::size_t kLost = static_cast<std::size_t>(-1);
-  std::size_t PlaceOf(const std::wstring& name) const { return Key(name) == list.size() ? kLost : Key(name); }
-  std::size_t SortedPlace(const clsMenuItem& item) const {
-    if (item.Separator() || item.OwnerName() == kRootOwner) return list.size();
-    const auto sibling = [&](const clsMenuItem& other) {
-      return !other.Separator() && other.OwnerName() == item.OwnerName();
-    };
-    std::size_t place = Find([&](const clsMenuItem& other) {
-      return sibling(other) && other.SubMenu() == item.SubMenu() && other.SortCaption() > item.SortCaption();
-    });
-    if (place == list.size() && item.SubMenu()) {
-      place = Find([&](const clsMenuItem& other) { return sibling(other) && !other.SubMenu(); });
-    }
-    return place == list.size() ? place : PlaceOf(list[place].second->Name());
-  }
-  std::wstring Location(const clsMenuItem& item) const {
-    std::wstring path;
-    std::wstring current = item.OwnerName();
-    for (std::size_t i = list.size(); i-- > 0 && current != kRootOwner;) {
-      const clsMenuItem& owner = *list[i].second;
-      if (owner.Name() != current) continue;
-      path = path.empty() ? owner.Caption() : owner.Caption() + L"\\" + path;
-      current = owner.OwnerName();
-    }
-    return L"\\\\" + path;
-  }
-};
-
+// The rules told plainly: every look-up walks over a list.
 TEST_F(MenuCollection, EveryLookUpAgreesWithAWalkOverTheList) {
+  std::vector<std::pair<std::wstring, ItemRef>> list;
   std::mt19937 random(7);
   const auto below = [&](unsigned end) { return static_cast<std::int32_t>(random() % end); };
   const auto name = [&] { return (below(2) == 0 ? L"n" : L"N") + std::to_wstring(below(40)); };
   const auto owner = [&] { return below(4) == 0 ? std::wstring(kRootOwner) : L"n" + std::to_wstring(below(6)); };
   const auto title = [&] { return std::wstring(1, L"abcdefABCDEF"[below(12)]); };
-  PlainStore plain;
+  const auto find = [&](auto fits) { return std::find_if(list.begin(), list.end(), fits); };
+  const auto key = [&](const std::wstring& text) {
+    return find([&](auto& entry) { return entry.first == UpperCaseText(text); });
+  };
+  const auto itemAt = [&](auto at) { return at == list.end() ? nullptr : at->second; };
   for (int step = 0; step < 20000; ++step) {
     const ItemRef any = store_.Count() == 0 ? nullptr : store_.Item(1 + below(static_cast<unsigned>(store_.Count())));
-    const std::int32_t action = any == nullptr ? 0 : below(9);
-    if (action < 2) {
-      const ItemRef item = test::MakeItem(clock_, name(), title(), owner(), below(3) == 0);
-      const bool taken =
-          action == 0 && plain.Find([&](auto& other) { return other.Name() == item->Name(); }) != plain.list.size();
-      const bool keyTaken = plain.Key(item->Name()) != plain.list.size();
-      const std::size_t place = action == 0 ? plain.SortedPlace(*item) : plain.PlaceOf(any->Name());
-      action == 0 ? static_cast<void>(store_.AddOne(item, false, false)) : store_.AddBefore(item, any->Name(), false);
-      if (!taken && !keyTaken && place != PlainStore::kLost) {
-        plain.list.insert(plain.list.begin() + static_cast<std::ptrdiff_t>(place), {UpperCaseText(item->Name()), item});
+    switch (any == nullptr ? 0 : below(7)) {
+      case 0: {
+        const ItemRef item = test::MakeItem(clock_, name(), title(), owner(), below(3) == 0);
+        const auto isSibling = [&](auto& other) {
+          return !other.Separator() && other.OwnerName() == item->OwnerName();
+        };
+        auto place = item->OwnerName() == kRootOwner ? list.end() : find([&](auto& entry) {
+          const clsMenuItem& other = *entry.second;
+          return isSibling(other) && other.SubMenu() == item->SubMenu() && other.SortCaption() > item->SortCaption();
+        });
+        if (place == list.end() && item->SubMenu() && item->OwnerName() != kRootOwner) {
+          place = find([&](auto& entry) { return isSibling(*entry.second) && !entry.second->SubMenu(); });
+        }
+        const auto at = place == list.end() ? place : key(place->second->Name());
+        const bool lost = place != list.end() && at == list.end();  // the sibling has another key than its name
+        const bool taken = store_.ItemExists(item->Name()) || key(item->Name()) != list.end();
+        if (!lost && !taken) list.insert(at, {UpperCaseText(item->Name()), item});
+        store_.AddOne(item, false, false);
+        break;
       }
-    } else if (action == 2) {
-      const std::wstring key = name();
-      store_.Remove(key);
-      std::erase_if(plain.list, [&](auto& entry) { return entry.first == UpperCaseText(key); });
-    } else if (action == 3) {
-      any->SetName(name());
-    } else if (action == 4) {
-      any->SetOwnerName(owner());
-    } else if (action == 5) {
-      any->SetCaption(title());
-    } else if (action == 6) {
-      below(2) == 0 ? any->SetSubMenu(below(2) == 0) : any->SetSeparator(below(2) == 0);
-    } else {
-      action == 7 ? any->SetID(below(60)) : any->SetOwnerID(below(5));
-    }
-    ASSERT_EQ(store_.Count(), static_cast<std::int32_t>(plain.list.size())) << step;
-    for (std::size_t i = 0; i < plain.list.size(); ++i) {
-      ASSERT_EQ(store_.Item(static_cast<std::int32_t>(i) + 1), plain.list[i].second) << step;
+      case 1: {
+        const std::wstring gone = name();
+        store_.Remove(gone);
+        if (const auto at = key(gone); at != list.end()) list.erase(at);
+        break;
+      }
+      case 2:
+        any->SetName(name());
+        break;
+      case 3:
+        any->SetOwnerName(owner());
+        break;
+      case 4:
+        any->SetCaption(title());
+        break;
+      case 5:
+        below(2) == 0 ? any->SetSubMenu(below(2) == 0) : any->SetSeparator(below(2) == 0);
+        break;
+      default:
+        any->SetID(below(60));
     }
     const std::wstring n = name(), o = owner(), t = title();
-    const std::int32_t id = below(60), ownerId = below(5);
-    const bool group = below(2) == 0;
-    const auto at = [&](std::size_t place) { return place == plain.list.size() ? nullptr : plain.list[place].second; };
-    const auto owned = [&](const clsMenuItem& item) { return item.OwnerName() == o; };
-    const auto titled = [&](auto& item) { return owned(item) && item.Caption() == t && item.Name() != n; };
-    const std::size_t named = plain.Find([&](auto& item) { return item.Name() == n; });
-    const std::size_t numbered = plain.Find([&](auto& item) { return item.ID() == id; });
-    ASSERT_EQ(store_.ItemExists(n), named != plain.list.size()) << step;
-    ASSERT_EQ(store_.GetMenuItemFromName(n), at(plain.Key(n))) << step;
-    ASSERT_EQ(store_.GetMenuItemFromID(id), at(numbered)) << step;
-    ASSERT_EQ(store_.GetNextFreeItemPosition(id, ownerId), plain.CountAhead(numbered, [&](auto& item) {
-      return item.OwnerID() == ownerId;
-    })) << step;
-    ASSERT_EQ(store_.ChildrenNumber(o), plain.CountAhead(plain.list.size(), owned)) << step;
-    ASSERT_EQ(store_.CountSameCaption(t, o, n), plain.CountAhead(plain.list.size(), titled)) << step;
-    ASSERT_EQ(store_.CaptionExists2(t, o, group, n),
-              at(plain.Find([&](auto& item) { return titled(item) && item.SubMenu() == group; })))
-        << step;
-    const ItemRef probe = Leaf(n, t, o);
-    store_.ItemFullPath(*probe);
-    ASSERT_EQ(probe->ItemLocation, plain.Location(*probe)) << step;
+    const std::int32_t id = below(60);
+    const auto numbered = find([&](auto& entry) { return entry.second->ID() == id; });
+    const auto same = find([&](auto& entry) {
+      const clsMenuItem& item = *entry.second;
+      return item.OwnerName() == o && item.Caption() == t && item.Name() != n && item.SubMenu();
+    });
+    const auto owned = [&](auto& entry) { return entry.second->OwnerName() == o; };
+    for (std::size_t i = 0; i < list.size(); ++i)
+      ASSERT_EQ(store_.Item(static_cast<int>(i) + 1), list[i].second) << step;
+    ASSERT_EQ(store_.Count(), static_cast<std::int32_t>(list.size())) << step;
+    ASSERT_EQ(store_.ItemExists(n), find([&](auto& entry) { return entry.second->Name() == n; }) != list.end()) << step;
+    ASSERT_EQ(store_.GetMenuItemFromName(n), itemAt(key(n))) << step;
+    ASSERT_EQ(store_.GetMenuItemFromID(id), itemAt(numbered)) << step;
+    ASSERT_EQ(store_.ChildrenNumber(o), std::count_if(list.begin(), list.end(), owned)) << step;
+    ASSERT_EQ(store_.CaptionExists2(t, o, true, n), itemAt(same)) << step;
   }
 }
 

@@ -106,6 +106,22 @@ TEST_F(MenuSetup, ThreeThousandEntriesInOneGroup) {
   EXPECT_EQ(scene_.WrongNumbers(), "");
 }
 
+TEST_F(MenuSetup, EntriesPastTheLastNumberStayOutAndTheTopLevelKeepsItsOwn) {
+  scene_.AddPersonal();
+  for (int i = 0; i < 0xF000; ++i) {
+    app_.MainStore->AddOne(test::MakeItem(scene_.machine.clock, L"", L"Entry", MIT_GROUP_USER), true, false);
+  }
+  AddFixedEntries(app_, *app_.MainStore, false);
+  scene_.Start();
+  const std::size_t shown =
+      scene_.machine.menus.Entries(app_.MainStore->GetMenuItemFromName(MIT_GROUP_USER)->ID()).size();
+  EXPECT_EQ(shown, 0xF000U - 256 - 52);
+  EXPECT_EQ(app_.MainStore->GetMenuItemFromName(L"N61440")->ID(), 0);
+  const ItemRef organize = app_.MainStore->GetMenuItemFromName(MIT_HF_ORGANIZE);
+  EXPECT_EQ(scene_.machine.menus.Entries(organize->OwnerID).at(static_cast<std::size_t>(organize->Position)).id,
+            organize->ID());
+}
+
 TEST_F(MenuSetup, MenuCallsThatFailLeaveTheOthersInPlace) {
   Fill();
   for (std::size_t call = 1; call <= 20; ++call) {
@@ -123,7 +139,7 @@ TEST_F(MenuSetup, ACloneHasEverythingAndADrivesTitleKeepsItsColon) {
   source->ItemType = MIT_DRIVE;
   source->SetID(1);
   source->Position = 2;
-  source->SetOwnerID(3);
+  source->OwnerID = 3;
   source->flags = 4;
   source->NameOld = L"old";
   source->KeyboardCode = 50;
@@ -134,7 +150,7 @@ TEST_F(MenuSetup, ACloneHasEverythingAndADrivesTitleKeepsItsColon) {
   EXPECT_EQ(clone.Caption(), L"C: (x)");
   EXPECT_EQ(clone.CaptionMenu(), L"menu");
   EXPECT_EQ(clone.ItemType, MIT_DRIVE);
-  EXPECT_EQ(clone.ID() + clone.Position + clone.OwnerID() + clone.flags, 10);
+  EXPECT_EQ(clone.ID() + clone.Position + clone.OwnerID + clone.flags, 10);
   EXPECT_EQ(clone.NameOld, L"old");
   EXPECT_EQ(clone.KeyboardCode, 50);
   EXPECT_EQ(clone.TimeAccessed, 7);

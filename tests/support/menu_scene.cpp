@@ -53,7 +53,7 @@ std::string MenuScene::WrongNumbers() {
   for (std::int32_t i = 1; i <= app.MainStore->Count(); ++i) {
     const clsMenuItem& item = *app.MainStore->Item(i);
     const std::string name = ToUtf8(item.Name());
-    const auto& siblings = machine.menus.Entries(item.OwnerID());
+    const auto& siblings = machine.menus.Entries(item.OwnerID);
     if (item.Position < 0 || static_cast<std::size_t>(item.Position) >= siblings.size()) return name + " has no place";
     const LocalMenuEntry& entry = siblings[static_cast<std::size_t>(item.Position)];
     if (entry.text != item.Caption() || !entry.IsOwnerDrawn()) return name + " has another entry at its place";
