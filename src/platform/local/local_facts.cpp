@@ -76,7 +76,7 @@ bool LocalFacts::ToAnsi(std::wstring_view text, std::string& bytes) const {
   bytes.reserve(text.size());
   bool allFit = true;
   for (const wchar_t c : text) {
-    if (c >= 0 && c < static_cast<wchar_t>(kPageStart)) {
+    if (static_cast<char32_t>(c) < kPageStart) {
       bytes += static_cast<char>(c);
       continue;
     }
