@@ -2,23 +2,36 @@
 
 namespace burrowmark {
 
+namespace {
+
+void CopyCounters(const clsMenuCollection& source, clsMenuCollection& target) {
+  target.IDCounter = source.IDCounter;
+  target.MenuNameCounter = source.MenuNameCounter;
+  target.FileMenuHandle = source.FileMenuHandle;
+}
+
+}  // namespace
+
 void CopyStore(const Clock& clock, const clsMenuCollection& source, clsMenuCollection& target) {
   for (std::int32_t i = 1; i <= source.Count(); ++i) {
     auto copy = std::make_shared<clsMenuItem>(clock);
     CloneMenuItem(*source.Item(i), *copy);
     target.AddOne(copy, true, false);
   }
-  target.IDCounter = source.IDCounter;
-  target.MenuNameCounter = source.MenuNameCounter;
-  target.FileMenuHandle = source.FileMenuHandle;
+  CopyCounters(source, target);
+}
+
+void HandOverItems(const clsMenuCollection& source, clsMenuCollection& target) {
+  for (std::int32_t i = 1; i <= source.Count(); ++i) target.AddOne(source.Item(i), true, false);
+  CopyCounters(source, target);
 }
 
 void CloneMenuItem(const clsMenuItem& source, clsMenuItem& target) {
-  target.ID = source.ID;
+  target.SetID(source.ID());
   target.Position = source.Position;
   target.SetName(source.Name());
   target.NameOld = source.NameOld;
-  if (source.OwnerName == MIT_PATHS_DRIVES) {
+  if (source.OwnerName() == MIT_PATHS_DRIVES) {
     target.SetCaption2(source.Caption());
   } else {
     target.SetCaption(source.Caption());
@@ -26,7 +39,7 @@ void CloneMenuItem(const clsMenuItem& source, clsMenuItem& target) {
   target.SetCaptionMenu(source.CaptionMenu());
   target.OwnerID = source.OwnerID;
   target.flags = source.flags;
-  target.OwnerName = source.OwnerName;
+  target.SetOwnerName(source.OwnerName());
   target.IconID = source.IconID;
   target.SetSeparator(source.Separator());
   target.SetSubMenu(source.SubMenu());
