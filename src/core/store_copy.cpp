@@ -2,28 +2,15 @@
 
 namespace burrowmark {
 
-namespace {
-
-void CopyCounters(const clsMenuCollection& source, clsMenuCollection& target) {
-  target.IDCounter = source.IDCounter;
-  target.MenuNameCounter = source.MenuNameCounter;
-  target.FileMenuHandle = source.FileMenuHandle;
-}
-
-}  // namespace
-
 void CopyStore(const Clock& clock, const clsMenuCollection& source, clsMenuCollection& target) {
   for (std::int32_t i = 1; i <= source.Count(); ++i) {
     auto copy = std::make_shared<clsMenuItem>(clock);
     CloneMenuItem(*source.Item(i), *copy);
     target.AddOne(copy, true, false);
   }
-  CopyCounters(source, target);
-}
-
-void HandOverItems(const clsMenuCollection& source, clsMenuCollection& target) {
-  for (std::int32_t i = 1; i <= source.Count(); ++i) target.AddOne(source.Item(i), true, false);
-  CopyCounters(source, target);
+  target.IDCounter = source.IDCounter;
+  target.MenuNameCounter = source.MenuNameCounter;
+  target.FileMenuHandle = source.FileMenuHandle;
 }
 
 void CloneMenuItem(const clsMenuItem& source, clsMenuItem& target) {
