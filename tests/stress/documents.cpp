@@ -111,9 +111,16 @@ std::wstring Documents::Known(const std::wstring& nameOrPath) {
 std::optional<Tree> Documents::Read(const std::wstring& path) {
   const std::filesystem::path real = machine_.RealPath(path);
   if (real.empty() || !std::filesystem::is_regular_file(real)) return std::nullopt;
+  std::string bytes = machine_.BytesOf(path);
+  const auto [known, isNew] = trees_.try_emplace(std::move(bytes));
+  if (isNew) known->second = Parse(known->first);
+  return known->second;
+}
+
+std::optional<Tree> Documents::Parse(const std::string& bytes) {
   clsMenuCollection store(machine_.clock);
   ConfigContent content;
-  if (!ReadConfig(app_, machine_.BytesOf(path), store, content)) return std::nullopt;
+  if (!ReadConfig(app_, bytes, store, content)) return std::nullopt;
   Tree tree;
   for (std::int32_t i = 1; i <= store.Count(); ++i) tree.Add(store.Item(i)->Caption());
   tree.Add(content.summary.SummaryTitle, false);
@@ -128,6 +135,25 @@ void Documents::Shown(const Tree& tree) {
 void Documents::Damage(const std::wstring& path) {
   machine_.AddFile(path, "no file of ours");
   files_[path] = {L'!', "no file of ours"};
+}
+
+std::map<std::wstring, std::string> Documents::Bytes() const {
+  std::map<std::wstring, std::string> all;
+  for (const std::wstring& path : Paths()) {
+    if (std::filesystem::is_regular_file(machine_.RealPath(path))) all[path] = machine_.BytesOf(path);
+  }
+  return all;
+}
+
+void Documents::PutBack(const std::map<std::wstring, std::string>& files) {
+  for (const std::wstring& path : Paths()) {
+    const std::filesystem::path real = machine_.RealPath(path);
+    if (files.contains(path)) {
+      machine_.AddFile(path, files.at(path));
+    } else if (!real.empty()) {
+      std::filesystem::remove(real);
+    }
+  }
 }
 
 bool Documents::Same(const Tree& one, const Tree& other) const {
@@ -163,7 +189,8 @@ void Documents::CheckFile(const std::wstring& path, const Tree& tree) {
     fail_("the tree of another document in " + name);
   }
   const std::vector<Tree>& moments = moments_[tree.mark];
-  const bool seen = std::any_of(moments.begin(), moments.end(), [&](const Tree& moment) { return Same(moment, tree); });
+  const bool seen =
+      std::any_of(moments.rbegin(), moments.rend(), [&](const Tree& moment) { return Same(moment, tree); });
   if (tree.mark != kNoMark && !seen) fail_("a tree that nobody ever saw in " + name);
   files_[path] = {tree.mark, machine_.BytesOf(path)};
 }

@@ -51,6 +51,9 @@ class Documents {
   void ForgetChoices() { chosen_.clear(); }
   // Puts something in place of a file that nobody can read.
   void Damage(const std::wstring& path);
+  // The files that are there, by path; and as they were then.
+  std::map<std::wstring, std::string> Bytes() const;
+  void PutBack(const std::map<std::wstring, std::string>& files);
   // Every file holds what its own document was at some moment.
   void Check();
   // Whether two trees are the same, but for items that were to go.
@@ -59,6 +62,7 @@ class Documents {
 
  private:
   void Make(const std::wstring& path, wchar_t mark);
+  std::optional<Tree> Parse(const std::string& bytes);
   void CheckFile(const std::wstring& path, const Tree& tree);
   bool IsKeptAside(const std::wstring& path);
 
@@ -74,6 +78,7 @@ class Documents {
   std::map<wchar_t, std::vector<Tree>> moments_;
   std::map<std::wstring, wchar_t> chosen_;
   std::set<std::wstring> deleted_;
+  std::map<std::string, std::optional<Tree>> trees_;  // of all bytes that were ever there
 };
 
 }  // namespace burrowmark::stress

@@ -13,7 +13,7 @@ namespace burrowmark::stress {
 namespace {
 
 constexpr unsigned kFirstSeed = 1;
-constexpr unsigned kSeeds = 40;
+constexpr unsigned kSeeds = 12;
 constexpr unsigned kLongestRun = 120;  // seconds; one that takes longer hangs
 
 const Stress* current = nullptr;

@@ -24,6 +24,9 @@ constexpr const char* kPlaces[] = {"loop", "DoEvents", "box", "file dialog", "me
 constexpr wchar_t kTitle[] = L"Organize Folders";
 constexpr wchar_t kProjected[] = L"C:\\Users\\User\\Desktop\\Organized Folders";
 
+constexpr std::int32_t kHotKeys[] = {49, 50, 51, 52};
+constexpr std::int32_t kKeys[] = {kKeyCodeF2, kKeyCodeF2, kKeyCodeF5, L'S'};
+
 // Entries of the editor's menus; the saving ones stand more than once.
 const MenuPath kEntries[] = {{L"File", L"Save"},
                              {L"File", L"Save As..."},
@@ -36,7 +39,6 @@ const MenuPath kEntries[] = {{L"File", L"Save"},
                              {L"File", L"Exit"},
                              {L"File", L"Exit"},
                              {L"View", L"Refresh"},
-                             
                              {L"Tools", L"Windows Explorer"},
                              {L"Tools", L"Refresh Organized Folders", L"on the Desktop"},
                              {L"Help", L"Contents"}};
@@ -55,73 +57,48 @@ void AddTitles(const ShownNode& node, Tree& tree) {
 
 }  // namespace
 
-// Something that happens: a row for each kind. What a later window brings is one more row.
+// Something that happens: a row for each kind. What a later window brings is one more row; what may be lost with the
+// user's consent, and what a box or a file dialog of it is answered, is added to HearBoxes, AnswerBox and AnswerFile.
 struct Stress::Deed {
   const char* name;
+  std::size_t percent;  // how often it happens when its turn comes
   void (*run)(Stress& run);
 };
 
 // What comes from outside, at any moment.
 constexpr Stress::Deed Stress::kRequests[] = {
-    {"/OF", [](Stress& s) { s.OtherProcess(L"/OF"); }},
-    {"/ADD", [](Stress& s) { s.OtherProcess(L"/ADD C:\\Windows"); }},
-    {"/OPEN", [](Stress& s) { s.OtherProcess(L"/OPEN " + s.AnyPath()); }},
-    {"/OPEN missing", [](Stress& s) { s.OtherProcess(L"/OPEN C:\\n" + std::to_wstring(++s.sent_) + L".bwmk"); }},
-    {"/EXIT",
+    {"/OF", 100, [](Stress& s) { s.OtherProcess(L"/OF"); }},
+    {"/ADD", 100, [](Stress& s) { s.OtherProcess(L"/ADD C:\\Windows"); }},
+    {"/OPEN", 100, [](Stress& s) { s.OtherProcess(L"/OPEN " + s.AnyPath()); }},
+    {"/OPEN missing", 100, [](Stress& s) { s.OtherProcess(L"/OPEN C:\\n" + std::to_wstring(++s.sent_) + L".bwmk"); }},
+    {"/EXIT", 15, [](Stress& s) { s.OtherProcess(L"/EXIT"); }},
+    {"close", 15, [](Stress& s) { s.Post(kMessageClose, 0); }},
+    {"hot key", 100,
      [](Stress& s) {
-       if (s.Chance(15)) s.OtherProcess(L"/EXIT");
+       s.machine_.keyboard.Press(s.AnyOf(kHotKeys), {kKeyControl, kKeyShift});
      }},
-    {"close",
-     [](Stress& s) {
-       if (s.Chance(15)) s.machine_.windows.PostMessageA(s.machine_.windows.Main(), kMessageClose, 0, 0);
-     }},
-    {"hot key",
-     [](Stress& s) {
-       s.machine_.keyboard.Press(static_cast<std::int32_t>(49 + s.Upto(4)), {kKeyControl, kKeyShift});
-     }},
-    {"tray", [](Stress& s) { s.machine_.user.ClickTray(LocalUser::Button::kLeft); }},
-    {"session end",
-     [](Stress& s) {
-       if (s.Chance(10)) s.EndSession();
-     }},
-    {"session stays",
-     [](Stress& s) { s.machine_.windows.PostMessageA(s.machine_.windows.Main(), kMessageEndSession, 0, 0); }},
-    {"drives", [](Stress& s) { s.ToggleDrive(s.Chance(80) ? L'E' : L'D'); }},
-    {"task bar",
-     [](Stress& s) {
-       s.machine_.user.LoseTaskBar();
-       s.machine_.user.StartTaskBar();
-     }},
-    {"scale",
-     [](Stress& s) {
-       s.machine_.windows.Dpi = static_cast<std::int32_t>(96 + 48 * s.Upto(3));
-       s.machine_.windows.PostMessageA(s.machine_.windows.Main(), kMessageDpiChanged, s.machine_.windows.Dpi, 0);
-       if (const auto editor = s.Editor()) editor->ChangeScale(s.machine_.windows.Dpi);
-     }},
-    {"typing", [](Stress& s) { s.Type(); }},
-    {"close box",
-     [](Stress& s) {
-       for (const auto& window : s.machine_.windows.Desktop.Visible()) window->Close();
-     }},
+    {"tray", 100, [](Stress& s) { s.machine_.user.ClickTray(LocalUser::Button::kLeft); }},
+    {"tray", 100, [](Stress& s) { s.machine_.user.ClickTray(LocalUser::Button::kRight); }},
+    {"session end", 15, [](Stress& s) { s.EndSession(); }},
+    {"session stays", 50, [](Stress& s) { s.Post(kMessageEndSession, 0); }},
+    {"drive", 100, [](Stress& s) { s.ToggleDrive(L'E'); }},
+    {"drive of a file", 15, [](Stress& s) { s.ToggleDrive(L'D'); }},
+    {"task bar", 50, [](Stress& s) { s.RestartTaskBar(); }},
+    {"scale", 50, [](Stress& s) { s.ChangeScale(); }},
+    {"typing", 100, [](Stress& s) { s.Type(); }},
+    {"close box", 50, [](Stress& s) { s.CloseWindows(); }},
 };
 
 // What the user does only when the program waits for it.
 constexpr Stress::Deed Stress::kUserDeeds[] = {
-    {"rename", [](Stress& s) { s.Rename(); }},
-    {"rename", [](Stress& s) { s.Rename(); }},
-    {"menu bar", [](Stress& s) { s.ChooseFromBar(); }},
-    {"menu bar", [](Stress& s) { s.ChooseFromBar(); }},
-    {"popup",
-     [](Stress& s) {
-       const auto editor = s.Editor();
-       if (editor)
-         editor->ClickNode(TreeOf(*editor)->window, TreeOf(*editor)->tree->Visible().back()->text, kRightButton);
-     }},
-    {"time", [](Stress& s) { s.machine_.windows.Advance(static_cast<std::int64_t>(s.Upto(4000))); }},
-    {"fault",
-     [](Stress& s) {
-       if (s.Chance(20)) s.Fault();
-     }},
+    {"rename", 100, [](Stress& s) { s.Rename(); }},
+    {"rename", 100, [](Stress& s) { s.Rename(); }},
+    {"menu bar", 100, [](Stress& s) { s.ChooseFromBar(); }},
+    {"menu bar", 100, [](Stress& s) { s.ChooseFromBar(); }},
+    {"popup", 100, [](Stress& s) { s.ClickRight(); }},
+    {"tray", 100, [](Stress& s) { s.machine_.user.ClickTray(LocalUser::Button::kLeft); }},
+    {"time", 100, [](Stress& s) { s.machine_.windows.Advance(static_cast<std::int64_t>(s.Upto(4000))); }},
+    {"fault", 20, [](Stress& s) { s.Fault(); }},
 };
 
 Stress::Stress(unsigned seed, Coverage& coverage)
@@ -180,7 +157,7 @@ void Stress::RunOnce() {
   }
   Note("ended");
   if (sessionOver_) {  // nothing that came after counts
-    for (const auto& [path, bytes] : atSessionEnd_) machine_.AddFile(path, bytes);
+    documents_.PutBack(atSessionEnd_);
     sessionOver_ = false;
   } else {
     Judge();
@@ -197,9 +174,9 @@ bool Stress::Step() {
   if (sessionOver_ || ++steps_ > lastStep_) {
     WindDown();
   } else if (Chance(50)) {
-    Do(kRequests[Upto(std::size(kRequests))], 0);
+    Do(AnyOf(kRequests), 0);
   } else {
-    Do(kUserDeeds[Upto(std::size(kUserDeeds))], 0);
+    Do(AnyOf(kUserDeeds), 0);
   }
   return true;
 }
@@ -210,12 +187,13 @@ void Stress::Meet(YieldPoint point) {
   ++depth_;
   const std::size_t count = sessionOver_ || steps_ > lastStep_ ? 0 : Upto(5) / 2;
   for (std::size_t i = 0; i < count; ++i) {
-    Do(kRequests[Upto(std::size(kRequests))], static_cast<std::size_t>(point) + 1);
+    Do(AnyOf(kRequests), static_cast<std::size_t>(point) + 1);
   }
   --depth_;
 }
 
 void Stress::Do(const Deed& deed, std::size_t place) {
+  if (!Chance(deed.percent)) return;
   ++coverage_[deed.name].at(place);
   Note(std::string(static_cast<std::size_t>(depth_) * 2, ' ') + kPlaces[place] + ": " + deed.name);
   const bool before = std::exchange(acting_, place == 0);
@@ -307,11 +285,10 @@ void Stress::SessionOver() {
   if (sessionOver_ || machine_.windows.Main() == 0) return;
   Look();
   const std::optional<EditorView> editor = LookAtEditor();
-  const bool saved = !editor || mayLose_ || faulted_ || documents_.AnyFileHolds(editor->tree);
+  const bool saved =
+      !editor || editor->tree.mark == kNoMark || mayLose_ || faulted_ || documents_.AnyFileHolds(editor->tree);
   if (!saved) Fail("the end of the session lost what was edited");
-  for (const std::wstring& path : Documents::Paths()) {
-    if (documents_.Read(path)) atSessionEnd_[path] = machine_.BytesOf(path);
-  }
+  atSessionEnd_ = documents_.Bytes();
   sessionOver_ = true;
 }
 
@@ -321,9 +298,12 @@ void Stress::Type() {
   if (!editor || !editor->enabled) return;
   ShownControl* edited = editor->Edited();
   if (edited == nullptr) {
-    constexpr std::int32_t kKeys[] = {kKeyCodeF2, kKeyCodeF2, kKeyCodeF5, L'S'};
-    const std::int32_t key = kKeys[Upto(std::size(kKeys))];
-    return editor->Press(key, key == L'S' ? kCtrlMask : 0);
+    const std::int32_t key = AnyOf(kKeys);
+    editor->Press(key, key == L'S' ? kCtrlMask : 0);
+    if (key != kKeyCodeF2 || Chance(30)) return;
+    return machine_.windows.Post([this] {
+      if (const auto later = Editor(); later && later->Edited() != nullptr) Type();
+    });
   }
   const std::wstring id = IdOf(*edited->labelEdit);
   if (!id.empty()) edited->labelEdit = id + L" r" + std::to_wstring(++revision_);
@@ -333,7 +313,7 @@ void Stress::Type() {
 
 void Stress::Rename() {
   const auto editor = Editor();
-  if (!editor) return OtherProcess(L"/OF");
+  if (!editor) return OpenEditorAtTimes();
   const ShownControl* tree = TreeOf(*editor);
   const std::vector<ShownNode*> nodes = tree->tree->Visible();
   const ShownNode* node = nodes.at(Upto(nodes.size()));
@@ -345,10 +325,41 @@ void Stress::Rename() {
 
 void Stress::ChooseFromBar() {
   const auto editor = Editor();
-  if (!editor) return OtherProcess(L"/OF");
-  const MenuPath& path = kEntries[Upto(std::size(kEntries))];
+  if (!editor) return OpenEditorAtTimes();
+  const MenuPath& path = AnyOf(kEntries);
   Note("chooses " + ToUtf8(path.back()));
   editor->ChooseMenu(path);
+}
+
+// The menu is there only while it is closed.
+void Stress::OpenEditorAtTimes() {
+  if (Chance(25)) OtherProcess(L"/OF");
+}
+
+void Stress::ClickRight() {
+  const auto editor = Editor();
+  if (!editor) return;
+  const ShownControl* tree = TreeOf(*editor);
+  editor->ClickNode(tree->window, tree->tree->Visible().back()->text, kRightButton);
+}
+
+void Stress::CloseWindows() {
+  for (const auto& window : machine_.windows.Desktop.Visible()) window->Close();
+}
+
+void Stress::Post(std::uint32_t message, std::int64_t wParam) {
+  machine_.windows.PostMessageA(machine_.windows.Main(), message, wParam, 0);
+}
+
+void Stress::RestartTaskBar() {
+  machine_.user.LoseTaskBar();
+  machine_.user.StartTaskBar();
+}
+
+void Stress::ChangeScale() {
+  machine_.windows.Dpi = static_cast<std::int32_t>(96 + 48 * Upto(3));
+  Post(kMessageDpiChanged, machine_.windows.Dpi);
+  if (const auto editor = Editor()) editor->ChangeScale(machine_.windows.Dpi);
 }
 
 void Stress::Fault() {
@@ -407,12 +418,6 @@ void Stress::Judge() {
   const std::optional<EditorView> editor = LookAtEditor();
   if (unsaved_ && documents_.AnyFileHolds(unsaved_->tree)) unsaved_.reset();
   const bool stays = unsaved_ && editor && documents_.Same(editor->tree, unsaved_->tree);
-  if (unsaved_ && !stays && !mayLose_ && getenv("DBG")) {
-    for (auto& t : unsaved_->tree.titles) std::cout << ToUtf8(t) << ";";
-    std::cout << "\n";
-    if (editor) for (auto& t : editor->tree.titles) std::cout << ToUtf8(t) << ";";
-    for (auto& p : Documents::Paths()) { std::cout << "\n" << ToUtf8(p) << " "; if (auto f = documents_.Read(p)) for (auto& t : f->titles) std::cout << ToUtf8(t) << ";"; }
-  }
   if (unsaved_ && !stays && !mayLose_) Fail("what was edited is lost: " + ToUtf8(unsaved_->path));
   if (!stays) unsaved_.reset();
   mayLose_ = false;

@@ -48,6 +48,10 @@ class Stress {
   // Chance.
   std::size_t Upto(std::size_t count) { return random_() % count; }
   bool Chance(std::size_t percent) { return Upto(100) < percent; }
+  template <typename Rows>
+  const auto& AnyOf(const Rows& rows) {
+    return rows[Upto(std::size(rows))];
+  }
   std::wstring AnyPath();
   BoxAnswer AnswerBox(const std::wstring& text, std::uint32_t style);
   FileScript AnswerFile(const std::wstring& title);
@@ -60,6 +64,12 @@ class Stress {
   void Type();
   void Rename();
   void ChooseFromBar();
+  void OpenEditorAtTimes();
+  void ClickRight();
+  void CloseWindows();
+  void Post(std::uint32_t message, std::int64_t wParam);
+  void RestartTaskBar();
+  void ChangeScale();
   void Fault();
   void ToggleDrive(wchar_t letter);
 
