@@ -10,6 +10,7 @@
 #include "core/hot_keys.h"
 #include "core/menu_entries.h"
 #include "core/store_copy.h"
+#include "core/text.h"
 #include "groups/personal_group.h"
 #include "groups/system_folders.h"
 
@@ -72,8 +73,9 @@ void InsertEntry(Application& app, clsMenuItem& item, bool replacesDummy) {
   bool noOwner = false;
   item.OwnerID = store.GetIDFromName(item.OwnerName, noOwner);
   item.Position = store.GetNextFreeItemPosition(item.ID, item.OwnerID);
-  const bool done = replacesDummy ? menus.ModifyMenuA(item.OwnerID, item.Position, item.flags, item.ID, item.Caption())
-                                  : menus.InsertMenuA(item.OwnerID, item.Position, item.flags, item.ID, item.Caption());
+  const std::wstring text = WithDoubledAmpersands(item.Caption());
+  const bool done = replacesDummy ? menus.ModifyMenuA(item.OwnerID, item.Position, item.flags, item.ID, text)
+                                  : menus.InsertMenuA(item.OwnerID, item.Position, item.flags, item.ID, text);
   if (!done && item.SubMenu()) {
     menus.DestroyMenu(item.ID);
     item.ID = 0;
@@ -83,7 +85,8 @@ void InsertEntry(Application& app, clsMenuItem& item, bool replacesDummy) {
 // Second pass: the entry is drawn by the program. Its text stays with it for screen readers and typed letters.
 void MakeOwnerDrawn(Application& app, clsMenuItem& item) {
   item.flags = kMenuByPosition | kMenuOwnerDrawn | (item.Separator() ? kMenuSeparator : 0);
-  app.platform.menus.ModifyMenuA(item.OwnerID, item.Position, item.flags, item.ID, item.Caption());
+  const std::wstring text = WithDoubledAmpersands(item.Caption());
+  app.platform.menus.ModifyMenuA(item.OwnerID, item.Position, item.flags, item.ID, text);
 }
 
 }  // namespace

@@ -1,6 +1,8 @@
 #include "menu/menu_system.h"
 
 #include "core/failure.h"
+#include "core/registry.h"
+#include "core/registry_keys.h"
 #include "core/text.h"
 #include "menu/menu_actions.h"
 #include "menu/menu_setup.h"
@@ -9,6 +11,14 @@ namespace burrowmark {
 namespace {
 
 constexpr std::int32_t kIconSize = 16;  // at 96 dots per inch
+
+bool AppsAreDark(Application& app) {
+  std::int32_t light = 1;
+  const std::wstring key = std::wstring(kCurrentVersionKey) + L"\\Themes\\Personalize";
+  return clsRegHandler(app.platform.registry)
+             .GetKeyValueDWord(RegistryKey::kCurrentUser, key, L"AppsUseLightTheme", light) &&
+         light == 0;
+}
 
 }  // namespace
 
@@ -23,8 +33,6 @@ void MenuSystem::LoadMenuIcons() {
 }
 
 void MenuSystem::HookMenuWindow() {
-  Drawing& drawing = app_.platform.drawing;
-  look_.IconFrameAllowed = drawing.GetSysColor(kColor3DHighlight) != drawing.GetSysColor(kColorMenu);
   look_.SelectedState = app_.Os.SelectedState;
   app_.platform.windows.SetWindowHook(app_.MainWindow,
                                       [this](WindowMessage& message) { return MenuWindowProc(message); });
@@ -43,6 +51,12 @@ bool MenuSystem::SetScale(std::int32_t dpi) {
   look_.dpi = dpi;
   LoadMenuIcons();
   return true;
+}
+
+Color MenuSystem::ChooseColors() {
+  Drawing& drawing = app_.platform.drawing;
+  look_.Dark = !drawing.IsHighContrast() && IsLight(drawing.GetSysColor(kColorMenu)) && AppsAreDark(app_);
+  return MenuBackground(drawing, look_);
 }
 
 MessageResult MenuSystem::MenuWindowProc(WindowMessage& message) {

@@ -59,11 +59,16 @@ void Win32Drawing::DrawIconEx(DeviceContext context, std::int32_t x, std::int32_
   ::DrawIconEx(ToHdc(context), x, y, ToHicon(icon), width, height, 0, nullptr, flags);
 }
 
+void Win32Drawing::ExcludeClipRect(DeviceContext context, const Rect& rect) {
+  ::ExcludeClipRect(ToHdc(context), rect.left, rect.top, rect.right, rect.bottom);
+}
+
 DeviceContext Win32Drawing::MenuMeasureContext(std::int32_t dpi) { return FromHdc(font_.Context(dpi)); }
 
-std::int32_t Win32Drawing::GetCharWidth32A(DeviceContext context, wchar_t character) {
-  INT width = 0;
-  return ::GetCharWidth32W(ToHdc(context), character, character, &width) != FALSE ? width : 0;
+TextExtent Win32Drawing::GetTextExtentPoint32A(DeviceContext context, const std::wstring& text) {
+  SIZE size = {};
+  ::GetTextExtentPoint32W(ToHdc(context), text.c_str(), static_cast<int>(text.size()), &size);
+  return {static_cast<std::int32_t>(size.cx), static_cast<std::int32_t>(size.cy)};
 }
 
 std::int32_t Win32Drawing::MenuIconCount() { return kIconCount; }
