@@ -1,8 +1,6 @@
 #include "menu/menu_system.h"
 
 #include "core/failure.h"
-#include "core/registry.h"
-#include "core/registry_keys.h"
 #include "core/text.h"
 #include "menu/menu_actions.h"
 #include "menu/menu_setup.h"
@@ -11,14 +9,6 @@ namespace burrowmark {
 namespace {
 
 constexpr std::int32_t kIconSize = 16;  // at 96 dots per inch
-
-bool AppsAreDark(Application& app) {
-  std::int32_t light = 1;
-  const std::wstring key = std::wstring(kCurrentVersionKey) + L"\\Themes\\Personalize";
-  return clsRegHandler(app.platform.registry)
-             .GetKeyValueDWord(RegistryKey::kCurrentUser, key, L"AppsUseLightTheme", light) &&
-         light == 0;
-}
 
 }  // namespace
 
@@ -55,7 +45,7 @@ bool MenuSystem::SetScale(std::int32_t dpi) {
 
 Color MenuSystem::ChooseColors() {
   Drawing& drawing = app_.platform.drawing;
-  look_.Dark = !drawing.IsHighContrast() && IsLight(drawing.GetSysColor(kColorMenu)) && AppsAreDark(app_);
+  look_.Dark = !drawing.IsHighContrast() && IsLight(drawing.GetSysColor(kColorMenu)) && drawing.AppsAreDark();
   return MenuBackground(drawing, look_);
 }
 

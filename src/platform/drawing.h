@@ -52,6 +52,8 @@ class Drawing {
   virtual Color GetSysColor(std::int32_t index) = 0;
   // True if the user asked for high contrast.
   virtual bool IsHighContrast() = 0;
+  // True if the user wants dark apps, which changes no system colour.
+  virtual bool AppsAreDark() = 0;
 
   // A brush must be deleted by whoever made it.
   virtual BrushHandle CreateSolidBrush(Color color) = 0;

@@ -274,7 +274,7 @@ TEST_F(Config, TheListingShowsCountsAndTheTree) {
             "[Personal]\r\n [Group]\r\n  D ()\r\n  Inner (C:\\i)\r\n  Open-All ()\r\n Projects (D:\\Projects)\r\n"
             "[System Folders]\r\n");
   store_->GetMenuItemFromName(L"N1")->SetCaption(L"\x41F");
-  store_->GetMenuItemFromName(MIT_GROUP_USER)->OwnerName = L"G";  // a circle of owners ends
+  store_->GetMenuItemFromName(MIT_GROUP_USER)->SetOwnerName(L"G");  // a circle of owners ends
   ASSERT_TRUE(Write(true));
   EXPECT_TRUE(machine_.BytesOf(kPath).starts_with("\xEF\xBB\xBF"));
 }

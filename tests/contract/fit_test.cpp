@@ -4,10 +4,10 @@
 #include <vector>
 
 #include "core/application.h"
+#include "core/progress.h"
 #include "organize/frm_organize.h"
 #include "platform/characters.h"
 #include "tests/contract/system_under_test.h"
-#include "tools/progress.h"
 #include "ui/check_box.h"
 #include "ui/frame.h"
 
@@ -26,7 +26,7 @@ struct FormKind {
 std::vector<FormKind> FormKinds() {
   return {
       {"frmPause", [](Application& app) { return std::make_unique<frmPause>(app); }},
-      {"frmOrganize", [](Application& app) { return std::make_unique<frmOrganize>(app, OrganizeCalls()); }},
+      {"frmOrganize", [](Application& app) { return std::make_unique<frmOrganize>(app); }},
   };
 }
 

@@ -5,7 +5,6 @@
 
 #include "core/hot_keys.h"
 #include "core/menu_entries.h"
-#include "core/registry.h"
 #include "tests/support/menu_scene.h"
 
 namespace burrowmark {
@@ -198,9 +197,7 @@ TEST_F(MenuInUse, AnAmpersandIsALetterLikeAnyOther) {
 }
 
 TEST_F(MenuInUse, WhereAppsAreDarkTheMenuIsUnlessTheSystemsColoursSayMore) {
-  clsRegHandler(machine_.registry)
-      .SaveKeyValueDWord(RegistryKey::kCurrentUser,
-                         L"Software\\Microsoft\\Windows\\CurrentVersion\\Themes\\Personalize", L"AppsUseLightTheme", 0);
+  machine_.drawing.DarkApps = true;
   constexpr Color kDark = 0x2B2B2B;
   EXPECT_EQ(scene_.menu.ChooseColors(), kDark);
   machine_.drawing.HighContrast = true;

@@ -28,7 +28,8 @@ class MenuDrawing : public testing::Test {
   const Canvas& Draw(std::uint32_t state, std::int32_t width = 120, std::int32_t height = 19) {
     context_ = drawing_.OpenContext(look_.dpi, 400, 200, kPaper);
     drawing_.StartDrawing(context_);
-    MenuItemDraw(drawing_, look_, item_, {kControlMenu, item_.ID, state, context_, {10, 20, 10 + width, 20 + height}});
+    MenuItemDraw(drawing_, look_, item_,
+                 {kControlMenu, item_.ID(), state, context_, {10, 20, 10 + width, 20 + height}});
     EXPECT_EQ(drawing_.LiveBrushes() + drawing_.FailedDeletes(), 0U);
     return drawing_.Pixels(context_);
   }
@@ -148,7 +149,7 @@ TEST_F(MenuDrawing, TheDarkPairIsLightOnDarkWithAnArrowThatIsSeen) {
   EXPECT_EQ(Call("DrawTextA").color, 0xFFFFFFU);
   EXPECT_EQ(canvas.At(118, 29), 0xFFFFFFU);
   EXPECT_EQ(Call("ExcludeClipRect").rect, (Rect{10, 20, 130, 39})) << "the system's arrow is kept away";
-  EXPECT_EQ(Draw(257).At(100, 30), kRed);
+  EXPECT_EQ(Draw(257).At(100, 30), kHighlight);
 }
 
 TEST_F(MenuDrawing, WidthsAreTheSumOfTheCharactersOfTheShortenedTitle) {

@@ -31,6 +31,7 @@ class LocalDrawing final : public Drawing {
   // For tests, which change any of these.
   std::map<std::int32_t, Color> Colors;  // by index; one that is missing is 0
   bool HighContrast = false;
+  bool DarkApps = false;
   std::int32_t IconCount = 13;
   std::int32_t MenuFontHeight = 13;  // at kDesignDpi
 
@@ -54,6 +55,7 @@ class LocalDrawing final : public Drawing {
 
   Color GetSysColor(std::int32_t index) override;
   bool IsHighContrast() override { return HighContrast; }
+  bool AppsAreDark() override { return DarkApps; }
   BrushHandle CreateSolidBrush(Color color) override;
   bool DeleteObject(BrushHandle brush) override;
   void FillRect(DeviceContext context, const Rect& rect, BrushHandle brush) override;

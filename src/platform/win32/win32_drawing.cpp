@@ -32,6 +32,14 @@ bool Win32Drawing::IsHighContrast() {
          (contrast.dwFlags & HCF_HIGHCONTRASTON) != 0;
 }
 
+bool Win32Drawing::AppsAreDark() {
+  DWORD light = 1;
+  DWORD size = sizeof(light);
+  ::RegGetValueW(HKEY_CURRENT_USER, L"Software\\Microsoft\\Windows\\CurrentVersion\\Themes\\Personalize",
+                 L"AppsUseLightTheme", RRF_RT_REG_DWORD, nullptr, &light, &size);
+  return light == 0;
+}
+
 BrushHandle Win32Drawing::CreateSolidBrush(Color color) {
   return reinterpret_cast<INT_PTR>(::CreateSolidBrush(color & kColorBits));
 }

@@ -18,6 +18,7 @@ class Win32Drawing final : public Drawing {
 
   Color GetSysColor(std::int32_t index) override;
   bool IsHighContrast() override;
+  bool AppsAreDark() override;
   BrushHandle CreateSolidBrush(Color color) override;
   bool DeleteObject(BrushHandle brush) override;
   void FillRect(DeviceContext context, const Rect& rect, BrushHandle brush) override;
