@@ -29,8 +29,8 @@ class BenchMenu {
         {.Caption = L"Personal", .OwnerName = kRootOwner, .Name = MIT_GROUP_USER, .SubMenu = true});
     for (std::int64_t i = 0; i < entries; ++i) {
       app_.MainStore().AddNewMenuItem({.Caption = L"A shortcut with a title of some length",
-                                      .OwnerName = MIT_GROUP_USER,
-                                      .FolderPath = L"C:\\Windows"});
+                                       .OwnerName = MIT_GROUP_USER,
+                                       .FolderPath = L"C:\\Windows"});
     }
     AddFixedEntries(app_, app_.MainStore(), false);
     menu_.LoadMenuIcons();

@@ -24,6 +24,12 @@ std::wstring_view TrimmedPart(std::wstring_view text) {
   return text.substr(first, text.find_last_not_of(L' ') - first + 1);
 }
 
+std::wstring WithDoubledAmpersands(std::wstring_view text) {
+  std::wstring doubled;
+  for (const wchar_t character : text) doubled.append(character == L'&' ? 2 : 1, character);
+  return doubled;
+}
+
 std::vector<std::wstring> Split(std::wstring_view text, wchar_t separator) {
   std::vector<std::wstring> parts;
   std::size_t start = 0;

@@ -11,6 +11,7 @@
 #include "core/hot_keys.h"
 #include "core/menu_entries.h"
 #include "core/store_copy.h"
+#include "core/text.h"
 #include "groups/personal_group.h"
 #include "groups/system_folders.h"
 
@@ -97,7 +98,8 @@ void InsertEntry(Application& app, clsMenuItem& item, PlacesTaken& taken, bool r
   item.OwnerID = store.GetIDFromName(item.OwnerName(), noOwner);
   item.Position = taken[item.OwnerID];
   const auto put = replacesDummy ? &Menus::ModifyMenuA : &Menus::InsertMenuA;
-  const bool done = (menus.*put)(item.OwnerID, item.Position, item.flags, item.ID(), item.Caption());
+  const std::wstring text = WithDoubledAmpersands(item.Caption());
+  const bool done = (menus.*put)(item.OwnerID, item.Position, item.flags, item.ID(), text);
   if (!done && item.SubMenu()) {
     menus.DestroyMenu(item.ID());
     item.SetID(0);
@@ -107,7 +109,8 @@ void InsertEntry(Application& app, clsMenuItem& item, PlacesTaken& taken, bool r
 // Second pass: the entry is drawn by the program. Its text stays with it for screen readers and typed letters.
 void MakeOwnerDrawn(Application& app, clsMenuItem& item) {
   item.flags = kMenuByPosition | kMenuOwnerDrawn | (item.Separator() ? kMenuSeparator : 0);
-  app.platform.menus.ModifyMenuA(item.OwnerID, item.Position, item.flags, item.ID(), item.Caption());
+  const std::wstring text = WithDoubledAmpersands(item.Caption());
+  app.platform.menus.ModifyMenuA(item.OwnerID, item.Position, item.flags, item.ID(), text);
 }
 
 }  // namespace

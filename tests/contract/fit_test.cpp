@@ -4,10 +4,10 @@
 #include <vector>
 
 #include "core/application.h"
+#include "core/progress.h"
 #include "organize/frm_organize.h"
 #include "platform/characters.h"
 #include "tests/contract/system_under_test.h"
-#include "core/progress.h"
 #include "ui/check_box.h"
 #include "ui/frame.h"
 

@@ -65,6 +65,12 @@ Size LocalScreen::ClientOf(WindowHandle form) { return {Form(form)->client.right
 
 void LocalScreen::Click(WindowHandle form, WindowHandle button) { Form(form)->Click(TextOf(button)); }
 
+void LocalScreen::Mouse(WindowHandle form, MouseAction action, const MouseEvent& event) {
+  Form(form)->Mouse(0, action, event);
+}
+
+void LocalScreen::LoseMouse(WindowHandle form) { Form(form)->LoseMouse(); }
+
 void LocalScreen::Press(WindowHandle form, std::int32_t keyCode, std::int32_t shift) {
   Form(form)->Press(keyCode, shift);
 }

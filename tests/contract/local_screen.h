@@ -22,6 +22,8 @@ class LocalScreen final : public ScreenUnderTest {
   Rect PlaceOf(WindowHandle form, WindowHandle control) override;
   Size ClientOf(WindowHandle form) override;
   void Click(WindowHandle form, WindowHandle button) override;
+  void Mouse(WindowHandle form, MouseAction action, const MouseEvent& event) override;
+  void LoseMouse(WindowHandle form) override;
   void Press(WindowHandle form, std::int32_t keyCode, std::int32_t shift) override;
   void PressAlt(WindowHandle form, wchar_t character) override;
   void Close(WindowHandle form) override;

@@ -33,6 +33,9 @@ class ScreenUnderTest {
 
   // All of these end when the program has handled them.
   virtual void Click(WindowHandle form, WindowHandle button) = 0;
+  // A button over the form where no control is, in twips; and the system takes the mouse away meanwhile.
+  virtual void Mouse(WindowHandle form, MouseAction action, const MouseEvent& event) = 0;
+  virtual void LoseMouse(WindowHandle form) = 0;
   virtual void Press(WindowHandle form, std::int32_t keyCode, std::int32_t shift = 0) = 0;
   virtual void PressAlt(WindowHandle form, wchar_t character) = 0;
   virtual void Close(WindowHandle form) = 0;

@@ -62,6 +62,9 @@ class TestForm final : public Form {
     Raise(OnResize);
   }
   void Form_Deactivate() override { Raise(OnDeactivate); }
+  void Form_MouseUp(const MouseEvent& event) override {
+    Say("up " + std::to_string(event.button) + " at " + std::to_string(event.x));
+  }
   void Form_KeyDown(std::int32_t& KeyCode, std::int32_t Shift) override {
     if (OnKey && OnKey(KeyCode, Shift)) KeyCode = 0;
   }
@@ -258,6 +261,25 @@ TEST_P(UiContract, AFilmThatIsMissingIsNoError) {
 }
 
 // --- buttons and keys
+
+TEST_P(UiContract, APressOnAFormHasOneEndAlsoWhereTheMouseIsTakenAway) {
+  form_.Show();
+  const auto mouse = [this](MouseAction action, std::int32_t x) {
+    screen_.Mouse(form_.Window(), action, {kLeftButton, 0, x, 2700});
+  };
+  const std::function<void()> ends[] = {[&] { mouse(MouseAction::kUp, 4500); },
+                                        [this] { screen_.LoseMouse(form_.Window()); }, [this] { other_.Show(); },
+                                        [this] { form_.SetEnabled(false); }};
+  for (const auto& end : ends) {
+    mouse(MouseAction::kDown, 3000);
+    mouse(MouseAction::kMove, 4500);
+    end();
+    EXPECT_EQ(Heard(), Texts({"First up 1 at 4500"})) << &end - ends;
+    form_.SetEnabled(true);
+    mouse(MouseAction::kUp, 6000);
+    EXPECT_EQ(Heard(), Texts()) << &end - ends;
+  }
+}
 
 TEST_P(UiContract, AButtonIsPressedByMouseKeysAndCode) {
   form_.Show();

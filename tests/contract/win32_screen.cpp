@@ -144,6 +144,21 @@ void Win32Screen::Click(WindowHandle, WindowHandle button) {
   windows_.DoEvents();
 }
 
+void Win32Screen::Mouse(WindowHandle form, MouseAction action, const MouseEvent& event) {
+  const bool left = event.button == kLeftButton;
+  const UINT down = left ? WM_LBUTTONDOWN : WM_RBUTTONDOWN;
+  const UINT up = left ? WM_LBUTTONUP : WM_RBUTTONUP;
+  const UINT message = action == MouseAction::kMove ? WM_MOUSEMOVE : action == MouseAction::kDown ? down : up;
+  const auto dpi = scales_.contains(form) ? scales_[form] : kDesignDpi;
+  ::PostMessageW(ToHwnd(form), message, 0, MAKELPARAM(ToPixels(event.x, dpi), ToPixels(event.y, dpi)));
+  windows_.DoEvents();
+}
+
+void Win32Screen::LoseMouse(WindowHandle) {
+  ::ReleaseCapture();
+  windows_.DoEvents();
+}
+
 void Win32Screen::Press(WindowHandle form, std::int32_t keyCode, std::int32_t shift) {
   const HeldModifiers held(shift);
   const HWND target = KeyTarget(ToHwnd(form));

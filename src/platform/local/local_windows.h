@@ -89,6 +89,7 @@ class LocalWindows final : public WindowSystem, private LocalProcess {
   void DestroyMainWindow(WindowHandle window) override;
   void SetWindowHook(WindowHandle window, std::function<MessageResult(WindowMessage&)> hook) override;
   std::int32_t MouseScreenDpi() override { return Dpi; }
+  std::int32_t MainScreenDpi() override { return Dpi; }
   std::vector<Box> Screens() override;
   std::uint32_t RegisterWindowMessageA(const std::wstring& name) override { return session_->MessageNumber(name); }
   bool PostMessageA(WindowHandle window, std::uint32_t message, std::int64_t wParam, std::int64_t lParam) override;
