@@ -1,6 +1,7 @@
 // The clock of the local machine: the time of the system below it, unless a test sets it.
 #pragma once
 
+#include <ctime>
 #include <optional>
 
 #include "platform/system_facts.h"
@@ -12,6 +13,7 @@ class LocalClock final : public Clock {
   std::optional<LocalTime> Fixed;  // while it is set, the clock stands at this moment
 
   LocalTime GetLocalTime() const override;
+  static LocalTime Split(std::time_t moment);
 };
 
 }  // namespace burrowmark
