@@ -1,6 +1,6 @@
 // Building the native menu, drawing it and opening it, over the local machine.
 //
-// Marks, as medians: a full build of 300 entries in 5 ms and of 3,000 in 100 ms.
+// Marks, as medians: a full build of 3,000 entries in 4 ms, a rebuild in 10 ms.
 #include <benchmark/benchmark.h>
 
 #include <filesystem>

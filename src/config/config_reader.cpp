@@ -21,10 +21,10 @@ struct RecordField {
 // The type follows the two booleans, so that the file's type stands. The network path has no meaning.
 constexpr RecordField kFields[kRecordFields] = {
     {false, [](clsMenuItem& item, std::wstring_view token) { item.Position = ToInt32(token); }},
-    {false, [](clsMenuItem& item, std::wstring_view token) { item.SetName(std::wstring(token)); }},
+    {false, [](clsMenuItem& item, std::wstring_view token) { item.SetName(token); }},
     {false, [](clsMenuItem& item, std::wstring_view token) { item.SetCaption(token); }},
     {false, [](clsMenuItem& item, std::wstring_view token) { item.flags = ToInt32(token); }},
-    {false, [](clsMenuItem& item, std::wstring_view token) { item.OwnerName = token; }},
+    {false, [](clsMenuItem& item, std::wstring_view token) { item.SetOwnerName(token); }},
     {true, [](clsMenuItem& item, std::wstring_view token) { item.IconID = ToInt16(token); }},
     {true, [](clsMenuItem& item, std::wstring_view token) { item.SetSeparator(ToBoolean(token)); }},
     {true, [](clsMenuItem& item, std::wstring_view token) { item.SetSubMenu(ToBoolean(token)); }},

@@ -57,9 +57,9 @@ class Repairer {
     const auto found = byName_.find(name);
     if (found == byName_.end()) return;
     clsMenuItem& group = *items_[found->second];
-    if (group.Name() == name && group.OwnerName == kRootOwner && group.SubMenu()) return;
+    if (group.Name() == name && group.OwnerName() == kRootOwner && group.SubMenu()) return;
     group.SetName(name);
-    group.OwnerName = kRootOwner;
+    group.SetOwnerName(kRootOwner);
     group.SetSubMenu(true);
     repaired_ = true;
   }
@@ -67,15 +67,15 @@ class Repairer {
   void FindOwner(std::size_t item) {
     const std::wstring& name = items_[item]->Name();
     if (name == MIT_GROUP_USER || name == MIT_PATHS_SYSTEM) return;
-    const auto found = byName_.find(UpperCaseText(items_[item]->OwnerName));
+    const auto found = byName_.find(UpperCaseText(items_[item]->OwnerName()));
     const bool owned = found != byName_.end() && items_[found->second]->SubMenu();
     SetOwner(item, owned ? found->second : personal_);
   }
 
   void SetOwner(std::size_t item, std::size_t owner) {
     owners_[item] = owner;
-    if (items_[item]->OwnerName == items_[owner]->Name()) return;
-    items_[item]->OwnerName = items_[owner]->Name();
+    if (items_[item]->OwnerName() == items_[owner]->Name()) return;
+    items_[item]->SetOwnerName(items_[owner]->Name());
     repaired_ = true;
   }
 

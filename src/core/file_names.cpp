@@ -13,6 +13,7 @@ bool IsBadFileChar(wchar_t c) { return kBadFileChars.find(c) != std::wstring_vie
 }  // namespace
 
 std::wstring RemoveBadFileChars(std::wstring_view text) {
+  if (std::none_of(text.begin(), text.end(), IsBadFileChar)) return std::wstring(text);
   std::wstring kept;
   kept.reserve(text.size());
   std::remove_copy_if(text.begin(), text.end(), std::back_inserter(kept), IsBadFileChar);

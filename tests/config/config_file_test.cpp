@@ -191,7 +191,7 @@ TEST_F(Config, DamagedFilesKeepEveryEntryInItsPlaceOrInThePersonalGroup) {
     }
     EXPECT_EQ(RepairItems(items), row.damaged ? Repair::kDone : Repair::kNotNeeded) << row.trouble;
     std::wstring read;
-    for (const ItemRef& item : items) read += L" " + item->Name() + L"<" + item->OwnerName;
+    for (const ItemRef& item : items) read += L" " + item->Name() + L"<" + item->OwnerName();
     std::wstring expected;
     for (const std::wstring& entry : Split(row.read, L' ')) {
       expected += L" " + full(Split(entry, L'<')[0]) + L"<" + full(Split(entry, L'<')[1]);
@@ -355,7 +355,7 @@ TEST_F(Config, TheListingShowsCountsAndTheTree) {
             "[Personal]\r\n [Group]\r\n  D ()\r\n  Inner (C:\\i)\r\n  Open-All ()\r\n Projects (D:\\Projects)\r\n"
             "[System Folders]\r\n");
   store_->GetMenuItemFromName(L"N1")->SetCaption(L"\x41F");
-  store_->GetMenuItemFromName(MIT_GROUP_USER)->OwnerName = L"G";  // a circle of owners ends
+  store_->GetMenuItemFromName(MIT_GROUP_USER)->SetOwnerName(L"G");  // a circle of owners ends
   ASSERT_TRUE(ConfigFileExport(app_, document_, kPath));
   EXPECT_TRUE(machine_.BytesOf(kPath).starts_with("\xEF\xBB\xBF"));
 }

@@ -26,7 +26,7 @@ struct FormKind {
 std::vector<FormKind> FormKinds() {
   return {
       {"frmPause", [](Application& app) { return std::make_unique<frmPause>(app); }},
-      {"frmOrganize", [](Application& app) { return std::make_unique<frmOrganize>(app, OrganizeCalls()); }},
+      {"frmOrganize", [](Application& app) { return std::make_unique<frmOrganize>(app); }},
   };
 }
 

@@ -29,7 +29,7 @@ class MenuDrawing : public testing::Test {
   const Canvas& Draw(std::uint32_t state, std::int32_t width = 120, std::int32_t height = 19) {
     context_ = drawing_.OpenContext(look_.dpi, 400, 200, kPaper);
     drawing_.StartDrawing(context_);
-    MenuItemDraw(drawing_, look_, item_, {kControlMenu, item_.ID, state, context_, {10, 20, 10 + width, 20 + height}});
+    MenuItemDraw(drawing_, look_, item_, {kControlMenu, item_.ID(), state, context_, {10, 20, 10 + width, 20 + height}});
     EXPECT_EQ(drawing_.LiveBrushes() + drawing_.FailedDeletes(), 0U);
     return drawing_.Pixels(context_);
   }

@@ -25,7 +25,7 @@ bool OwnersComeFirst(const clsMenuCollection& store) {
   for (std::int32_t i = 1; i <= store.Count(); ++i) {
     const clsMenuItem& item = *store.Item(i);
     const bool top = item.Name() == MIT_GROUP_USER || item.Name() == MIT_PATHS_SYSTEM;
-    if (top ? item.OwnerName != kRootOwner : !groups.contains(item.OwnerName)) return false;
+    if (top ? item.OwnerName() != kRootOwner : !groups.contains(item.OwnerName())) return false;
     if (item.SubMenu()) groups.insert(item.Name());
   }
   return true;

@@ -63,9 +63,9 @@ std::string MenuScene::WrongNumbers() {
     if (item.Position < 0 || static_cast<std::size_t>(item.Position) >= siblings.size()) return name + " has no place";
     const LocalMenuEntry& entry = siblings[static_cast<std::size_t>(item.Position)];
     if (entry.text != item.Caption() || !entry.IsOwnerDrawn()) return name + " has another entry at its place";
-    if ((item.SubMenu() ? entry.popup : entry.id) != item.ID) return name + " has another number";
-    if (!item.SubMenu() && (item.ID < 50 || item.ID >= 0xF000)) return name + " has a number out of range";
-    if (!numbers.insert(item.ID).second) return name + " has another's number";
+    if ((item.SubMenu() ? entry.popup : entry.id) != item.ID()) return name + " has another number";
+    if (!item.SubMenu() && (item.ID() < 50 || item.ID() >= 0xF000)) return name + " has a number out of range";
+    if (!numbers.insert(item.ID()).second) return name + " has another's number";
   }
   return {};
 }

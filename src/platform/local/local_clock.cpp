@@ -4,7 +4,13 @@
 
 namespace burrowmark {
 
-LocalTime LocalClock::GetLocalTime() const { return Fixed ? *Fixed : Split(std::time(nullptr)); }
+LocalTime LocalClock::GetLocalTime() const {
+  if (Fixed) return *Fixed;
+  const std::time_t now = std::time(nullptr);
+  if (now != second_) parts_ = Split(now);
+  second_ = now;
+  return parts_;
+}
 
 LocalTime LocalClock::Split(std::time_t moment) {
   const std::tm* parts = std::localtime(&moment);
