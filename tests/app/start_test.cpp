@@ -152,8 +152,8 @@ TEST_F(Start, ADeletionIsWrittenUnlessTheFileCannotBe) {
     machine_.user.ClickTray(LocalUser::Button::kLeft);
     EXPECT_TRUE(machine_.shell.Launches.empty());
   };
-  machine_.files.SetFileAttributesA(kBeside, kFileReadOnly);
   Run({[&] {
+    machine_.files.SetFileAttributesA(kBeside, kFileReadOnly);
     machine_.user.NextMenu({L"Mine", L"Found"});
     machine_.user.NextBox(L"Path 'D:\\Windows' does not exist", kAnswerYes);
     machine_.user.NextBox(L"Error saving configuration file default.bwmk\r\nFile is read-only.", kAnswerOk);
