@@ -152,11 +152,10 @@ const std::vector<Change> kChanges = {
        f.list.Item(2).SetGhosted(true);
        f.list.SetSelectedItem(&f.list.Item(3));
        f.list.SetDropHighlight(&f.list.Item(2));
-       f.list.Item(2).SetChecked(true);
        EXPECT_EQ(f.list.Add(L"Ctwo", L"again"), nullptr);
-       f.list.Add(L"Cfour", L"four");
+       f.list.Add(L"Cfour", L"four")->SetChecked(true);
      },
-     kRows, L"ONE+ two~v< three+* four"},
+     kRows, L"ONE+ two~< three+* fourv"},
     {[](FullForm& f) {
        f.list.SetSelectedItem(&f.list.Item(2));
        f.list.SetAllSelected(true);
