@@ -53,6 +53,7 @@ NativeEntry EntryAt(HMENU menu, int position) {
 
 std::vector<NativeEntry> EntriesOf(HMENU menu) {
   std::vector<NativeEntry> entries;
+  entries.reserve(static_cast<std::size_t>(std::max(::GetMenuItemCount(menu), 0)));
   for (int i = 0; i < ::GetMenuItemCount(menu); ++i) entries.push_back(EntryAt(menu, i));
   return entries;
 }

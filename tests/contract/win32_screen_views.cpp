@@ -84,7 +84,7 @@ POINT InNode(WindowHandle tree, const std::wstring& text) {
   if (text.empty()) return EmptySpace(tree);
   const HTREEITEM node = NodeNamed(tree, text);
   RECT rect = {};
-  std::memcpy(&rect, &node, sizeof(node));
+  std::memcpy(&rect, &node, sizeof(HTREEITEM));
   Send(tree, TVM_GETITEMRECT, TRUE, &rect);
   return {rect.left + kInText, (rect.top + rect.bottom) / 2};
 }

@@ -215,6 +215,7 @@ void Win32StatusBar::Divide(int width) const {
   for (const StatusPanelState& panel : bar_.Panels()) widths.push_back(ToPixels(panel.width, Dpi()));
   const int rest = std::max(0, width - std::accumulate(widths.begin(), widths.end(), 0));
   std::vector<int> edges;
+  edges.reserve(widths.size());
   for (const int panel : widths) edges.push_back((edges.empty() ? 0 : edges.back()) + (panel == 0 ? rest : panel));
   if (std::find(widths.begin(), widths.end(), 0) != widths.end()) edges.back() = -1;  // up to the end
   ::SendMessageW(ChildWindow::Handle(), SB_SETPARTS, edges.size(), reinterpret_cast<LPARAM>(edges.data()));

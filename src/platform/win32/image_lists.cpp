@@ -10,7 +10,8 @@ namespace {
 
 IconImage EmptyImage(int size) {
   constexpr int kBitsOfRow = 16;
-  const auto bytes = static_cast<std::size_t>((size + kBitsOfRow - 1) / kBitsOfRow * (kBitsOfRow / 8) * size);
+  const int row = (size + kBitsOfRow - 1) / kBitsOfRow * (kBitsOfRow / 8);
+  const std::size_t bytes = static_cast<std::size_t>(row) * static_cast<std::size_t>(size);
   const std::vector<BYTE> screen(bytes, 0xFF);
   const std::vector<BYTE> picture(bytes, 0);
   return IconImage(::CreateIcon(WindowClass::Module(), size, size, 1, 1, screen.data(), picture.data()));

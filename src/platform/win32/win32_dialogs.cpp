@@ -82,7 +82,8 @@ std::optional<FileAnswer> Win32Dialogs::FileDialog(const FileRequest& request) {
   dialog.lpstrTitle = request.title.c_str();
   dialog.Flags = OFN_EXPLORER | OFN_HIDEREADONLY | OFN_NOCHANGEDIR;
   if (!Ask(request.save, dialog)) return std::nullopt;
-  return FileAnswer{path.c_str(), static_cast<std::int32_t>(dialog.nFilterIndex)};
+  path.resize(path.find(L'\0'));
+  return FileAnswer{path, static_cast<std::int32_t>(dialog.nFilterIndex)};
 }
 
 void Win32Dialogs::CancelBox() {
