@@ -1,6 +1,8 @@
 // Opening the editor, sorting its list and going to another group, over the local machine.
 #include <benchmark/benchmark.h>
 
+#include <memory>
+
 #include "bench/bench_machine.h"
 #include "core/numbers.h"
 #include "organize/frm_organize.h"
@@ -11,7 +13,7 @@ namespace {
 // A personal group that holds so many shortcuts.
 class BenchEditor {
  public:
-  explicit BenchEditor(std::int64_t items) : app_(machine_.platform()), form_(app_, OrganizeCalls()) {
+  explicit BenchEditor(std::int64_t items) : app_(machine_.platform()) {
     clsMenuCollection& store = app_.MainStore();
     store.AddNewMenuItem({.Caption = L"Personal", .OwnerName = kRootOwner, .Name = MIT_GROUP_USER, .SubMenu = true});
     for (std::int64_t i = 0; i < items; ++i) {
@@ -22,14 +24,17 @@ class BenchEditor {
       store.AddOne(item, true, true);
     }
   }
-  void Open() { form_.Show(); }
-  void Close() { form_.Unload(); }
-  void Refresh() { form_.RefreshViews({}, true); }
+  void Open() {
+    form_ = std::make_unique<frmOrganize>(app_);
+    form_->Show();
+  }
+  void Close() { form_->Unload(); }
+  void Refresh() { form_->RefreshViews({}, true); }
 
  private:
   BenchMachine machine_;
   Application app_;
-  frmOrganize form_;
+  std::unique_ptr<frmOrganize> form_;
 };
 
 void OpenTheEditor(benchmark::State& state) {

@@ -49,7 +49,7 @@ void Fill(clsMenuCollection& store, const Clock& clock, std::int64_t records) {
 std::string FileOf(Application& app, std::int64_t records) {
   clsMenuCollection store(app.platform.clock);
   Fill(store, app.platform.clock, records);
-  return BuildConfig(app, store);
+  return BuildConfig(app, store, {});
 }
 
 void ReadRecords(benchmark::State& state) {
@@ -87,7 +87,7 @@ void WriteRecords(benchmark::State& state) {
   Application app(machine.platform());
   clsMenuCollection store(app.platform.clock);
   Fill(store, app.platform.clock, state.range(0));
-  for (auto _ : state) benchmark::DoNotOptimize(BuildConfig(app, store).data());
+  for (auto _ : state) benchmark::DoNotOptimize(BuildConfig(app, store, {}).data());
 }
 BENCHMARK(WriteRecords)->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond);
 
