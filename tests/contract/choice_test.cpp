@@ -110,6 +110,14 @@ TEST_P(ChoiceContract, OneOfTheOptionsOfAFrameIsOn) {
   EXPECT_TRUE(form_.optOther.Value()) << "it is in another group";
 }
 
+TEST_P(ChoiceContract, TheFocusAloneTurnsNoOptionOn) {
+  form_.Show();
+  form_.optB.SetFocus();
+  EXPECT_TRUE(form_.optB.HasFocus());
+  EXPECT_EQ(On(), "---");
+  EXPECT_EQ(Heard(), Texts());
+}
+
 TEST_P(ChoiceContract, ArrowsMoveAmongOptionsAndTabPassesThemBy) {
   form_.optB.SetValue(true);
   form_.optOther.SetValue(true);
