@@ -80,6 +80,9 @@ need_packages "${BUILD_PACKAGES[@]}" "${WINDOWS_PACKAGES[@]}" "${WINE_PACKAGES[@
 say "checking the format"
 check_format
 
+say "checking the rooms"
+tools/check_rooms.py
+
 build native
 unless_passed native-unit-tests build/native/tests/unit_tests -- build/native/tests/unit_tests --gtest_brief=1
 unless_passed native-contract-tests build/native/tests/contract_tests -- \

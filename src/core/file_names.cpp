@@ -10,6 +10,17 @@ namespace {
 
 bool IsBadFileChar(wchar_t c) { return kBadFileChars.find(c) != std::wstring_view::npos; }
 
+std::wstring_view WithoutTrail(std::wstring_view name) { return name.substr(0, name.find_last_not_of(L". ") + 1); }
+
+// A device is meant by its name with any extension too.
+bool IsDevice(std::wstring_view name) {
+  constexpr std::wstring_view kNumbers = L"123456789\u00B9\u00B2\u00B3";
+  const std::wstring text = UpperCaseText(name);
+  if (text == L"CON" || text == L"PRN" || text == L"AUX" || text == L"NUL") return true;
+  return text.size() == 4 && (text.starts_with(L"COM") || text.starts_with(L"LPT")) &&
+         kNumbers.find(text.back()) != std::wstring_view::npos;
+}
+
 }  // namespace
 
 std::wstring RemoveBadFileChars(std::wstring_view text) {
@@ -48,6 +59,19 @@ std::wstring GetFileExtension(std::wstring_view path) {
 std::wstring GetFileBaseName(std::wstring_view path) {
   const std::size_t dot = path.rfind(L'.');
   return dot == std::wstring_view::npos ? std::wstring(path) : LowerCaseText(path.substr(0, dot));
+}
+
+std::wstring FolderNameOf(std::wstring_view title) {
+  const std::wstring_view kept = WithoutTrail(title);
+  return FileNameOf(kept.empty() ? title : kept);
+}
+
+std::wstring FileNameOf(std::wstring_view title) {
+  std::wstring name(title);
+  if (WithoutTrail(title).empty()) return name + L"_";
+  const std::wstring_view base = WithoutTrail(title.substr(0, title.find(L'.')));
+  if (IsDevice(base)) name.insert(base.size(), L"_");
+  return name;
 }
 
 std::wstring PathArgument(std::wstring_view text) {

@@ -23,6 +23,11 @@ std::wstring GetFileExtension(std::wstring_view path);
 // What stands ahead of the last dot, in lower case; the whole text as it is without one.
 std::wstring GetFileBaseName(std::wstring_view path);
 
+// A title as the name of a folder, and of a file ahead of its extension: none that the system takes for nothing or for
+// a device. Other characters that it refuses stay.
+std::wstring FolderNameOf(std::wstring_view title);
+std::wstring FileNameOf(std::wstring_view title);
+
 // A path that was given with a command: without blanks around it and without one pair of double quotes around that.
 std::wstring PathArgument(std::wstring_view text);
 

@@ -19,8 +19,8 @@ constexpr std::uint32_t kFileCompressed = 2048;
 constexpr std::uint32_t kSkippedFolders = kFileHidden | kFileSystem | kFileCompressed;
 
 struct SampleItem {
-  const wchar_t* name;
-  const wchar_t* owner;
+  int number;
+  bool inFirst;  // in the group of the first row, not beside it
   const wchar_t* caption;
   const wchar_t* folder;  // key of a special folder
   bool group;
@@ -28,12 +28,17 @@ struct SampleItem {
 };
 
 constexpr SampleItem kSample[] = {
-    {L"M1", MIT_GROUP_USER, L"My Group", L"", true, MIT_GROUP_GENERAL},
-    {L"M2", MIT_GROUP_USER, L"My Documents", L"Personal", false, MIT_PATH},
-    {L"M3", L"M1", L"Desktop", L"Desktop", false, MIT_PATH},
-    {L"M4", L"M1", L"Start Menu", L"Start Menu", false, MIT_PATH},
-    {L"M5", L"M1", L"Open-All", L"", false, MIT_OPENALL},
+    {1, false, L"My Group", L"", true, MIT_GROUP_GENERAL}, {2, false, L"My Documents", L"Personal", false, MIT_PATH},
+    {3, true, L"Desktop", L"Desktop", false, MIT_PATH},    {4, true, L"Start Menu", L"Start Menu", false, MIT_PATH},
+    {5, true, L"Open-All", L"", false, MIT_OPENALL},
 };
+
+// "M" and the number, or the first one from there on that nobody has: an item that was moved elsewhere keeps its own.
+std::wstring FreeFixedName(const clsMenuCollection& store, int number) {
+  std::wstring name = L"M" + DecimalText(number);
+  while (store.ItemExists(name)) name = L"M" + DecimalText(++number);
+  return name;
+}
 
 ItemRef NewItem(const Application& app, const std::wstring& name, const std::wstring& owner,
                 const std::wstring& caption) {
@@ -56,8 +61,11 @@ void AddGroup(const Application& app, clsMenuCollection& store) {
 }
 
 void AddSample(const Application& app, clsMenuCollection& store) {
+  std::wstring first;
   for (const SampleItem& row : kSample) {
-    const ItemRef item = NewItem(app, row.name, row.owner, row.caption);
+    const std::wstring name = FreeFixedName(store, row.number);
+    if (first.empty()) first = name;
+    const ItemRef item = NewItem(app, name, row.inFirst ? first : MIT_GROUP_USER, row.caption);
     item->SetSubMenu(row.group);
     item->ItemType = row.type;
     item->OpenType = MIT_PATH_EXPLORER;
@@ -137,7 +145,7 @@ void AddDriveGroups(Application& app, clsMenuCollection& store) {
   for (const FixedDrive& drive : FixedDrives(app)) {
     if (groups > kLastCounted) return;
     ++groups;
-    const std::wstring owner = L"M" + DecimalText(groups);
+    const std::wstring owner = FreeFixedName(store, groups);
     const ItemRef group = NewItem(app, owner, MIT_GROUP_USER, drive.caption);
     group->SetSubMenu(true);
     store.AddOne(group, false, true);

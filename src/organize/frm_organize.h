@@ -50,12 +50,10 @@ class frmOrganize final : public ProgramForm {
   void DeleteShortcut(const ItemRef& item);
 
   // Patch single nodes and rows after a change of `WorkCollection`. One that isn't shown is nobody's fault.
-  // A node stands behind the sibling `PrevName`; "NONE" puts it behind all, and an empty one ahead of all.
-  void AddTreeNode(const clsMenuItem& item, const std::wstring& PrevName);
-  TreeNode* AddTreeNodeBefore(const clsMenuItem& item, const std::wstring& NextName);
+  // A node stands behind the nearest earlier sibling that has a node, else ahead of the nearest later one, else last.
+  void AddTreeNode(const clsMenuItem& item);
   void RefreshTreeNode(const std::wstring& Key, const clsMenuItem& item);
   void RemoveTreeNode(const std::wstring& Name);
-  bool TreeKeyExists(const std::wstring& Key) const;
   // A row comes to the end, and turns the sorting off unless `Sorted` is true.
   void AddListItem(const clsMenuItem& item, bool Ghosted, bool Sorted);
   // Grey if the item was cut.
@@ -63,7 +61,6 @@ class frmOrganize final : public ProgramForm {
   void RefreshListItem(const std::wstring& Key, const clsMenuItem& item);
   void SetListItemText(const std::wstring& Name, const std::wstring& text);
   void RemoveListItem(const std::wstring& Name);
-  bool ListKeyExists(const std::wstring& Key) const;
 
   const std::shared_ptr<clsMenuCollection>& WorkCollection() const { return Edited.Store; }
   bool InGesture() const override;
@@ -136,6 +133,8 @@ class frmOrganize final : public ProgramForm {
 
   // --- panes (frm_organize_views.cpp)
   void FillTree();
+  bool HasNode(const clsMenuItem& item) const { return item.SubMenu() || layout_.AllLeftPane; }
+  void AddTreeNodeAt(const clsMenuItem& item, const std::wstring& neighbour, TreeRelation relation);
   void ShowSelectedNode(bool KeepList);
   void ShowGroupInList();
   void ListGroup(const std::wstring& group);

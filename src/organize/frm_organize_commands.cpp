@@ -1,4 +1,5 @@
 #include "core/hot_keys.h"
+#include "core/product.h"
 #include "menu/menu_actions.h"
 #include "organize/enabling.h"
 #include "organize/frm_organize.h"
@@ -9,7 +10,6 @@ namespace burrowmark {
 namespace {
 
 constexpr wchar_t kTitle[] = L"Burrowmark";
-constexpr wchar_t kWebSite[] = L"http://www.kestrelan.example";
 constexpr std::int32_t kGroupImage = 2;
 constexpr std::int32_t kDoublePaneImage = 4;
 
@@ -132,7 +132,7 @@ void frmOrganize::RefreshProjection(const ProjectionTarget& place) {
   RefreshOrganizedFolders(app_, place, WorkCollection(), false);
 }
 
-void frmOrganize::OpenWebPage(const std::wstring& path) { OpenFile(app_, kWebSite + path); }
+void frmOrganize::OpenWebPage(const std::wstring& path) { OpenFile(app_, L"" BURROWMARK_WEB_SITE + path); }
 
 // The shortcut's folder is gone, and the user wants to be rid of it.
 void frmOrganize::DeleteShortcut(const ItemRef& item) {

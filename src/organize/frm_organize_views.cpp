@@ -10,7 +10,6 @@ namespace burrowmark {
 namespace {
 
 constexpr std::int16_t kRootImage = 1;
-constexpr wchar_t kFirstSibling[] = L"NONE";  // for a node that goes behind all others of its parent
 constexpr Color kGrey = 0x808080;
 constexpr std::int32_t kFirstHotKey = 48;
 
@@ -58,7 +57,7 @@ void frmOrganize::FillTree() {
     const ItemRef item = WorkCollection()->Item(i);
     if (item->Remark == REMARK_AUTO) continue;
     if (item->OwnerName() != kRootOwner) {
-      AddTreeNode(*item, kFirstSibling);
+      if (HasNode(*item)) AddTreeNodeAt(*item, ParentKey(*item), TreeRelation::kChild);
       continue;
     }
     TreeNode* node = TreeView1.Add(root, TreeRelation::kChild, KeyOfName(item->Name()), item->Caption(), item->IconID);
@@ -68,33 +67,30 @@ void frmOrganize::FillTree() {
   }
 }
 
-void frmOrganize::AddTreeNode(const clsMenuItem& item, const std::wstring& PrevName) {
-  if (!item.SubMenu() && !layout_.AllLeftPane) return;
-  std::wstring relative = ParentKey(item);
-  TreeRelation relation = TreeRelation::kChild;
-  if (PrevName.empty()) {
-    if (WorkCollection()->ChildrenNumber(item.OwnerName()) >= 2) {
-      const ItemRef second = WorkCollection()->GetSecondChild(item.OwnerName(), item.Name());
-      if (!second) return;
-      relative = KeyOfName(second->Name());
-      relation = TreeRelation::kPrevious;
+void frmOrganize::AddTreeNode(const clsMenuItem& item) {
+  if (!HasNode(item)) return;
+  std::wstring before;
+  std::wstring after;
+  bool passed = false;
+  for (std::int32_t i = 1; i <= WorkCollection()->Count() && after.empty(); ++i) {
+    const ItemRef other = WorkCollection()->Item(i);
+    if (other.get() == &item) {
+      passed = true;
+    } else if (const std::wstring key = KeyOfName(other->Name());
+               other->OwnerName() == item.OwnerName() && TreeView1.Find(key) != nullptr) {
+      (passed ? after : before) = key;
     }
-  } else if (PrevName != kFirstSibling) {
-    relative = KeyOfName(PrevName);
-    relation = TreeRelation::kNext;
   }
-  TreeNode* neighbour = TreeView1.Find(relative);
-  if (neighbour == nullptr) return;
-  TreeNode* node = TreeView1.Add(neighbour, relation, KeyOfName(item.Name()), item.Caption(), item.IconID);
-  if (node != nullptr) node->Tag = item.FolderPath;
+  if (!before.empty()) return AddTreeNodeAt(item, before, TreeRelation::kNext);
+  if (!after.empty()) return AddTreeNodeAt(item, after, TreeRelation::kPrevious);
+  AddTreeNodeAt(item, ParentKey(item), TreeRelation::kChild);
 }
 
-TreeNode* frmOrganize::AddTreeNodeBefore(const clsMenuItem& item, const std::wstring& NextName) {
-  TreeNode* next = TreeView1.Find(KeyOfName(NextName));
-  if (next == nullptr) return nullptr;
-  TreeNode* node = TreeView1.Add(next, TreeRelation::kPrevious, KeyOfName(item.Name()), item.Caption(), item.IconID);
+void frmOrganize::AddTreeNodeAt(const clsMenuItem& item, const std::wstring& neighbour, TreeRelation relation) {
+  TreeNode* place = TreeView1.Find(neighbour);
+  if (place == nullptr) return;
+  TreeNode* node = TreeView1.Add(place, relation, KeyOfName(item.Name()), item.Caption(), item.IconID);
   if (node != nullptr) node->Tag = item.FolderPath;
-  return node;
 }
 
 void frmOrganize::RefreshTreeNode(const std::wstring& Key, const clsMenuItem& item) {
@@ -104,9 +100,6 @@ void frmOrganize::RefreshTreeNode(const std::wstring& Key, const clsMenuItem& it
   node->SetImage(item.IconID);
   node->Tag = item.FolderPath;
 }
-
-bool frmOrganize::TreeKeyExists(const std::wstring& Key) const { return TreeView1.Find(Key) != nullptr; }
-bool frmOrganize::ListKeyExists(const std::wstring& Key) const { return ListView1.Find(Key) != nullptr; }
 
 void frmOrganize::RemoveTreeNode(const std::wstring& Name) {
   if (TreeNode* node = TreeView1.Find(KeyOfName(Name))) TreeView1.Remove(*node);

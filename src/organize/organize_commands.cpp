@@ -7,6 +7,7 @@
 #include "organize/node_keys.h"
 #include "platform/key_codes.h"
 #include "projection/organized_folders.h"
+#include "tools/about.h"
 
 namespace burrowmark {
 namespace {
@@ -160,7 +161,7 @@ std::span<const frmOrganize::CommandRow> frmOrganize::Commands() {
       Line(1, L"mnuHelpSep2"),
       {{1, L"mnuHelpTip", L"&Tip of the Day..."}, kLater},
       Line(1, L"mnuHelpSep3"),
-      {{1, L"mnuHelpAbout", L"&About Burrowmark..."}, kLater},
+      {{1, L"mnuHelpAbout", L"&About Burrowmark..."}, [](frmOrganize& form) { frmAbout(form.app_).Show(Modal, form); }},
       Holds(0, L"mnuPopup", L"Popup"),
       {{1, L"mnuPopupExplore", L"&Explore"}, [](frmOrganize& form) { form.PopupExplore(); }},
       {{1, L"mnuPopupWindowsExplorer", L"&Windows Explorer"}, [](frmOrganize& form) { form.PopupWindowsExplorer(); }},

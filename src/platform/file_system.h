@@ -24,6 +24,7 @@ inline constexpr std::uint32_t kFileCompressed = 2048;
 struct FolderEntry {
   std::wstring name;  // in the letter case of the disk
   std::uint32_t attributes = 0;
+  bool isLink = false;  // leads to a folder elsewhere
 };
 
 // Kinds of drive that GetDriveTypeA tells apart (fileapi.h): what isn't known, a letter without a drive, removable,

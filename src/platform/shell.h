@@ -53,6 +53,9 @@ class Shell {
   virtual bool ReadShellLink(const std::wstring& path, ShellLink& link) = 0;
   // Writes a shortcut file in place of one that is there; the target needn't exist.
   virtual bool WriteShellLink(const std::wstring& path, const ShellLink& link) = 0;
+  // Moves a file, or a folder with all that is in it, to the Recycle Bin. False if it stays, as it does where there is
+  // no bin. Nothing is shown unless the system wants to ask about what is too large for the bin.
+  virtual bool RecycleFile(const std::wstring& path) = 0;
   // A command to a media device; the system's error number, 0 on success.
   virtual std::int32_t mciSendStringA(const std::wstring& command) = 0;
 };

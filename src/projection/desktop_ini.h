@@ -11,4 +11,7 @@ namespace burrowmark {
 // heed it. Messages run between the steps. Nothing more is done after a step that fails.
 void WriteDesktopIni(Application& app, const std::wstring& folder);
 
+// The folder has a Desktop.ini that was written in this way, be it by this program in another place.
+bool HasOwnDesktopIni(Application& app, const std::wstring& folder);
+
 }  // namespace burrowmark

@@ -3,7 +3,9 @@
 #include <map>
 #include <vector>
 
+#include "core/file_names.h"
 #include "core/services.h"
+#include "platform/characters.h"
 
 namespace burrowmark {
 namespace {
@@ -11,8 +13,50 @@ namespace {
 constexpr wchar_t kLinkDescription[] = L"Organized Folder Shortcut";
 constexpr wchar_t kConflictTitle[] = L"Refresh Organized Folders - Group Name Conflict";
 
-// The system would take such a name for the folder itself, or for the one around it.
-bool IsOnlyDots(const std::wstring& caption) { return caption.find_first_not_of(L". ") == std::wstring::npos; }
+bool IsOwnLink(Application& app, const std::wstring& path) {
+  ShellLink link;
+  return app.platform.shell.ReadShellLink(path, link) && link.description == kLinkDescription;
+}
+
+bool IsOwnFile(Application& app, const std::wstring& path) {
+  return EqualIgnoringCase(GetFileName(path), L"Desktop.ini") || IsOwnLink(app, path);
+}
+
+// What a folder holds, at any depth.
+struct Content {
+  bool own = false;
+  bool foreign = false;
+};
+
+Content ContentOf(Application& app, const std::wstring& folder) {
+  std::vector<FolderEntry> entries;
+  Content content{.foreign = !app.platform.files.ListFolder(folder, entries)};
+  for (const FolderEntry& entry : entries) {
+    const std::wstring path = folder + L"\\" + entry.name;
+    const bool isFolder = (entry.attributes & kFileDirectory) != 0 && !entry.isLink;
+    const bool own = !isFolder && (entry.isLink || IsOwnFile(app, path));
+    const Content inside = isFolder ? ContentOf(app, path) : Content{own, !own};
+    content.own = content.own || inside.own;
+    content.foreign = content.foreign || inside.foreign;
+  }
+  return content;
+}
+
+// Each that stays is passed over.
+void WipeFolder(Application& app, const std::wstring& folder) {
+  FileSystem& files = app.platform.files;
+  const Content content = ContentOf(app, folder);
+  if (content.foreign && !content.own) {
+    app.platform.shell.RecycleFile(folder);
+    return;
+  }
+  std::vector<FolderEntry> left;
+  if (content.foreign) {
+    WipeLinkTree(app, folder);
+    if (!files.ListFolder(folder, left)) return;
+  }
+  if (left.empty()) files.DeleteFolder(folder);
+}
 
 class LinkTree {
  public:
@@ -21,7 +65,7 @@ class LinkTree {
   void Add(const clsMenuItem& item) {
     const std::wstring parent = FolderOf(item.OwnerName());
     if (item.SubMenu()) folders_[item.Name()] = GroupFolder(item, parent);
-    if (item.Separator() || parent.empty()) return;
+    if (item.Separator()) return;
     if (item.ItemType == MIT_PATH) {
       WriteLink(item, parent);
     } else if (item.SubMenu() && item.Name() != MIT_PATHS_DRIVES && item.Name() != MIT_GROUP_USER) {
@@ -30,27 +74,25 @@ class LinkTree {
   }
 
  private:
-  // The folder of a group that came before; empty if it can't have one. The top level is the root.
+  // The folder of a group that came before. The top level is the root.
   std::wstring FolderOf(const std::wstring& group) const {
     const auto found = folders_.find(group);
     return found == folders_.end() ? root_ : found->second;
   }
 
   std::wstring GroupFolder(const clsMenuItem& group, const std::wstring& parent) const {
-    if (group.Name() == MIT_GROUP_USER) return root_;
-    if (group.Caption().empty()) return parent;
-    return parent.empty() || IsOnlyDots(group.Caption()) ? std::wstring() : parent + L"\\" + group.Caption();
+    return group.Name() == MIT_GROUP_USER ? root_ : parent + L"\\" + FolderNameOf(group.Caption());
   }
 
   void WriteLink(const clsMenuItem& item, const std::wstring& parent) {
     if (item.OpenType != MIT_PATH_SHORTCUT && item.OpenType != MIT_PATH_EXPLORER) return;
     if (!FolderOrDriveExists(app_.platform.files, item.FolderPath)) return;
-    app_.platform.shell.WriteShellLink(parent + L"\\" + item.Caption() + L".lnk",
-                                       {item.FolderPath, kLinkDescription, kShowNormal});
+    const std::wstring path = parent + L"\\" + FileNameOf(item.Caption()) + L".lnk";
+    if (FileExists(app_.platform.files, path) && !IsOwnLink(app_, path)) return;
+    app_.platform.shell.WriteShellLink(path, {item.FolderPath, kLinkDescription, kShowNormal});
   }
 
   void MakeGroupFolder(const clsMenuItem& group, const std::wstring& folder) {
-    if (group.Caption().empty() || folder.empty()) return;
     if (!app_.platform.files.FolderExists(folder)) {
       app_.platform.files.CreateFolder(folder);
       return;
@@ -75,5 +117,25 @@ void WriteLinkTree(Application& app, const clsMenuCollection& store, const std::
   LinkTree tree(app, root);
   for (const ItemRef& item : items) tree.Add(*item);
 }
+
+void WipeLinkTree(Application& app, const std::wstring& root) {
+  FileSystem& files = app.platform.files;
+  std::vector<FolderEntry> entries;
+  files.ListFolder(root, entries);
+  for (const FolderEntry& entry : entries) {
+    const std::wstring path = root + L"\\" + entry.name;
+    if (entry.isLink) {
+      files.DeleteFolder(path);
+    } else if ((entry.attributes & kFileDirectory) != 0) {
+      WipeFolder(app, path);
+    } else if (IsOwnFile(app, path)) {
+      files.DeleteFileA(path);
+    } else {
+      app.platform.shell.RecycleFile(path);
+    }
+  }
+}
+
+bool HoldsForeignFiles(Application& app, const std::wstring& folder) { return ContentOf(app, folder).foreign; }
 
 }  // namespace burrowmark

@@ -3,6 +3,7 @@
 #include <memory>
 #include <vector>
 
+#include "core/file_names.h"
 #include "core/numbers.h"
 #include "core/registry.h"
 #include "core/registry_keys.h"
@@ -23,18 +24,21 @@ void EnsureRoot(Application& app, const std::wstring& root, const wchar_t* value
   clsRegHandler(app.platform.registry).SetKeyValue(RegistryKey::kCurrentUser, kSettingsKey, value, root);
 }
 
-// Each entry that stays is passed over.
-void Wipe(FileSystem& files, const std::wstring& root) {
-  std::vector<FolderEntry> entries;
-  files.ListFolder(root, entries);
-  for (const FolderEntry& entry : entries) {
-    const std::wstring path = root + L"\\" + entry.name;
-    if ((entry.attributes & kFileDirectory) != 0) {
-      files.DeleteFolder(path);
-    } else {
-      files.DeleteFileA(path);
-    }
-  }
+void SwitchOff(Application& app, Advanced option) {
+  app.ADVC[option] = false;
+  clsRegHandler(app.platform.registry)
+      .SetKeyValue(RegistryKey::kCurrentUser, kSettingsKey, SettingName(option), BooleanNumberText(false));
+}
+
+// A folder of this name that the program didn't make, with something in it.
+bool IsSomebodyElses(Application& app, const std::wstring& root) {
+  return app.platform.files.FolderExists(root) && !HasOwnDesktopIni(app, root) && HoldsForeignFiles(app, root);
+}
+
+bool MayReplace(Application& app, const std::wstring& root) {
+  const std::wstring question = L"Folder " + root + L" isn't Burrowmark's. Do you want its content to be replaced?";
+  return !IsSomebodyElses(app, root) || app.platform.dialogs.MessageBoxA(app.MainWindow, question, L"Burrowmark",
+                                                                         kBoxYesNo | kBoxWarning) == kAnswerYes;
 }
 
 }  // namespace
@@ -54,10 +58,11 @@ void RefreshOrganizedFolders(Application& app, const ProjectionTarget& target,
                              const std::shared_ptr<clsMenuCollection>& store, bool ShowMessage) {
   const std::wstring root = app.*target.root;
   if (root.empty()) return;
-  EnsureRoot(app, root, target.value);
   std::shared_ptr<clsMenuCollection> shown = store;
-  if (!app.ADVC[Advanced::kWithSystemFolders]) shown = CopyGroup(app.platform.clock, *store, MIT_GROUP_USER);
-  Wipe(app.platform.files, root);
+  if (!MayReplace(app, root)) return SwitchOff(app, target.option);
+  EnsureRoot(app, root, target.value);
+  if (!app.ADVC[Advanced::kWithSystemFolders]) shown = CopyGroup(app.platform.clock, *shown, MIT_GROUP_USER);
+  WipeLinkTree(app, root);
   WriteLinkTree(app, *shown, root);
   if (OrganizedFoldersExist(app, target)) WriteDesktopIni(app, root);
   if (!ShowMessage) return;
@@ -81,7 +86,11 @@ void RefreshOrganizedFoldersFavorites(Application& app, const std::shared_ptr<cl
 }
 
 void DeleteOrganizedFolders(Application& app, const ProjectionTarget& target) {
-  if (OrganizedFoldersExist(app, target)) app.platform.files.DeleteFolder(app.*target.root);
+  const std::wstring& root = app.*target.root;
+  if (!OrganizedFoldersExist(app, target) || IsSomebodyElses(app, root)) return;
+  WipeLinkTree(app, root);
+  std::vector<FolderEntry> left;
+  if (app.platform.files.ListFolder(root, left) && left.empty()) app.platform.files.DeleteFolder(root);
 }
 
 void DeleteOrganizedFoldersDesktop(Application& app) { DeleteOrganizedFolders(app, kProjectionTargets[0]); }
@@ -91,11 +100,10 @@ void DeleteOrganizedFoldersSendTo(Application& app) { DeleteOrganizedFolders(app
 void DeleteOrganizedFoldersFavorites(Application& app) { DeleteOrganizedFolders(app, kProjectionTargets[2]); }
 
 void CheckOrganizedFoldersExist(Application& app) {
-  clsRegHandler registry(app.platform.registry);
   for (const ProjectionTarget& target : kProjectionTargets) {
-    if (!app.ADVC[target.option] || OrganizedFoldersExist(app, target)) continue;
-    app.ADVC[target.option] = false;
-    registry.SetKeyValue(RegistryKey::kCurrentUser, kSettingsKey, SettingName(target.option), BooleanNumberText(false));
+    const bool gone =
+        !OrganizedFoldersExist(app, target) && app.platform.files.FolderExists(GetFolderName(app.*target.root));
+    if (app.ADVC[target.option] && gone) SwitchOff(app, target.option);
   }
 }
 

@@ -44,7 +44,6 @@ void Control::UserFocus(bool has) {
   if (has == HasFocus()) return;
   const ControlSite::Running running(form_);
   form_.MoveFocus(has ? this : nullptr);
-  if (has && HasFocus()) UserArrived();
 }
 
 void Control::UserMouse(MouseAction action, const MouseEvent& event) {

@@ -160,8 +160,6 @@ class Control : public virtual ControlState {
   virtual void PeerTaken() {}
   // A key wherever the focus is on its form. True: nobody else shall have it.
   virtual bool UserFormKey(std::int32_t, std::int32_t) { return false; }
-  // The focus has come, and everybody knows.
-  virtual void UserArrived() {}
   // What Enter does when it is the form's button for that.
   virtual bool ShowsDefaultWithFocus() const { return false; }
   virtual void DefaultMoved() {}

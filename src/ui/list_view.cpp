@@ -323,9 +323,9 @@ bool ListView::UserEndLabelEdit(std::int32_t row, const std::optional<std::wstri
   bool cancel = false;
   std::wstring newText = *text;
   Raise(AfterLabelEdit, cancel, newText);
-  edited_ = nullptr;
-  ListItem* still = Find(key);  // it may be another one by now, or have gone
-  if (cancel || still == nullptr) return false;
+  const bool hasGone = std::exchange(edited_, nullptr) == nullptr;
+  ListItem* still = Find(key);
+  if (cancel || hasGone || still == nullptr) return false;
   still->SetText(std::move(newText));
   return true;
 }

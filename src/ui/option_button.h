@@ -9,8 +9,8 @@
 
 namespace burrowmark {
 
-// The Tab key stops at the one that is on, or at the first one made, and the arrow keys go on from there. The focus
-// turns an option on.
+// The Tab key stops at the one that is on, or at the first one made, and the arrow keys turn on the next from there.
+// The focus alone turns none on: a form that shows may have none.
 class OptionButton final : public ControlOf<OptionState, OptionPeer> {
  public:
   OptionButton(ControlParent& parent, std::wstring name, const Box& place, std::wstring caption);
@@ -29,7 +29,6 @@ class OptionButton final : public ControlOf<OptionState, OptionPeer> {
   void UserArrow(bool forward) override;
 
  private:
-  void UserArrived() override { UserClick(); }
   // Those of which one can be on, in tab order, this one among them.
   std::vector<OptionButton*> Group() const;
   void Turn(bool on);

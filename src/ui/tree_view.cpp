@@ -255,9 +255,9 @@ bool TreeView::UserEndLabelEdit(TreeNodeState& node, const std::optional<std::ws
   bool cancel = false;
   std::wstring newText = *text;
   Raise(AfterLabelEdit, cancel, newText);
-  edited_ = nullptr;
-  TreeNode* still = Find(key);  // it may be another one by now, or have gone
-  if (cancel || still == nullptr) return false;
+  const bool hasGone = std::exchange(edited_, nullptr) == nullptr;
+  TreeNode* still = Find(key);
+  if (cancel || hasGone || still == nullptr) return false;
   still->SetText(std::move(newText));
   return true;
 }

@@ -322,6 +322,17 @@ TEST_P(ViewsContract, ALabelIsEditedOnCommandAlone) {
   list_.StartLabelEdit();
   EXPECT_FALSE(screen_.EditsLabel(list_.Window()));
   EXPECT_EQ(Heard(), Texts()) << "Enter and Esc were the label's own";
+  list_.BeforeLabelEdit = {};
+  list_.AfterLabelEdit = [](bool&, std::wstring&) { ADD_FAILURE() << "a row that goes takes its edit along"; };
+  list_.StartLabelEdit();
+  ASSERT_TRUE(screen_.EditsLabel(list_.Window()));
+  list_.Clear();
+  EXPECT_FALSE(screen_.EditsLabel(list_.Window()));
+  tree_.AfterLabelEdit = [](bool&, std::wstring&) { ADD_FAILURE() << "a node that goes takes its edit along"; };
+  tree_.StartLabelEdit();
+  ASSERT_TRUE(screen_.EditsLabel(tree_.Window()));
+  tree_.Remove(*tree_.Find(L"B"));
+  EXPECT_FALSE(screen_.EditsLabel(tree_.Window()));
 }
 
 }  // namespace

@@ -61,6 +61,18 @@ TEST_F(PersonalGroup, TwentyFourGroupsOfTwentyFourFolders) {
   EXPECT_FALSE(store_.ItemExists(L"M26"));
 }
 
+TEST_F(PersonalGroup, ANameThatIsTakenBecomesTheNextFreeOneWithWhatIsUnderIt) {
+  for (const wchar_t* name : {L"M1", L"M2"}) scene_.AddGroup(name, name, kRootOwner);
+  Fill(PersonalContent::kSample);
+  EXPECT_EQ(TitlesUnder(store_, MIT_GROUP_USER), L"My Group My Documents");
+  EXPECT_EQ(TitlesUnder(store_, L"M1") + TitlesUnder(store_, L"M2"), L"");
+  EXPECT_EQ(TitlesUnder(store_, L"M3"), L"Desktop Start Menu Open-All");
+  MakeDrive(L'D', 2);
+  scene_.AddGroup(L"M9", L"M9", kRootOwner);
+  Fill(PersonalContent::kDriveGroups);
+  EXPECT_EQ(TitlesUnder(store_, L"M10"), L"f10 f11");
+}
+
 TEST_F(PersonalGroup, HiddenSystemAndCompressedFoldersAndOtherDrivesTakeNoPlace) {
   MakeDrive(L'D', 30);
   machine_.files.SetFileAttributesA(L"D:\\f10", kFileHidden);

@@ -71,6 +71,21 @@ TEST_F(Organize, OnlyGroupsHaveNodesUnlessAllIsWanted) {
   EXPECT_EQ(scene_.Status(), L"1 object(s) selected|Folder Shortcut|The second|Beta");
 }
 
+TEST_F(OpenOrganize, ANewNodeStandsAmongTheSiblingsThatHaveOne) {
+  scene_.Window().ChooseMenu({L"View", L"Show All in Left Pane"});  // off
+  const auto add = [this](const wchar_t* title, const std::wstring& owner) {
+    const ItemRef item =
+        form().WorkCollection()->AddNewMenuItem({.Caption = title, .OwnerName = owner, .SubMenu = true});
+    form().AddTreeNode(*item);
+    return item->Name();
+  };
+  const std::wstring personal = MIT_GROUP_USER;
+  const std::wstring middle = add(L"Middle", personal);
+  add(L"Aaa", personal);
+  add(L"Only", middle);
+  EXPECT_EQ(scene_.Nodes(), L"0 Organized Folders|1 Personal|2 Aaa|2 Alpha|2 Middle|3 Only|1 Drives");
+}
+
 TEST_F(OpenOrganize, DrivesShowATextInsteadOfRows) {
   for (const wchar_t* node : {L"Drives", L"Organized Folders"}) {
     scene_.Window().ClickNode(scene_.Tree(), node);

@@ -117,11 +117,9 @@ TEST_F(OrganizedFolders, AMovedItemGoesWhereItStandsNow) {
 }
 
 TEST_F(OrganizedFolders, ATitleThatTheDiskRefusesTakesItsItemsAlong) {
-  for (const std::wstring& title : {std::wstring(L".."), std::wstring(L". "), std::wstring(300, L'n')}) {
-    scene_.AddGroup(L"G" + title, title);
-    scene_.AddGroup(L"H" + title, L"below", L"G" + title);
-    Add(L"S" + title, L"S", L"H" + title);
-  }
+  scene_.AddGroup(L"G", std::wstring(300, L'n'));
+  scene_.AddGroup(L"H", L"below", L"G");
+  Add(L"S", L"S", L"H");
   Add(L"long", std::wstring(300, L'n'));
   Add(L"last", L"last");
   Project();
@@ -129,13 +127,32 @@ TEST_F(OrganizedFolders, ATitleThatTheDiskRefusesTakesItsItemsAlong) {
   EXPECT_EQ(Tree(L"C:\\Users\\User\\Desktop"), L"Organized Folders[last.lnk]");
 }
 
-TEST_F(OrganizedFolders, WhatStoodInTheRootGoes) {
+TEST_F(OrganizedFolders, ATitleThatMeansSomethingElseToTheDiskGetsANameOfItsOwn) {
+  for (const wchar_t* title : {L"..", L"Ends. .", L"con", L"Aux .txt", L"COM1", L"COM", L"nul x"}) {
+    scene_.AddGroup(title, title);
+    Add(std::wstring(L"S") + title, L"S", title);
+  }
+  for (const wchar_t* title : {L"NUL", L"LPT9.a", L" "}) Add(title, title);
   Project();
+  EXPECT_EQ(
+      Tree(),
+      L" _.lnk .._[S.lnk] Aux_ .txt[S.lnk] COM[S.lnk] COM1_[S.lnk] con_[S.lnk] Ends[S.lnk] LPT9_.a.lnk nul x[S.lnk] "
+      L"NUL_.lnk");
+}
+
+// What the program can't have written isn't lost.
+TEST_F(OrganizedFolders, WhatStoodInTheRootGoes) {
+  scene_.AddGroup(L"GA", L"mixed");
+  scene_.AddGroup(L"GB", L"gone", L"GA");
+  Add(L"old", L"old", L"GB");
+  Project();
+  for (const wchar_t* name : {L"GA", L"GB", L"old"}) store_.Remove(name);
   const std::wstring root = kDesktop;
   machine_.AddFile(root + L"\\by hand\\below\\file");
   machine_.AddFile(root + L"\\locked.lnk", "l");
   machine_.AddFile(root + L"\\A\\locked too");
-  machine_.AddFile(root + L"\\old.lnk");
+  machine_.AddFile(root + L"\\mixed\\mine.lnk");
+  machine_.shell.WriteShellLink(root + L"\\theirs.lnk", {kTarget, L"Another", kShowNormal});
   machine_.AddFile(L"C:\\elsewhere\\kept", "kept");
   std::error_code noLinks;  // some disks have none
   std::filesystem::create_directory_symlink(machine_.RealPath(L"C:\\elsewhere"), machine_.RealPath(root + L"\\link"),
@@ -147,9 +164,45 @@ TEST_F(OrganizedFolders, WhatStoodInTheRootGoes) {
   Project();
   EXPECT_EQ(Tree(), L"A[locked too] locked.lnk T.lnk");
   EXPECT_EQ(machine_.BytesOf(L"C:\\elsewhere\\kept"), "kept");
+  EXPECT_EQ(machine_.shell.Recycled,
+            std::vector<std::wstring>({root + L"\\by hand", root + L"\\mixed\\mine.lnk", root + L"\\theirs.lnk"}));
   machine_.faults.HeldOpen.clear();
+  machine_.shell.HasRecycleBin = false;
+  Add(L"locked", L"locked");
+  Project();
+  EXPECT_EQ(Tree(), L"A[locked too] locked.lnk T.lnk");
+  EXPECT_EQ(machine_.BytesOf(root + L"\\locked.lnk"), "l");
+  machine_.shell.HasRecycleBin = true;
   DeleteOrganizedFoldersDesktop(app_);
   EXPECT_FALSE(files_.FolderExists(root));
+}
+
+TEST_F(OrganizedFolders, AFolderThatOthersMadeIsAskedAboutOnce) {
+  app_.ADVC[Advanced::kOnDesktop] = true;
+  Add(L"T", L"T");
+  machine_.AddFile(kDesktop + std::wstring(L"\\mine"), "m");
+  const std::wstring question =
+      L"Folder " + std::wstring(kDesktop) + L" isn't Burrowmark's. Do you want its content to be replaced?";
+  machine_.user.NextBox(question, kAnswerNo);
+  Project();
+  DeleteOrganizedFoldersDesktop(app_);
+  EXPECT_EQ(Tree(), L"mine");
+  EXPECT_FALSE(app_.ADVC[Advanced::kOnDesktop]);
+  EXPECT_EQ(Setting(L"ADVC2"), L"0");
+  machine_.user.NextBox(question, kAnswerYes, [this] { app_.MainDocument.Store = nullptr; });
+  const auto store = app_.MainDocument.Store;
+  RefreshOrganizedFoldersDesktop(app_, app_.MainDocument.Store, false);
+  app_.MainDocument.Store = store;
+  Project();
+  EXPECT_EQ(Tree(), L"T.lnk");
+}
+
+TEST_F(OrganizedFolders, OnlyARootThatIsGoneTurnsItsOptionOff) {
+  app_.ADVC[Advanced::kOnDesktop] = app_.ADVC[Advanced::kInSendTo] = true;
+  app_.OrganizedFoldersSendTo = L"X:\\away\\Organized Folders";
+  CheckOrganizedFoldersExist(app_);
+  EXPECT_FALSE(app_.ADVC[Advanced::kOnDesktop]);
+  EXPECT_TRUE(app_.ADVC[Advanced::kInSendTo]);
 }
 
 TEST_F(OrganizedFolders, WithoutAPlaceNothingIsProjected) {
@@ -180,7 +233,9 @@ TEST_F(OrganizedFolders, NoFailureStopsTheRest) {
   for (std::size_t i = 0; i < calls.size(); ++i) {
     SCOPED_TRACE(calls[i]);
     const auto strikes = [&call = calls[i]](const char* name) { return call.starts_with(name); };
-    if (strikes("ListFolder") || strikes("DeleteFolder")) machine_.user.NextBox(kConflict, kAnswerOk);
+    const bool keepsFolder =
+        strikes("DeleteFolder") || (strikes("ListFolder") && calls[i].ends_with("Organized Folders"));
+    if (keepsFolder) machine_.user.NextBox(kConflict, kAnswerOk);
     machine_.faults.FailCall(i + 1);
     Project();
     EXPECT_EQ(machine_.faults.Failed(), 1U);

@@ -242,6 +242,24 @@ bool LocalFileSystem::RemoveTree(const std::wstring& path, const fs::path& place
   return fs::remove(place, error) && attributes_.Forget(path);
 }
 
+bool LocalFileSystem::Recycle(const std::wstring& path) {
+  const std::optional<Entry> entry = Look(path);
+  if (!entry || !entry->Exists() || entry->name.IsRoot() || entry->name.OnShare() || Held(*entry)) return false;
+  const std::wstring inside = Folded(entry->name.Text()) + L'\\';
+  if (std::any_of(faults_.HeldOpen.begin(), faults_.HeldOpen.end(),
+                  [&inside](const std::wstring& held) { return held.starts_with(inside); })) {
+    return false;
+  }
+  const std::optional<Entry> bin = Look(entry->name.root + L"\\$Recycle.Bin");
+  if (!bin) return false;
+  std::error_code error;
+  fs::create_directory(bin->place, error);
+  fs::path place;
+  for (int number = 1; place.empty() || fs::exists(place); ++number) place = bin->place / std::to_string(number);
+  fs::rename(entry->place, place, error);
+  return !error && attributes_.Forget(entry->name.Text());
+}
+
 bool LocalFileSystem::ListFolder(const std::wstring& path, std::vector<FolderEntry>& entries) {
   entries.clear();
   if (faults_.Strikes("ListFolder", path)) return false;
@@ -253,7 +271,7 @@ bool LocalFileSystem::ListFolder(const std::wstring& path, std::vector<FolderEnt
     std::optional<WindowsPath> inside = ParseWindowsPath(folder->name.Text() + L'\\' + name);
     if (!inside || inside->names.empty() || inside->names.back() != name) continue;  // no name that Windows could have
     const Entry entry = Examine(*std::move(inside), it->path());
-    if (entry.Exists()) entries.push_back({std::move(name), entry.attributes});
+    if (entry.Exists()) entries.push_back({std::move(name), entry.attributes, it->is_symlink(error)});
   }
   std::sort(entries.begin(), entries.end(),
             [](const FolderEntry& a, const FolderEntry& b) { return Folded(a.name) < Folded(b.name); });

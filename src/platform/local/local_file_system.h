@@ -42,6 +42,8 @@ class LocalFileSystem final : public FileSystem {
   // In place of a file that is there.
   bool Store(const std::wstring& path, std::string_view bytes);
   std::optional<std::uint32_t> AttributesOf(const std::wstring& path);
+  // Moves a file or a folder into the drive's own folder for such. False if it, or something in it, is held open.
+  bool Recycle(const std::wstring& path);
   // The drive that a path is on; a share isn't one.
   DriveFacts FactsOf(const WindowsPath& path) {
     return path.OnShare() ? DriveFacts{kDriveTypeRemote, {}, path.root} : drives_.FactsOf(path.root.front());

@@ -70,6 +70,12 @@ bool LocalShell::WriteShellLink(const std::wstring& path, const ShellLink& link)
   return files_.Store(path, BuildLinkFile(link, *target, attributes, {drive.type, drive.label}, facts_));
 }
 
+bool LocalShell::RecycleFile(const std::wstring& path) {
+  if (faults_.Strikes("RecycleFile", path) || !HasRecycleBin || !files_.Recycle(path)) return false;
+  Recycled.push_back(path);
+  return true;
+}
+
 std::int32_t LocalShell::mciSendStringA(const std::wstring& command) {
   MediaCommands.push_back(command);
   return 0;

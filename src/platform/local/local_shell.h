@@ -35,10 +35,12 @@ class LocalShell final : public Shell {
   std::vector<Launch> Launches;
   std::vector<HelpCall> HelpCalls;
   std::vector<std::wstring> MediaCommands;
+  std::vector<std::wstring> Recycled;  // what went into the bin
   // What it answers.
   std::int32_t LaunchResult = 42;
   bool HelpOpens = true;
   bool HasTaskBar = true;
+  bool HasRecycleBin = true;
 
   // The first icon of the tray; none if there is none.
   const TrayIcon* Tray() const { return icons_.empty() ? nullptr : &icons_.front(); }
@@ -52,6 +54,7 @@ class LocalShell final : public Shell {
   bool HtmlHelpA(const std::wstring& path, std::int32_t command) override;
   bool ReadShellLink(const std::wstring& path, ShellLink& link) override;
   bool WriteShellLink(const std::wstring& path, const ShellLink& link) override;
+  bool RecycleFile(const std::wstring& path) override;
   std::int32_t mciSendStringA(const std::wstring& command) override;
 
  private:

@@ -24,7 +24,7 @@ class Search {
 
   bool IsOpen() const { return handle_ != INVALID_HANDLE_VALUE; }
   bool Next() { return ::FindNextFileW(handle_, &found_) != 0; }
-  FolderEntry Entry() const { return {found_.cFileName, found_.dwFileAttributes}; }
+  FolderEntry Entry() const { return {found_.cFileName, found_.dwFileAttributes, IsFolderLink(found_)}; }
 
  private:
   WIN32_FIND_DATAW found_ = {};
@@ -39,6 +39,14 @@ bool IsFolder(const std::wstring& name) {
 bool IsItselfOrParent(const std::wstring& name) { return name == L"." || name == L".."; }
 
 }  // namespace
+
+// The system marks other folders in the same way, those that are kept in a cloud for instance; what is in them is
+// theirs.
+bool IsFolderLink(const WIN32_FIND_DATAW& found) {
+  constexpr DWORD kLinkedFolder = FILE_ATTRIBUTE_REPARSE_POINT | FILE_ATTRIBUTE_DIRECTORY;
+  if ((found.dwFileAttributes & kLinkedFolder) != kLinkedFolder) return false;
+  return found.dwReserved0 == 0 || IsReparseTagNameSurrogate(found.dwReserved0);
+}
 
 bool ReadFolder(const std::wstring& path, std::vector<FolderEntry>& entries) {
   entries.clear();

@@ -1,6 +1,8 @@
 // What a folder of the real system holds.
 #pragma once
 
+#include <windows.h>
+
 #include <string>
 #include <vector>
 
@@ -10,5 +12,8 @@ namespace burrowmark {
 
 // As FileSystem::ListFolder.
 bool ReadFolder(const std::wstring& path, std::vector<FolderEntry>& entries);
+
+// What was found leads to a folder elsewhere.
+bool IsFolderLink(const WIN32_FIND_DATAW& found);
 
 }  // namespace burrowmark

@@ -29,15 +29,12 @@ bool IsRoot(const std::wstring& path) {
   return share == std::wstring::npos || path.find(L'\\', share + 1) == std::wstring::npos;
 }
 
-// True for a link to a folder elsewhere. The system marks other folders in the same way, those that are kept in a cloud
-// for instance; what is in them is theirs.
 bool IsLink(const std::wstring& name) {
   WIN32_FIND_DATAW found = {};
   const HANDLE search = ::FindFirstFileW(name.c_str(), &found);
   if (search == INVALID_HANDLE_VALUE) return true;  // nobody knows what it is, so it isn't entered
   ::FindClose(search);
-  if ((found.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) == 0) return false;
-  return found.dwReserved0 == 0 || IsReparseTagNameSurrogate(found.dwReserved0);
+  return IsFolderLink(found);
 }
 
 void MakeWritable(const std::wstring& name, std::uint32_t attributes) {

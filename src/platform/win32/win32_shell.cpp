@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <iterator>
 
+#include "platform/drive_letter.h"
 #include "platform/win32/handles.h"
 #include "platform/win32/link_object.h"
 #include "platform/win32/quiet_drives.h"
@@ -113,6 +114,21 @@ bool Win32Shell::HtmlHelpA(const std::wstring& path, std::int32_t command) {
 bool Win32Shell::ReadShellLink(const std::wstring& path, ShellLink& link) { return LoadLink(path, link); }
 
 bool Win32Shell::WriteShellLink(const std::wstring& path, const ShellLink& link) { return SaveLink(path, link); }
+
+// The shell's call takes plain paths alone, and where a drive has no bin it would delete for good.
+bool Win32Shell::RecycleFile(const std::wstring& path) {
+  SHQUERYRBINFO bin = {};
+  bin.cbSize = sizeof(bin);
+  const std::wstring root = path.substr(0, 3);
+  if (!DriveLetter(root) || ::GetDriveTypeW(root.c_str()) != DRIVE_FIXED) return false;
+  if (FAILED(::SHQueryRecycleBinW(root.c_str(), &bin))) return false;
+  const std::wstring list = path + L'\0';  // a list ends in two NULs
+  SHFILEOPSTRUCTW removal = {};
+  removal.wFunc = FO_DELETE;
+  removal.pFrom = list.c_str();
+  removal.fFlags = FOF_ALLOWUNDO | FOF_NOCONFIRMATION | FOF_NOERRORUI | FOF_SILENT | FOF_WANTNUKEWARNING;
+  return ::SHFileOperationW(&removal) == 0 && removal.fAnyOperationsAborted == FALSE;
+}
 
 std::int32_t Win32Shell::mciSendStringA(const std::wstring& command) {
   // Loaded with the first command: a program at rest has no use for it.

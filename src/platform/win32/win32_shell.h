@@ -21,6 +21,7 @@ class Win32Shell final : public Shell {
   bool HtmlHelpA(const std::wstring& path, std::int32_t command) override;
   bool ReadShellLink(const std::wstring& path, ShellLink& link) override;
   bool WriteShellLink(const std::wstring& path, const ShellLink& link) override;
+  bool RecycleFile(const std::wstring& path) override;
   std::int32_t mciSendStringA(const std::wstring& command) override;
 
  private:
