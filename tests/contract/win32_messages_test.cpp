@@ -1,5 +1,4 @@
 // What the real system's messages become, and what goes out to it: of no concern to any other system.
-#ifdef _WIN32
 #include <gtest/gtest.h>
 #include <windows.h>
 
@@ -44,11 +43,6 @@ class Win32Messages : public ::testing::Test {
   MainWindowEvents events_;
   WindowHandle window_ = platform_.windows.CreateMainWindow(L"Contract", events_);
 };
-
-TEST_F(Win32Messages, TheMainWindowIsNeverSeen) {
-  EXPECT_FALSE(::IsWindowVisible(Window()));
-  EXPECT_NE(::GetWindowLongPtrW(Window(), GWL_EXSTYLE) & WS_EX_TOOLWINDOW, 0);
-}
 
 TEST_F(Win32Messages, ASelectedEntryHasOneState) {
   const struct {
@@ -132,11 +126,15 @@ TEST_F(Win32Messages, CopiedDataThatIsNoTextIsRefused) {
 TEST_F(Win32Messages, AHookThatThrowsHasHandledNothing) {
   int pressed = 0;
   events_.TrayMouse = [&pressed](std::uint32_t) { ++pressed; };
-  events_.TaskbarCreated = [] { throw std::runtime_error("from an event"); };
+  events_.TaskbarCreated = [&pressed] {
+    ++pressed;
+    throw std::runtime_error("from an event");
+  };
   Hook([](WindowMessage&) -> MessageResult { throw std::runtime_error("from a hook"); });
   ::SendMessageW(Window(), kMessageMouseMove, 1, WM_LBUTTONUP);
   EXPECT_EQ(pressed, 1);
   ::SendMessageW(Window(), ::RegisterWindowMessageW(L"TaskbarCreated"), 0, 0);
+  EXPECT_EQ(pressed, 2);
   platform_.windows.Post([] { throw std::runtime_error("from work"); });
   platform_.windows.DoEvents();
 }
@@ -168,13 +166,6 @@ TEST_F(Win32Messages, AnotherScaleIsToldOnce) {
     ::SendMessageW(Window(), WM_DPICHANGED, MAKEWPARAM(dpi, dpi), reinterpret_cast<LPARAM>(&place));
   }
   EXPECT_EQ(told, (std::vector<std::int32_t>{240, 120}));
-}
-
-TEST_F(Win32Messages, TheTaskBarIsToldOf) {
-  int told = 0;
-  events_.TaskbarCreated = [&told] { ++told; };
-  ::SendMessageW(Window(), ::RegisterWindowMessageW(L"TaskbarCreated"), 0, 0);
-  EXPECT_EQ(told, 1);
 }
 
 TEST_F(Win32Messages, AnotherHolderOfANameIsSeen) {
@@ -236,4 +227,3 @@ TEST_F(Win32Messages, ATypedLetterGoesToTheNextEntryThatStartsWithIt) {
 
 }  // namespace
 }  // namespace burrowmark
-#endif

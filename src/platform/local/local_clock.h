@@ -13,6 +13,8 @@ class LocalClock final : public Clock {
   std::optional<LocalTime> Fixed;  // while it is set, the clock stands at this moment
 
   LocalTime GetLocalTime() const override;
+  // A moment on the clock of the system below.
+  static LocalTime Split(std::time_t moment);
 
  private:
   // The last answer, for all questions of its second: the zone's file is looked at for every one that is worked out.

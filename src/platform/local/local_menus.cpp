@@ -79,6 +79,7 @@ std::uint32_t LocalMenus::SelectedState() const {
 
 void LocalMenus::Play(PopupRun& run, const std::vector<MenuAction>& actions) {
   for (const MenuAction& action : actions) {
+    if (!run.IsOpen() && user_.AnyMenu) return;
     if (!run.IsOpen()) user_.Complain("the menu closed before " + ToUtf8(action.title) + " could be done");
     if (!run.Perform(action)) user_.Complain("the menu has no entry " + ToUtf8(action.title));
   }

@@ -220,7 +220,7 @@ void PopupRun::Execute(bool byKey) {
 
 // The program's messages go on while a menu is open. One of them may end the menu, or take it away.
 void PopupRun::LetOthersRun() {
-  windows_.DoEvents();
+  windows_.Yield(YieldPoint::kMenu);
   const bool gone =
       std::any_of(levels_.begin(), levels_.end(), [this](const PopupView& view) { return !tree_.Exists(view.menu); });
   if (gone || windows_.Main() != look_.window || windows_.CancelledModes() != cancelModes_) CloseFrom(0);
