@@ -25,7 +25,7 @@ struct Rect {
 // How much room a text takes.
 struct TextExtent {
   std::int32_t width = 0;
-  std::int32_t height = 0;  // of a line in the context's font, whatever the text
+  std::int32_t height = 0;  // of a line in the context's font, whatever the text; an empty one may have none
 };
 
 // Indices of system colours (winuser.h).

@@ -39,7 +39,7 @@ TEST_P(DrawingContract, EveryPrintedCharacterHasAWidthThatFollowsTheScale) {
   const DeviceContext context = drawing_.MenuMeasureContext(192);
   EXPECT_GT(drawing_.GetTextExtentPoint32A(context, L"a").height, 20);
   EXPECT_EQ(drawing_.GetTextExtentPoint32A(context, L"\u4E2D").height,
-            drawing_.GetTextExtentPoint32A(context, L"").height);
+            drawing_.GetTextExtentPoint32A(context, L"a").height);
 }
 
 TEST_P(DrawingContract, TheIconsLoadInEverySize) {

@@ -48,8 +48,8 @@ TEST_P(KeyboardContract, EveryKeyArrivesWithTheStateOfTheModifiersUntilTheHookIs
   Hook();
   for (const std::vector<std::int32_t>& keys : std::vector<std::vector<std::int32_t>>{
            {kF24}, {kKeyControl, kF24}, {kKeyShift, kF24}, {kKeyControl, kKeyShift, kF24}}) {
-    system_->PressKeys(keys);
     const std::string before = seen_;
+    system_->PressKeys(keys);
     for (int i = 0; i < kPatience && seen_ == before; ++i) {
       std::this_thread::sleep_for(std::chrono::milliseconds(i == 0 ? 0 : 10));
       platform_.windows.DoEvents();

@@ -149,8 +149,9 @@ TEST_F(Win32Messages, TheSessionsEndIsGrantedAtOnceAndToldWhenItComes) {
   EXPECT_EQ(told, 1);
 }
 
-TEST_F(Win32Messages, ClosingUnloadsAndEndsTheLoop) {
+TEST_F(Win32Messages, AWindowThatIsDestroyedAtItsCloseUnloadsAndEndsTheLoop) {
   int unloaded = 0;
+  events_.Close = [this] { platform_.windows.DestroyMainWindow(window_); };
   events_.Unload = [&unloaded] { ++unloaded; };
   ::PostMessageW(Window(), WM_CLOSE, 0, 0);
   platform_.windows.RunLoop();
