@@ -87,6 +87,7 @@ build native
 unless_passed native-unit-tests build/native/tests/unit_tests -- build/native/tests/unit_tests --gtest_brief=1
 unless_passed native-contract-tests build/native/tests/contract_tests -- \
   build/native/tests/contract_tests --gtest_brief=1
+unless_passed native-stress build/native/tests/stress_tests -- build/native/tests/stress_tests
 
 build windows
 unless_passed windows-unit-tests build/windows/tests/unit_tests.exe -- \

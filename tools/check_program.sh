@@ -1,16 +1,16 @@
 #!/usr/bin/env bash
-# Checks burrowmark.exe: at most 2 MB, the system's own libraries alone, hardening flags, a manifest. Usage: FILE
+# Checks burrowmark.exe: at most 1.5 MB, the system's own libraries alone, hardening flags, a manifest. Usage: FILE
 set -euo pipefail
 exe=$1
 bad=0
 complain() { printf 'burrowmark.exe: %s\n' "$*"; bad=1; }
 
-most=$((2 * 1024 * 1024))
+most=1500000
 size=$(stat -c %s "$exe")
 [ "$size" -le "$most" ] || complain "$size bytes, more than $most"
 
 facts=$(x86_64-w64-mingw32-objdump -p "$exe")
-system='^(ADVAPI32|COMCTL32|comdlg32|GDI32|KERNEL32|MPR|msvcrt|NETAPI32|ole32|OLEAUT32|SHELL32|SHLWAPI|USER32|WINMM|WS2_32)\.dll$'
+system='^(ADVAPI32|COMCTL32|GDI32|KERNEL32|msvcrt|NETAPI32|ole32|OLEAUT32|SHELL32|SHLWAPI|USER32|WS2_32)\.dll$'
 foreign=$(sed -n 's/.*DLL Name: //p' <<<"$facts" | grep -viE "$system" || true)
 [ -z "$foreign" ] || complain "needs $foreign"
 

@@ -9,7 +9,6 @@ librsvg2-bin).  Running it again without changing a drawing changes no byte.
 """
 
 import argparse
-import collections
 import pathlib
 import re
 import struct
@@ -19,16 +18,13 @@ import zlib
 
 HERE = pathlib.Path(__file__).resolve().parent
 
-# What the files of a kind of icon hold: images of these sizes, as PNG from
-# png_from pixels up and as bitmaps below.
-Kind = collections.namedtuple("Kind", "sizes png_from")
-
+# The sizes that the files of a kind of icon hold.
 # For menus, lists and the tray.
-MENU = Kind((16, 20, 24, 32, 48), 256)
+MENU = (16, 20, 24, 32, 48)
 # For buttons of 16 and of 24 pixels, at 96, 120, 144 and 192 dots an inch.
-TOOLBAR = Kind((16, 20, 24, 30, 32, 36, 48), 48)
+TOOLBAR = (16, 20, 24, 30, 32, 36, 48)
 # burrowmark.ico: the program file's icon.
-PROGRAM = Kind((16, 20, 24, 32, 40, 48, 64, 256), 256)
+PROGRAM = (16, 20, 24, 32, 40, 48, 64, 256)
 
 # The kinds of NN-name.ico by the numbers NN.
 KINDS = (
@@ -204,12 +200,11 @@ def render_all(drawings, sizes):
     return {size: render(pick_source(drawings, size), size) for size in sizes}
 
 
-def icon_file(pictures, png_from):
-    """Return the bytes of an .ico file with these {size: pixels}."""
-    images = []
-    for size, pixels in pictures.items():
-        encode = png_image if size >= png_from else bitmap_image
-        images.append((size, encode(size, pixels)))
+def icon_file(pictures):
+    """Return the bytes of an .ico file with these {size: pixels}: each as PNG or
+    as bitmap, whichever is smaller."""
+    images = [(size, min(png_image(size, pixels), bitmap_image(size, pixels), key=len))
+              for size, pixels in pictures.items()]
     offset = 6 + 16 * len(images)
     directory = struct.pack("<HHH", 0, 1, len(images))
     for size, data in images:
@@ -226,11 +221,11 @@ def files_of(name, drawings):
     kind = next((kind for numbers, kind in KINDS if number in numbers), None)
     if kind is None:
         sys.exit(f"{name}: no kind of icon has this number")
-    pictures = render_all(drawings, kind.sizes)
-    files = {f"{name}.ico": icon_file(pictures, kind.png_from)}
+    pictures = render_all(drawings, kind)
+    files = {f"{name}.ico": icon_file(pictures)}
     if kind is TOOLBAR:
         off = {size: disabled(pixels) for size, pixels in pictures.items()}
-        files[f"{number + OFF_STEP}-{title}-off.ico"] = icon_file(off, kind.png_from)
+        files[f"{number + OFF_STEP}-{title}-off.ico"] = icon_file(off)
     return files
 
 
@@ -241,8 +236,7 @@ def main():
     check = parser.parse_args().check
 
     icons = find_sources()
-    files = {"burrowmark.ico": icon_file(
-        render_all(icons["01-burrowmark"], PROGRAM.sizes), PROGRAM.png_from)}
+    files = {"burrowmark.ico": icon_file(render_all(icons["01-burrowmark"], PROGRAM))}
     for name, drawings in icons.items():
         files.update(files_of(name, drawings))
 

@@ -4,7 +4,6 @@
 #include "core/failure.h"
 #include "core/file_names.h"
 #include "core/numbers.h"
-#include "core/program_form.h"
 #include "core/registry.h"
 #include "core/registry_keys.h"
 
@@ -24,8 +23,8 @@ bool AddsOrOpens(const std::wstring& Command) {
 
 // A modeless dialog of options is no task of the user's: it goes as if they had cancelled it.
 void CloseOptions(Application& app) {
-  ProgramForm* options = app.Windows.Find(ProgramWindow::kOptions);
-  if (options != nullptr) options->Unload();
+  OpenWindow* options = app.Windows.Find(ProgramWindow::kOptions);
+  if (options != nullptr) options->Close();
 }
 
 void CarryOut(Application& app, Editor& editor, const std::wstring& Command) {

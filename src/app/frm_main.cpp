@@ -29,6 +29,7 @@ frmMain::frmMain(Application& app) : app_(app), menu_(app), tray_(app, menu_), h
 void frmMain::ConnectEvents() {
   events_.TrayMouse = [this](std::uint32_t mouseMessage) { tray_.Form_MouseMove(mouseMessage); };
   events_.TaskbarCreated = [this] { tray_.Add(); };
+  events_.DpiChanged = [this](std::int32_t) { tray_.ScaleChanged(); };
   events_.SessionEnding = [this] { editor_.SaveForSessionEnd(); };
   events_.Close = [this] { app_.Requests.EndProgram(); };
   events_.Unload = [this] { Form_Unload(); };

@@ -1,5 +1,8 @@
 #include "config/config_file.h"
 
+#include <algorithm>
+#include <vector>
+
 #include "config/config_listing.h"
 #include "config/config_reader.h"
 #include "config/config_writer.h"
@@ -18,21 +21,36 @@ namespace {
 constexpr char kUtf8Bom[] = "\xEF\xBB\xBF";
 constexpr int kMostUnreadableCopies = 100;
 
-// The folder of the default file for a program whose own folder can't be written to; empty if there is none.
-std::wstring ApplicationDataFolder(Application& app) {
+// The folders of the default file for a program whose own folder can't be written to, from the top; the first one is
+// the system's. None if the system doesn't name it.
+std::vector<std::wstring> DataFolders(Application& app) {
   std::wstring folder;
   clsRegHandler(app.platform.registry).GetKeyValue(RegistryKey::kCurrentUser, kShellFoldersKey, L"AppData", folder);
-  if (folder.empty()) return {};
-  for (const wchar_t* part : {L"\\Kestrelan", L"\\Burrowmark"}) {
-    folder += part;
-    app.platform.files.CreateFolder(folder);
-  }
-  return app.platform.files.FolderExists(folder) ? folder : std::wstring();
+  if (!app.platform.files.FolderExists(folder)) return {};
+  return {folder, folder + L"\\Kestrelan", folder + L"\\Kestrelan\\Burrowmark"};
 }
 
-// True if the drive or the share that a path stands on is there.
+std::wstring DefaultNameIn(const std::wstring& folder) { return folder + L"\\" + kDefaultConfigName; }
+
+// Makes the folders of application data when the first file is saved there.
+void MakeFoldersOf(Application& app, const std::wstring& path) {
+  const std::vector<std::wstring> folders = DataFolders(app);
+  if (folders.empty() || !EqualIgnoringCase(path, DefaultNameIn(folders.back()))) return;
+  for (const std::wstring& folder : folders) {
+    if (!app.platform.files.FolderExists(folder)) app.platform.files.CreateFolder(folder);
+  }
+}
+
+// True if a file can be saved in the last of these folders, once those that are missing are made.
+bool CanSaveBelow(FileSystem& files, const std::vector<std::wstring>& folders) {
+  const auto there = std::find_if(folders.rbegin(), folders.rend(),
+                                  [&files](const std::wstring& folder) { return files.FolderExists(folder); });
+  return there != folders.rend() && CanSave(files, DefaultNameIn(*there));
+}
+
+// True if the drive with its medium, or the share, that a path stands on is there.
 bool IsPlaceThere(FileSystem& files, const std::wstring& path) {
-  if (!path.starts_with(L"\\\\")) return files.DriveExists(path.substr(0, 2));
+  if (!path.starts_with(L"\\\\")) return files.FolderExists(path.substr(0, 3));
   const std::size_t share = path.find(L'\\', 2);
   return share != std::wstring::npos && files.FolderExists(path.substr(0, path.find(L'\\', share + 1)));
 }
@@ -44,24 +62,50 @@ std::string ListingBytes(const Application& app, const Document& document) {
   return app.platform.system.ToAnsi(text, bytes) ? bytes : kUtf8Bom + ToUtf8(text);
 }
 
-// A free name beside a file, "x (unreadable).bwmk" and so on; empty if too many are taken.
-std::wstring NameForCopy(FileSystem& files, const std::wstring& path) {
+// "x (word).bwmk" of "x.bwmk".
+std::wstring NameWith(const std::wstring& path, const std::wstring& word) {
   const std::size_t dot = path.rfind(L'.');
   const std::size_t slash = path.rfind(L'\\');
   const bool hasExtension = dot != std::wstring::npos && (slash == std::wstring::npos || dot > slash);
-  const std::wstring base = hasExtension ? path.substr(0, dot) : path;
-  const std::wstring extension = hasExtension ? path.substr(dot) : std::wstring();
+  const std::size_t end = hasExtension ? dot : path.size();
+  return path.substr(0, end) + L" (" + word + L")" + path.substr(end);
+}
+
+// A free name beside a file, "x (unreadable).bwmk" and so on; empty if too many are taken.
+std::wstring NameForCopy(FileSystem& files, const std::wstring& path) {
   for (int i = 1; i <= kMostUnreadableCopies; ++i) {
-    const std::wstring number = i == 1 ? std::wstring() : L" " + DecimalText(i);
-    const std::wstring copy = base + L" (unreadable)" + number + extension;
+    const std::wstring copy = NameWith(path, i == 1 ? L"unreadable" : L"unreadable " + DecimalText(i));
     if (!files.FileExists(copy)) return copy;
   }
   return {};
 }
 
+std::wstring PreviousName(const std::wstring& path) { return NameWith(path, L"previous"); }
+
+// Before the first save of a day the version before it is kept. Where that can't be done the save goes on: the user
+// wants the edits first.
+void KeepPrevious(Application& app, const std::wstring& path) {
+  FileSystem& files = app.platform.files;
+  const std::optional<LocalTime> written = files.GetFileTime(path);
+  const LocalTime now = app.platform.clock.GetLocalTime();
+  if (!written || (written->year == now.year && written->month == now.month && written->day == now.day)) return;
+  std::string bytes;
+  if (files.ReadWholeFile(path, bytes) && !bytes.empty()) SaveWholeFile(files, PreviousName(path), bytes);
+}
+
+void RemoveLeftOvers(FileSystem& files, const std::wstring& path) {
+  RemoveLeftOver(files, path);
+  RemoveLeftOver(files, PreviousName(path));
+}
+
+// A file that wasn't whole is kept as it was already, and mustn't take the place of a good version.
 bool Save(Application& app, Document& document) {
+  const std::wstring& path = document.CurrentConfigFile;
+  RemoveLeftOvers(app.platform.files, path);
+  MakeFoldersOf(app, path);
   const std::string bytes = BuildConfig(app, *document.Store, document.Summary);
-  if (!SaveWholeFile(app.platform.files, document.CurrentConfigFile, bytes)) return false;
+  if (document.Content == FileContent::kWhole) KeepPrevious(app, path);
+  if (!SaveWholeFile(app.platform.files, path, bytes)) return false;
   document.Content = FileContent::kWhole;
   document.Changed = false;
   return true;
@@ -75,18 +119,18 @@ DefaultFile FindDefaultFile(Application& app) {
   clsRegHandler(app.platform.registry)
       .GetKeyValue(RegistryKey::kCurrentUser, kSettingsKey, kConfigFileValue, registered);
   if (!registered.empty() && FileExists(files, registered)) return {registered, registered, false};
-  // A registered file on a drive that is away just now stays registered.
-  const bool registers = registered.empty() || IsPlaceThere(files, registered);
-  const std::wstring beside = app.AppPath + L"\\" + kDefaultConfigName;
+  // A registered file on a drive that is away just now stays registered, and the tree stays that file's.
+  const bool away = !registered.empty() && !IsPlaceThere(files, registered);
+  const std::wstring beside = DefaultNameIn(app.AppPath);
   const bool isBeside = FileExists(files, beside);
-  const bool canWriteBeside = CanCreateFilesIn(files, app.AppPath);
-  if (isBeside && canWriteBeside) return {beside, beside, registers};
-  const std::wstring folder = ApplicationDataFolder(app);
-  const std::wstring own = (folder.empty() ? app.AppPath : folder) + L"\\" + kDefaultConfigName;
-  if (!folder.empty() && FileExists(files, own)) return {own, own, registers};
-  if (isBeside) return {own, beside, registers && !folder.empty()};
-  if (!registered.empty()) return {registered, {}, false};
-  return {canWriteBeside ? beside : own, {}, false};
+  const bool canSaveBeside = CanSave(files, beside);
+  if (isBeside && canSaveBeside) return {beside, beside, !away};
+  const std::vector<std::wstring> folders = DataFolders(app);
+  const std::wstring own = folders.empty() ? beside : DefaultNameIn(folders.back());
+  if (!folders.empty() && FileExists(files, own)) return {own, own, !away && CanSave(files, own)};
+  if (isBeside) return {own, beside, !away && CanSaveBelow(files, folders)};
+  if (away || (!registered.empty() && CanSave(files, registered))) return {registered, {}, false};
+  return {canSaveBeside ? beside : own, {}, false};
 }
 
 void SaveConfigFileName(Application& app, const std::wstring& path) {
@@ -101,6 +145,7 @@ std::optional<OpenedConfig> ConfigFileRead(Application& app, const std::wstring&
   OpenedConfig opened;
   opened.document.Store = std::make_shared<clsMenuCollection>(app.platform.clock);
   opened.document.CurrentConfigFile = OwnPath(app, path);
+  RemoveLeftOvers(app.platform.files, path);
   std::string bytes;
   if (!app.platform.files.ReadWholeFile(path, bytes)) return std::nullopt;
   if (bytes.empty()) app.platform.files.DeleteFileA(path);
@@ -121,6 +166,12 @@ bool ConfigFileWriteAs(Application& app, Document& document, const std::wstring&
   return Attempt([&] {
     Document other = document;
     other.CurrentConfigFile = OwnPath(app, path);
+    if (app.platform.files.IsSameFile(path, document.CurrentConfigFile)) {
+      if (!KeepOldFile(app, other)) return false;
+    } else {
+      other.Content = FileContent::kWhole;  // what is there isn't this tree's, and may well be worth keeping for a day
+      other.KeptAs.clear();
+    }
     if (!Save(app, other)) return false;
     document = other;
     return true;
@@ -134,13 +185,19 @@ bool ConfigFileExport(Application& app, const Document& document, const std::wst
 bool ConfigFileUpdateSummary(Application& app, const Document& document) {
   const std::wstring& path = document.CurrentConfigFile;
   if (!app.platform.files.FileExists(path)) return true;
+  // The file isn't the one that the tree was read from.
+  if (document.Content == FileContent::kNone || document.Content == FileContent::kUnreadable) return false;
   return Attempt([&] {
     std::string bytes;
     std::string replaced;
     clsMenuCollection unused(app.platform.clock);
     ConfigContent content;
-    return app.platform.files.ReadWholeFile(path, bytes) && ReadConfig(app, bytes, unused, content) &&
-           ReplaceSummary(app, bytes, document.Summary, replaced) && SaveWholeFile(app.platform.files, path, replaced);
+    if (!app.platform.files.ReadWholeFile(path, bytes) || !ReadConfig(app, bytes, unused, content) ||
+        !ReplaceSummary(app, bytes, document.Summary, replaced)) {
+      return false;
+    }
+    KeepPrevious(app, path);
+    return SaveWholeFile(app.platform.files, path, replaced);
   });
 }
 

@@ -14,9 +14,10 @@ const SummarySection* FindSummarySection(std::wstring_view marker) {
 }
 
 bool IsLeftOutOfFiles(const clsMenuItem& item) {
+  if (item.Separator() || item.ItemType == MIT_DRIVE) return true;
   const std::wstring& name = item.Name();
-  return item.Separator() || name == MIT_HF_SETTINGS || name == MIT_HF_HELP || name == MIT_HF_ORGANIZE ||
-         name == MIT_PATHS_DRIVES || item.ItemType == MIT_DRIVE;
+  return name.starts_with(L"MIT_") &&
+         (name == MIT_HF_SETTINGS || name == MIT_HF_HELP || name == MIT_HF_ORGANIZE || name == MIT_PATHS_DRIVES);
 }
 
 std::wstring DecodeConfig(std::string_view bytes, const SystemFacts& system, bool& utf8) {
@@ -43,7 +44,11 @@ std::vector<std::wstring_view> SplitTokens(std::wstring_view text) {
 }
 
 void AppendToken(std::wstring& text, std::wstring_view token) {
-  std::copy_if(token.begin(), token.end(), std::back_inserter(text), [](wchar_t c) { return c != L'\0'; });
+  if (token.find(L'\0') == std::wstring_view::npos) {
+    text += token;
+  } else {
+    std::copy_if(token.begin(), token.end(), std::back_inserter(text), [](wchar_t c) { return c != L'\0'; });
+  }
   text.push_back(L'\0');
 }
 

@@ -12,7 +12,7 @@ constexpr wchar_t kLineEnd[] = L"\r\n";
 
 struct CountLine {
   const wchar_t* text;
-  std::int16_t CollectionCounts::*count;
+  std::int32_t CollectionCounts::*count;
 };
 
 constexpr CountLine kCountLines[] = {
@@ -47,7 +47,7 @@ void WriteTextBranch(std::wstring& text, const clsMenuCollection& store, const w
     const ItemRef item = store.Item(open.back().next++);
     if (item->Name() == open.back().root) {
       text += EntryLine(*item);
-    } else if (item->OwnerName == open.back().root) {
+    } else if (item->OwnerName() == open.back().root) {
       if (!item->SubMenu()) {
         text += EntryLine(*item);
       } else if (entered.insert(item->Name()).second) {

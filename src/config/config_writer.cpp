@@ -1,5 +1,6 @@
 #include "config/config_writer.h"
 
+#include <optional>
 #include <vector>
 
 #include "config/config_format.h"
@@ -9,40 +10,46 @@
 namespace burrowmark {
 namespace {
 
+constexpr std::size_t kUsualRecord = 200;  // characters
+
 void AppendRecord(std::wstring& text, const clsMenuItem& item) {
-  const std::wstring fields[kRecordFields] = {
-      DecimalText(item.Position),
-      item.Name(),
-      item.Caption(),
-      DecimalText(item.flags),
-      item.OwnerName,
-      DecimalText(item.IconID),
-      BooleanWord(item.Separator()),
-      BooleanWord(item.SubMenu()),
-      item.ItemType,
-      item.OpenType,
-      DecimalText(item.DriveType),
-      item.Description,
-      item.FolderPath,
-      item.NetworkPath,
-      item.ItemPath,
-      item.ItemLocation,
-      item.Remark,
-      item.KeyboardCode < 0 ? std::wstring() : DecimalText(item.KeyboardCode),
-      item.UserDescription,
-      PackDateText(item.TimeCreated),
-      PackDateText(item.TimeModified),
-      PackDateText(item.TimeAccessed),
-  };
-  for (const std::wstring& field : fields) AppendToken(text, field);
+  const auto add = [&text](std::wstring_view token) { AppendToken(text, token); };
+  add(DecimalText(item.Position));
+  add(item.Name());
+  add(item.Caption());
+  add(DecimalText(item.flags));
+  add(item.OwnerName());
+  add(DecimalText(item.IconID));
+  add(BooleanWord(item.Separator()));
+  add(BooleanWord(item.SubMenu()));
+  add(item.ItemType);
+  add(item.OpenType);
+  add(DecimalText(item.DriveType));
+  add(item.Description);
+  add(item.FolderPath);
+  add(item.NetworkPath);
+  add(item.ItemPath);
+  add(item.ItemLocation);
+  add(item.Remark);
+  add(item.KeyboardCode < 0 ? std::wstring() : DecimalText(item.KeyboardCode));
+  add(item.UserDescription);
+  add(PackDateText(item.TimeCreated));
+  add(PackDateText(item.TimeModified));
+  add(PackDateText(item.TimeAccessed));
 }
 
-void WriteSection(std::wstring& text, const clsMenuCollection& store, const wchar_t* word) {
-  AppendToken(text, std::wstring(L"[") + word + L":]");
+void WriteSection(std::wstring& text, const clsMenuCollection& store, std::wstring_view word) {
+  AppendToken(text, L"[" + std::wstring(word) + L":]");
+  std::optional<std::wstring> owner;  // of the entry before, and whether it leads to the section's group
+  bool belongs = false;
   for (std::int32_t i = 1; i <= store.Count(); ++i) {
     const ItemRef item = store.Item(i);
     if (IsLeftOutOfFiles(*item)) continue;
-    if (item->Name() == word || store.GetItemRootNode(*item) == word) AppendRecord(text, *item);
+    if (owner != item->OwnerName()) {
+      owner = item->OwnerName();
+      belongs = store.GetItemRootNode(*item) == word;
+    }
+    if (belongs || item->Name() == word) AppendRecord(text, *item);
   }
   AppendToken(text, kSectionEnd);
 }
@@ -95,6 +102,7 @@ class SummaryCutter {
 
 std::string BuildConfig(const Application& app, const clsMenuCollection& store, const ConfigSummary& summary) {
   std::wstring text;
+  text.reserve(static_cast<std::size_t>(store.Count()) * kUsualRecord);
   WriteSection(text, store, MIT_GROUP_USER);
   if (app.AC[Appearance::kSystemFolders]) WriteSection(text, store, MIT_PATHS_SYSTEM);
   AppendSummary(text, summary);

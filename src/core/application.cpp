@@ -1,7 +1,5 @@
 #include "core/application.h"
 
-#include "core/program_form.h"
-
 namespace burrowmark {
 
 Platform Application::WithBoxes(const Platform& system) {
@@ -10,8 +8,8 @@ Platform Application::WithBoxes(const Platform& system) {
 }
 
 void Application::BringForward() {
-  if (ProgramForm* front = Windows.Innermost()) {
-    front->BringToFront();
+  if (OpenWindow* front = Windows.Innermost()) {
+    front->ComeForward();
   } else if (MainWindow != 0 && Requests.IsBusyWith(BusyWith::kBox)) {
     platform.windows.SetForegroundWindow(MainWindow);
   }

@@ -33,9 +33,9 @@ struct Document {
   std::wstring CurrentConfigFile{};
   ConfigSummary Summary{};
   FileContent Content = FileContent::kNone;
-  std::wstring KeptAs{};   // the copy of what the file held besides; empty while there is none
-  std::wstring Notice{};   // what the user should be told of that copy, once
-  bool Changed = false;  // the tree differs from the file
+  std::wstring KeptAs{};  // the copy of what the file held besides; empty while there is none
+  std::wstring Notice{};  // what the user should be told of that copy, once
+  bool Changed = false;   // the tree differs from the file
 };
 
 }  // namespace burrowmark

@@ -3,57 +3,67 @@
 
 #include <cstddef>
 #include <memory>
+#include <optional>
 #include <string>
+#include <string_view>
 #include <unordered_map>
 #include <vector>
 
+#include "core/list_entry.h"
 #include "core/menu_item.h"
+#include "core/siblings.h"
 
 namespace burrowmark {
 
 // Positions count from 0 here. Keys match without regard to letter case, are fixed when an entry goes in (a later write
-// of the item's `Name` doesn't move them), and no two are equal. Look-ups by the current `Name` are exact and see such
-// a write. Items are shared: one can stand in several lists.
-class KeyedItems final : private ItemWatcher {
+// of the item's `Name` doesn't move them), and no two are equal. Every other look-up goes by what the items say now.
+// Items are shared: one can stand in several lists.
+//
+// No look-up walks over the list. The indexes that a list of records just read doesn't need (by owner, by number) are
+// made when they are first asked for.
+class KeyedItems final {
  public:
-  static constexpr std::size_t kNone = static_cast<std::size_t>(-1);
-
   KeyedItems() = default;
-  ~KeyedItems() override;
+  ~KeyedItems() = default;
   KeyedItems(const KeyedItems&) = delete;
   KeyedItems& operator=(const KeyedItems&) = delete;
 
-  std::size_t Size() const { return entries_.size(); }
-  const ItemRef& At(std::size_t position) const { return entries_[position]->item; }
+  std::size_t Size() const { return order_.size(); }
+  const ItemRef& At(std::size_t position) const { return order_[position]->item; }
+  std::size_t PositionOf(const ListEntry& entry) const;
 
   // Puts an item in under its `Name`, so that it stands at `position`; the size is the end. Throws KeyFailure if an
   // equal key is there.
   void Insert(std::size_t position, const ItemRef& item);
-  void Append(const ItemRef& item) { Insert(entries_.size(), item); }
   void RemoveAt(std::size_t position);
 
-  // Position of the entry with this key; throws KeyFailure without one.
-  std::size_t PositionOfKey(std::wstring_view key) const;
-  // Exact look-ups by the items' current names; kNone where there is none. `below` leaves out later positions.
+  // Where there is none, the result of these is null.
+  const ListEntry* WithKey(std::wstring_view key) const;
+  const ListEntry* FirstNamed(const std::wstring& name) const;
+  // `behind` and what follows it are left out; null leaves out nothing.
+  const ListEntry* LastNamed(const std::wstring& name, const ListEntry* behind) const;
+  // The number 0, which entries have that were never in a menu, is looked for entry by entry.
+  const ListEntry* FirstWithID(std::int32_t id) const;
+
   bool HasName(const std::wstring& name) const { return byName_.contains(name); }
-  std::size_t FirstWithName(const std::wstring& name) const;
-  std::size_t LastWithName(const std::wstring& name, std::size_t below) const;
+  const Siblings& Under(const std::wstring& owner) const;
+
+  // An entry's item is going to change, or has changed, in one respect.
+  void Leave(ListEntry& entry, ItemAspect aspect) const;
+  void Enter(ListEntry& entry, ItemAspect aspect) const;
 
  private:
-  struct Entry {
-    ItemRef item;
-    std::wstring upperKey;
-    std::size_t position;  // right for the entries ahead of `numbered_`, otherwise not smaller than that
-  };
+  std::uint64_t RankAt(std::size_t position);
+  void LeaveOwner(const ListEntry& entry) const;
+  template <typename Index>
+  const Index& Known(std::optional<Index>& index, ItemAspect aspect) const;
 
-  void NameChanged(const clsMenuItem& item, const std::wstring& oldName) override;
-  void ForgetName(const std::wstring& name, const Entry* entry);
-  std::size_t PositionOf(const Entry& entry) const;
-
-  std::vector<std::unique_ptr<Entry>> entries_;
-  mutable std::size_t numbered_ = 0;
-  std::unordered_map<std::wstring, Entry*> byKey_;
-  std::unordered_map<std::wstring, std::vector<Entry*>> byName_;
+  std::unordered_map<std::wstring, ListEntry> byKey_;
+  std::vector<ListEntry*> order_;
+  // The indexes. The names' texts are the items' own.
+  mutable std::unordered_multimap<std::wstring_view, ListEntry*> byName_;
+  mutable std::optional<std::unordered_map<std::wstring, Siblings>> byOwner_;
+  mutable std::optional<std::unordered_multimap<std::int32_t, ListEntry*>> byID_;  // without 0
 };
 
 }  // namespace burrowmark

@@ -1,5 +1,6 @@
 #include "core/menu_collection.h"
 
+#include <algorithm>
 #include <limits>
 
 #include "core/failure.h"
@@ -11,22 +12,8 @@ namespace {
 constexpr std::int32_t kCommandNumberStart = 49;  // one below the first command number
 constexpr wchar_t kOpenAllDescription[] = L"Opens all folders shortcuts in its menu level";
 
-// Steps of a scan that counts in 16 bits.
-class ShortCounter {
- public:
-  void Step() {
-    if (value_ == std::numeric_limits<std::int16_t>::max()) throw OverflowFailure("a scan past 32,767 entries");
-    ++value_;
-  }
-  std::int16_t Value() const { return value_; }
-
- private:
-  std::int16_t value_ = 0;
-};
-
-template <typename Integer>
-void CheckedIncrement(Integer& counter) {
-  if (counter == std::numeric_limits<Integer>::max()) throw OverflowFailure("a counter at its end");
+void CheckedIncrement(std::int32_t& counter) {
+  if (counter == std::numeric_limits<std::int32_t>::max()) throw OverflowFailure("a counter at its end");
   ++counter;
 }
 
@@ -39,9 +26,13 @@ SortKind GetSortKind(const std::wstring& owner) {
 void PutInFront(std::wstring& path, const std::wstring& title) { path = path.empty() ? title : title + L"\\" + path; }
 
 bool KeepsItsPath(const clsMenuItem& item) {
-  return item.OwnerName == kRootOwner && (item.Separator() || item.Name() == MIT_HF_SETTINGS ||
-                                          item.Name() == MIT_HF_HELP || item.Name() == MIT_HF_ORGANIZE);
+  return item.OwnerName() == kRootOwner && (item.Separator() || item.Name() == MIT_HF_SETTINGS ||
+                                            item.Name() == MIT_HF_HELP || item.Name() == MIT_HF_ORGANIZE);
 }
+
+std::int32_t Number(std::size_t count) { return static_cast<std::int32_t>(count); }
+
+ItemRef ItemOf(const ListEntry* entry) { return entry == nullptr ? nullptr : entry->item; }
 
 }  // namespace
 
@@ -62,17 +53,23 @@ void clsMenuCollection::Place(std::size_t position, const ItemRef& item, bool Up
   if (UpdatePath) ItemFullPath(*item);
 }
 
+std::size_t clsMenuCollection::PositionOfKey(const std::wstring& key) const {
+  const ListEntry* entry = list_.WithKey(key);
+  if (entry == nullptr) throw KeyFailure("a key that isn't there");
+  return list_.PositionOf(*entry);
+}
+
 void clsMenuCollection::AddBefore(const ItemRef& item, const std::wstring& key, bool UpdatePath) {
   Skip([&] {
     if (item->Name().empty()) EnsureName(*item);
-    Place(key.empty() ? list_.Size() : list_.PositionOfKey(key), item, UpdatePath);
+    Place(key.empty() ? list_.Size() : PositionOfKey(key), item, UpdatePath);
   });
 }
 
 void clsMenuCollection::AddAfter(const ItemRef& item, const std::wstring& key, bool UpdatePath) {
   Skip([&] {
     if (item->Name().empty()) EnsureName(*item);
-    Place(key.empty() ? list_.Size() : list_.PositionOfKey(key) + 1, item, UpdatePath);
+    Place(key.empty() ? list_.Size() : PositionOfKey(key) + 1, item, UpdatePath);
   });
 }
 
@@ -86,7 +83,7 @@ bool clsMenuCollection::AddOne(const ItemRef& item, bool KeepOrder, bool UpdateP
         if (item->ItemType == MIT_OPENALL && item->UserDescription.empty()) item->UserDescription = kOpenAllDescription;
         key = InsertionKey(*item);
       }
-      list_.Insert(key.empty() ? list_.Size() : list_.PositionOfKey(key), item);
+      list_.Insert(key.empty() ? list_.Size() : PositionOfKey(key), item);
     }
     if (UpdatePath) ItemFullPath(*item);
   });
@@ -94,30 +91,18 @@ bool clsMenuCollection::AddOne(const ItemRef& item, bool KeepOrder, bool UpdateP
 
 std::wstring clsMenuCollection::InsertionKey(const clsMenuItem& item) const {
   if (item.Name() == MIT_GROUP_USER) {  // the personal group goes ahead of everything at the top level
-    for (std::size_t i = 0; i < list_.Size(); ++i) {
-      if (list_.At(i)->OwnerName == kRootOwner) return list_.At(i)->Name();
-    }
-    return {};
+    const EntryRow& top = list_.Under(kRootOwner).All();
+    return top.Empty() ? std::wstring() : top.At(0)->item->Name();
   }
   return item.ItemType == MIT_OPENALL ? std::wstring() : GetInsertBeforeKey(item);
 }
 
 std::wstring clsMenuCollection::GetInsertBeforeKey(const clsMenuItem& item) const {
-  if (item.Separator() || GetSortKind(item.OwnerName) == SortKind::kUnsorted) return {};
-  const clsMenuItem* firstLeaf = nullptr;
-  const clsMenuItem* firstGroup = nullptr;
-  const clsMenuItem* first = nullptr;
-  for (std::size_t i = 0; i < list_.Size(); ++i) {
-    const clsMenuItem& sibling = *list_.At(i);
-    if (sibling.Separator() || sibling.OwnerName != item.OwnerName) continue;
-    const clsMenuItem*& firstOfKind = sibling.SubMenu() ? firstGroup : firstLeaf;
-    if (firstOfKind == nullptr) firstOfKind = &sibling;
-    if (first == nullptr) first = &sibling;
-    if (sibling.SubMenu() == item.SubMenu() && sibling.SortCaption() > item.SortCaption()) return sibling.Name();
-  }
-  if (!item.SubMenu()) return {};
-  const clsMenuItem* place = firstGroup == nullptr ? first : firstLeaf;
-  return place == nullptr ? std::wstring() : place->Name();
+  if (item.Separator() || GetSortKind(item.OwnerName()) == SortKind::kUnsorted) return {};
+  const Siblings& siblings = list_.Under(item.OwnerName());
+  const ListEntry* place = siblings.FirstBehind(item.SubMenu(), item.SortCaption());
+  if (place == nullptr && item.SubMenu()) place = siblings.First(false);
+  return place == nullptr ? std::wstring() : place->item->Name();
 }
 
 ItemRef clsMenuCollection::AddNewMenuItem(const NewMenuItem& values) {
@@ -129,7 +114,7 @@ ItemRef clsMenuCollection::AddNewMenuItem(const NewMenuItem& values) {
   } else {
     item->SetCaption(values.Caption);
   }
-  item->OwnerName = values.OwnerName;
+  item->SetOwnerName(values.OwnerName);
   if (!values.Name.empty()) item->SetName(values.Name);
   if (values.IconID > 0) item->IconID = values.IconID;
   if (!values.FolderPath.empty()) item->FolderPath = values.FolderPath;
@@ -160,40 +145,25 @@ void clsMenuCollection::ModifyMenuItem(std::int32_t Index, ItemChange change) {
 }
 
 void clsMenuCollection::Remove(const std::wstring& key) {
-  Skip([&] { list_.RemoveAt(list_.PositionOfKey(key)); });
+  const ListEntry* entry = list_.WithKey(key);
+  if (entry != nullptr) list_.RemoveAt(list_.PositionOf(*entry));
 }
 
 ItemRef clsMenuCollection::Item(std::int32_t position) const {
   return position < 1 || position > Count() ? nullptr : list_.At(static_cast<std::size_t>(position) - 1);
 }
 
-std::int32_t clsMenuCollection::Count() const { return static_cast<std::int32_t>(list_.Size()); }
+std::int32_t clsMenuCollection::Count() const { return Number(list_.Size()); }
 
-template <typename Test>
-ItemRef clsMenuCollection::FindCounting(Test fits) const {
-  ShortCounter steps;
-  for (std::size_t i = 0; i < list_.Size(); ++i) {
-    steps.Step();
-    if (fits(*list_.At(i))) return list_.At(i);
-  }
-  return nullptr;
-}
-
-std::int16_t clsMenuCollection::CountSameCaption(const std::wstring& Caption, const std::wstring& OwnerName,
+std::int32_t clsMenuCollection::CountSameCaption(const std::wstring& Caption, const std::wstring& OwnerName,
                                                  const std::wstring& Name) const {
-  ShortCounter found;
-  FindCounting([&](const clsMenuItem& entry) {
-    if (entry.Caption() == Caption && entry.OwnerName == OwnerName && entry.Name() != Name) found.Step();
-    return false;
-  });
-  return found.Value();
+  const EntryRow* titled = list_.Under(OwnerName).Titled(Caption);
+  if (titled == nullptr) return 0;
+  return Number(static_cast<std::size_t>(
+      std::count_if(titled->begin(), titled->end(), [&](auto* entry) { return entry->item->Name() != Name; })));
 }
 
-bool clsMenuCollection::ItemExists(const std::wstring& Name) const {
-  constexpr std::size_t kCounterEnd = std::numeric_limits<std::int16_t>::max();
-  if (list_.Size() <= kCounterEnd) return list_.HasName(Name);
-  return FindCounting([&](const clsMenuItem& entry) { return entry.Name() == Name; }) != nullptr;
-}
+bool clsMenuCollection::ItemExists(const std::wstring& Name) const { return list_.HasName(Name); }
 
 bool clsMenuCollection::CaptionExists(const std::wstring& Caption, const std::wstring& OwnerName, bool SubMenu,
                                       const std::wstring& Name) const {
@@ -202,50 +172,30 @@ bool clsMenuCollection::CaptionExists(const std::wstring& Caption, const std::ws
 
 ItemRef clsMenuCollection::CaptionExists2(const std::wstring& Caption, const std::wstring& OwnerName, bool SubMenu,
                                           const std::wstring& Name) const {
-  return FindCounting([&](const clsMenuItem& entry) {
-    return entry.Name() != Name && entry.Caption() == Caption && entry.OwnerName == OwnerName &&
-           entry.SubMenu() == SubMenu;
+  const EntryRow* titled = list_.Under(OwnerName).Titled(Caption);
+  if (titled == nullptr) return nullptr;
+  const auto found = std::find_if(titled->begin(), titled->end(), [&](auto* entry) {
+    return entry->item->Name() != Name && entry->item->SubMenu() == SubMenu;
   });
+  return found == titled->end() ? nullptr : (*found)->item;
 }
 
-ItemRef clsMenuCollection::GetMenuItemFromID(std::int32_t ID) const {
-  return FindCounting([ID](const clsMenuItem& entry) { return entry.ID == ID; });
-}
+ItemRef clsMenuCollection::GetMenuItemFromID(std::int32_t ID) const { return ItemOf(list_.FirstWithID(ID)); }
 
-ItemRef clsMenuCollection::GetMenuItemFromName(const std::wstring& Name) const {
-  ItemRef item;
-  Skip([&] { item = list_.At(list_.PositionOfKey(Name)); });
-  return item;
-}
+ItemRef clsMenuCollection::GetMenuItemFromName(const std::wstring& Name) const { return ItemOf(list_.WithKey(Name)); }
 
 std::int32_t clsMenuCollection::GetIDFromName(const std::wstring& Name, bool& Err) const {
   Err = false;
   if (Name == kRootOwner) return FileMenuHandle;
-  const ItemRef item = GetMenuItemFromName(Name);
-  Err = item == nullptr;
-  return Err ? -1 : item->ID;
-}
-
-std::int32_t clsMenuCollection::GetNextFreeItemPosition(std::int32_t ID, std::int32_t OwnerID) const {
-  std::int32_t position = 0;
-  FindCounting([&](const clsMenuItem& entry) {
-    if (entry.ID == ID) return true;
-    if (entry.OwnerID == OwnerID) ++position;
-    return false;
-  });
-  return position;
+  const ListEntry* entry = list_.WithKey(Name);
+  Err = entry == nullptr;
+  return Err ? -1 : entry->item->ID();
 }
 
 std::int32_t clsMenuCollection::GetNextFreeID() {
-  CheckedIncrement(IDCounter);
-  for (bool collided = true; collided;) {
-    collided = false;
-    for (std::size_t i = 0; i < list_.Size(); ++i) {
-      if (list_.At(i)->ID != IDCounter) continue;
-      CheckedIncrement(IDCounter);
-      collided = true;
-    }
-  }
+  do {
+    CheckedIncrement(IDCounter);
+  } while (list_.FirstWithID(IDCounter) != nullptr);
   return IDCounter;
 }
 
@@ -260,57 +210,48 @@ std::wstring clsMenuCollection::GetNextFreeMenuName() {
 
 void clsMenuCollection::GetNewItemCaption(clsMenuItem& item) const {
   const std::wstring base = item.Caption();
-  for (std::int32_t copy = 0; CaptionExists(item.Caption(), item.OwnerName, item.SubMenu(), item.Name()); ++copy) {
+  for (std::int32_t copy = 0; CaptionExists(item.Caption(), item.OwnerName(), item.SubMenu(), item.Name()); ++copy) {
     item.SetCaption((copy == 0 ? L"Copy of " : L"Copy (" + DecimalText(copy) + L") of ") + base);
   }
 }
 
 void clsMenuCollection::GetNewItemCaption2(clsMenuItem& item) const {
   const std::wstring base = item.Caption();
-  for (std::int32_t copy = 2; CaptionExists(item.Caption(), item.OwnerName, item.SubMenu(), item.Name()); ++copy) {
+  for (std::int32_t copy = 2; CaptionExists(item.Caption(), item.OwnerName(), item.SubMenu(), item.Name()); ++copy) {
     item.SetCaption(base + DecimalText(copy));
   }
 }
 
 std::wstring clsMenuCollection::GetNextMenuItem(const clsMenuItem& item) const {
-  const std::size_t found = list_.FirstWithName(item.Name());
-  if (found == KeyedItems::kNone || found + 1 == list_.Size()) return {};
-  const clsMenuItem& next = *list_.At(found + 1);
-  return next.OwnerName == item.OwnerName ? next.Name() : std::wstring();
+  const ListEntry* entry = list_.FirstNamed(item.Name());
+  const std::size_t next = entry == nullptr ? list_.Size() : list_.PositionOf(*entry) + 1;
+  if (next >= list_.Size()) return {};
+  return list_.At(next)->OwnerName() == item.OwnerName() ? list_.At(next)->Name() : std::wstring();
 }
 
 std::wstring clsMenuCollection::GetPrevMenuItem(const clsMenuItem& item) const {
-  std::wstring previous;
-  for (std::size_t i = 0; i < list_.Size(); ++i) {
-    const clsMenuItem& entry = *list_.At(i);
-    if (entry.Name() == item.Name()) return previous;
-    if (entry.OwnerName == item.OwnerName) previous = entry.Name();
-  }
-  return {};
+  const ListEntry* entry = list_.FirstNamed(item.Name());
+  if (entry == nullptr) return {};
+  const EntryRow& siblings = list_.Under(item.OwnerName()).All();
+  const std::size_t ahead = siblings.CountAhead(entry->rank);
+  return ahead == 0 ? std::wstring() : siblings.At(ahead - 1)->item->Name();
 }
 
 ItemRef clsMenuCollection::GetSecondChild(const std::wstring& OwnerName, const std::wstring& ChildName) const {
-  const std::size_t owner = list_.FirstWithName(OwnerName);
-  if (owner == KeyedItems::kNone) return nullptr;
-  for (std::size_t i = owner + 1; i < list_.Size(); ++i) {
-    if (list_.At(i)->OwnerName == OwnerName && list_.At(i)->Name() != ChildName) return list_.At(i);
+  const ListEntry* owner = list_.FirstNamed(OwnerName);
+  if (owner == nullptr) return nullptr;
+  const EntryRow& children = list_.Under(OwnerName).All();
+  for (std::size_t i = children.CountAhead(owner->rank); i < children.Size(); ++i) {
+    const ItemRef& child = children.At(i)->item;
+    if (children.At(i) != owner && child->Name() != ChildName) return child;
   }
   return nullptr;
 }
 
-bool clsMenuCollection::HasChildren(const std::wstring& Name) const {
-  for (std::size_t i = 0; i < list_.Size(); ++i) {
-    if (list_.At(i)->OwnerName == Name) return true;
-  }
-  return false;
-}
+bool clsMenuCollection::HasChildren(const std::wstring& Name) const { return !list_.Under(Name).Empty(); }
 
 std::int32_t clsMenuCollection::ChildrenNumber(const std::wstring& Name) const {
-  std::int32_t children = 0;
-  for (std::size_t i = 0; i < list_.Size(); ++i) {
-    if (list_.At(i)->OwnerName == Name) ++children;
-  }
-  return children;
+  return Number(list_.Under(Name).All().Size());
 }
 
 void clsMenuCollection::ItemFullPath(clsMenuItem& item) const {
@@ -324,46 +265,43 @@ void clsMenuCollection::ItemFullPath(clsMenuItem& item) const {
 void clsMenuCollection::SetItemPath(clsMenuItem& item) const {
   if (KeepsItsPath(item)) return;
   std::wstring path = item.SubMenu() ? item.Caption() : std::wstring();
-  if (item.OwnerName == kRootOwner) {
+  if (item.OwnerName() == kRootOwner) {
     item.ItemPath = path + L"\\";
     return;
   }
-  std::wstring current = item.OwnerName;
-  std::size_t below = list_.Size();
+  std::wstring current = item.OwnerName();
+  const ListEntry* owner = nullptr;
   while (current != kRootOwner && current != MIT_GROUP_USER) {
-    const std::size_t owner = list_.LastWithName(current, below);
-    if (owner == KeyedItems::kNone) break;
-    PutInFront(path, list_.At(owner)->Caption());
-    current = list_.At(owner)->OwnerName;
-    below = owner;
+    owner = list_.LastNamed(current, owner);
+    if (owner == nullptr) break;
+    PutInFront(path, owner->item->Caption());
+    current = owner->item->OwnerName();
   }
   if (!path.empty()) item.ItemPath = path + L"\\";
 }
 
 void clsMenuCollection::SetItemLocation(clsMenuItem& item) const {
   std::wstring path;
-  std::wstring current = item.OwnerName;
-  std::size_t below = list_.Size();
+  std::wstring current = item.OwnerName();
+  const ListEntry* owner = nullptr;
   while (current != kRootOwner) {
-    const std::size_t owner = list_.LastWithName(current, below);
-    if (owner == KeyedItems::kNone) break;
-    PutInFront(path, list_.At(owner)->Caption());
-    current = list_.At(owner)->OwnerName;
-    below = owner;
+    owner = list_.LastNamed(current, owner);
+    if (owner == nullptr) break;
+    PutInFront(path, owner->item->Caption());
+    current = owner->item->OwnerName();
   }
   item.ItemLocation = L"\\\\" + path;
 }
 
 std::wstring clsMenuCollection::GetItemRootNode(const clsMenuItem& item) const {
-  std::wstring top = item.OwnerName;
+  std::wstring top = item.OwnerName();
   std::wstring current = top;
-  std::size_t below = list_.Size();
+  const ListEntry* owner = nullptr;
   while (current != kRootOwner) {
-    const std::size_t owner = list_.LastWithName(current, below);
-    if (owner == KeyedItems::kNone) break;
-    current = list_.At(owner)->OwnerName;
+    owner = list_.LastNamed(current, owner);
+    if (owner == nullptr) break;
+    current = owner->item->OwnerName();
     if (current != kRootOwner) top = current;
-    below = owner;
   }
   return top;
 }
@@ -374,18 +312,16 @@ CollectionCounts clsMenuCollection::CountCollection() const {
     const clsMenuItem& entry = *list_.At(i);
     if (entry.Separator()) continue;
     if (entry.SubMenu()) {
-      CheckedIncrement(counts.Groups);
+      ++counts.Groups;
     } else if (entry.ItemType == MIT_OPENALL) {
-      CheckedIncrement(counts.OpenAll);
+      ++counts.OpenAll;
     } else if (entry.ItemType == MIT_PATH && entry.OpenType == MIT_PATH_SHORTCUT) {
-      CheckedIncrement(counts.FolderShortcuts);
+      ++counts.FolderShortcuts;
     } else if (entry.ItemType == MIT_PATH && entry.OpenType == MIT_PATH_EXPLORER) {
-      CheckedIncrement(counts.ExplorerShortcuts);
+      ++counts.ExplorerShortcuts;
     }
   }
-  const std::int32_t shortcuts = counts.FolderShortcuts + counts.ExplorerShortcuts;
-  if (shortcuts > std::numeric_limits<std::int16_t>::max()) throw OverflowFailure("more than 32,767 shortcuts");
-  counts.Shortcuts = static_cast<std::int16_t>(shortcuts);
+  counts.Shortcuts = counts.FolderShortcuts + counts.ExplorerShortcuts;
   return counts;
 }
 

@@ -32,17 +32,14 @@ struct NewMenuItem {
 };
 
 struct CollectionCounts {
-  std::int16_t Shortcuts = 0;  // the next two together
-  std::int16_t FolderShortcuts = 0;
-  std::int16_t ExplorerShortcuts = 0;
-  std::int16_t OpenAll = 0;
-  std::int16_t Groups = 0;
+  std::int32_t Shortcuts = 0;  // the next two together
+  std::int32_t FolderShortcuts = 0;
+  std::int32_t ExplorerShortcuts = 0;
+  std::int32_t OpenAll = 0;
+  std::int32_t Groups = 0;
 };
 
 // Names compare exactly, keys without regard to case (core/keyed_items.h). Positions count from 1.
-//
-// Some scans count their steps in 16 bits: CountSameCaption, ItemExists, CaptionExists, CaptionExists2,
-// GetMenuItemFromID and GetNextFreeItemPosition throw OverflowFailure when they come to an entry past 32,767.
 class clsMenuCollection {
  public:
   // `clock` stamps the items that the store makes and must outlive it and them.
@@ -75,7 +72,7 @@ class clsMenuCollection {
   std::int32_t Count() const;
 
   // Entries of this exact title under this owner that have another name.
-  std::int16_t CountSameCaption(const std::wstring& Caption, const std::wstring& OwnerName,
+  std::int32_t CountSameCaption(const std::wstring& Caption, const std::wstring& OwnerName,
                                 const std::wstring& Name) const;
   bool ItemExists(const std::wstring& Name) const;
   // The first entry of this exact title, owner and kind (group or not) that has another name.
@@ -88,8 +85,6 @@ class clsMenuCollection {
   ItemRef GetMenuItemFromName(const std::wstring& Name) const;
   // The ID of the item with this key, FileMenuHandle for "-1". Without one `Err` is true and the result -1.
   std::int32_t GetIDFromName(const std::wstring& Name, bool& Err) const;
-  // Place of the entry with this ID among the entries of one owner, from 0.
-  std::int32_t GetNextFreeItemPosition(std::int32_t ID, std::int32_t OwnerID) const;
 
   std::int32_t GetNextFreeID();
   std::wstring GetNextFreeMenuName();
@@ -111,21 +106,19 @@ class clsMenuCollection {
   void ItemFullPath(clsMenuItem& item) const;
   // Name of the item's top-level owner, "-1" for an item of the top level.
   std::wstring GetItemRootNode(const clsMenuItem& item) const;
-  // Throws OverflowFailure where a count leaves 16 bits.
   CollectionCounts CountCollection() const;
 
   static bool MenuItemsEqual(const clsMenuItem& left, const clsMenuItem& right);
 
  private:
   void EnsureName(clsMenuItem& item);
+  // Throws KeyFailure if there is no such key.
+  std::size_t PositionOfKey(const std::wstring& key) const;
   void Place(std::size_t position, const ItemRef& item, bool UpdatePath);
   std::wstring InsertionKey(const clsMenuItem& item) const;
   std::wstring GetInsertBeforeKey(const clsMenuItem& item) const;
   void SetItemPath(clsMenuItem& item) const;
   void SetItemLocation(clsMenuItem& item) const;
-  // The first entry that `fits`, counting in 16 bits.
-  template <typename Test>
-  ItemRef FindCounting(Test fits) const;
 
   const Clock* clock_;
   KeyedItems list_;

@@ -58,18 +58,38 @@ DriveLook LookOfDrive(std::int32_t driveType) {
 
 clsMenuItem::clsMenuItem(const Clock& clock) : TimeCreated(Now(clock)), clock_(&clock) {}
 
-void clsMenuItem::SetName(std::wstring name) {
-  if (name == name_) return;
-  const std::wstring old = std::exchange(name_, std::move(name));
-  for (ItemWatcher* watcher : watchers_) watcher->NameChanged(*this, old);
+template <typename Change>
+void clsMenuItem::ChangeWatched(ItemAspect aspect, Change change) {
+  for (ItemWatcher* watcher = watchers_; watcher != nullptr; watcher = watcher->next_) watcher->BeforeChange(aspect);
+  change();
+  for (ItemWatcher* watcher = watchers_; watcher != nullptr; watcher = watcher->next_) watcher->AfterChange(aspect);
+}
+
+void clsMenuItem::SetID(std::int32_t id) {
+  if (id != id_) ChangeWatched(ItemAspect::kID, [&] { id_ = id; });
+}
+
+void clsMenuItem::SetName(std::wstring_view name) {
+  if (name != name_) ChangeWatched(ItemAspect::kName, [&] { name_ = name; });
+}
+
+void clsMenuItem::SetOwnerName(std::wstring_view ownerName) {
+  if (ownerName != ownerName_) ChangeWatched(ItemAspect::kPlace, [&] { ownerName_ = ownerName; });
 }
 
 void clsMenuItem::SetCaption(std::wstring_view caption) { SetCaption2(RemoveBadFileChars(caption)); }
 
 void clsMenuItem::SetCaption2(std::wstring_view caption) {
-  caption_ = caption;
-  sortCaption_.reset();
+  SetOnlyCaption(caption);
   SetCaptionMenu(caption);
+}
+
+void clsMenuItem::SetOnlyCaption(std::wstring_view caption) {
+  if (caption == caption_) return;
+  ChangeWatched(ItemAspect::kPlace, [&] {
+    caption_ = caption;
+    sortCaption_.reset();
+  });
 }
 
 const std::wstring& clsMenuItem::SortCaption() const {
@@ -87,16 +107,19 @@ void clsMenuItem::SetCaptionMenu(std::wstring_view caption) {
   captionMenu_ += caption.substr(caption.size() - kMenuTitleTail);
 }
 
-void clsMenuItem::SetSeparator(bool separator) {
-  separator_ = separator;
-  if (separator) subMenu_ = false;
-}
+void clsMenuItem::SetSeparator(bool separator) { SetKind(subMenu_ && !separator, separator); }
 
 void clsMenuItem::SetSubMenu(bool subMenu) {
-  subMenu_ = subMenu;
-  if (!subMenu) return;
-  separator_ = false;
-  ItemType = MIT_GROUP_GENERAL;
+  SetKind(subMenu, separator_ && !subMenu);
+  if (subMenu) ItemType = MIT_GROUP_GENERAL;
+}
+
+void clsMenuItem::SetKind(bool subMenu, bool separator) {
+  if (subMenu == subMenu_ && separator == separator_) return;
+  ChangeWatched(ItemAspect::kPlace, [&] {
+    subMenu_ = subMenu;
+    separator_ = separator;
+  });
 }
 
 std::int16_t clsMenuItem::GetNestingLevel() const {
@@ -120,10 +143,7 @@ void clsMenuItem::SetIconIDDescription() {
   if (look == std::end(kTypeLooks)) return;
   IconID = look->icon;
   Description = look->description;
-  if (ItemType == MIT_OPENALL) {  // the title alone: what the menu draws stays
-    caption_ = L"Open-All";
-    sortCaption_.reset();
-  }
+  if (ItemType == MIT_OPENALL) SetOnlyCaption(L"Open-All");  // what the menu draws stays
 }
 
 void clsMenuItem::ModifyMenuItem(const ItemChange& change) {
@@ -133,7 +153,7 @@ void clsMenuItem::ModifyMenuItem(const ItemChange& change) {
   } else if (!change.Caption.empty()) {
     SetCaption(change.Caption);
   }
-  if (!change.OwnerName.empty()) OwnerName = change.OwnerName;
+  if (!change.OwnerName.empty()) SetOwnerName(change.OwnerName);
   if (!change.Name.empty()) SetName(change.Name);
   if (change.IconID > 0) IconID = change.IconID;
   if (!change.FolderPath.empty()) FolderPath = change.FolderPath;
@@ -148,9 +168,15 @@ void clsMenuItem::ModifyMenuItem(const ItemChange& change) {
   TimeModified = Now(*clock_);
 }
 
+void clsMenuItem::AddWatcher(ItemWatcher& watcher) {
+  watcher.next_ = watchers_;
+  watchers_ = &watcher;
+}
+
 void clsMenuItem::RemoveWatcher(const ItemWatcher& watcher) {
-  const auto found = std::find(watchers_.begin(), watchers_.end(), &watcher);
-  if (found != watchers_.end()) watchers_.erase(found);
+  ItemWatcher** at = &watchers_;
+  while (*at != nullptr && *at != &watcher) at = &(*at)->next_;
+  if (*at != nullptr) *at = watcher.next_;
 }
 
 }  // namespace burrowmark

@@ -8,7 +8,7 @@
 #include <memory>
 #include <optional>
 #include <string>
-#include <vector>
+#include <string_view>
 
 #include "core/dates.h"
 #include "core/mit_words.h"
@@ -18,12 +18,24 @@ namespace burrowmark {
 class clsMenuItem;
 using ItemRef = std::shared_ptr<clsMenuItem>;
 
+// What a list of items finds them by.
+enum class ItemAspect : std::uint8_t {
+  kName,
+  kPlace,  // the owner, the title, and whether the item is a group or a separator
+  kID,
+};
+inline constexpr ItemAspect kItemAspects[] = {ItemAspect::kName, ItemAspect::kPlace, ItemAspect::kID};
+
 // Hears of changes that a list of items must know to find them again.
 class ItemWatcher {
  public:
   virtual ~ItemWatcher() = default;
-  // The item's `Name` is new; `oldName` is what it was.
-  virtual void NameChanged(const clsMenuItem& item, const std::wstring& oldName) = 0;
+  virtual void BeforeChange(ItemAspect aspect) = 0;
+  virtual void AfterChange(ItemAspect aspect) = 0;
+
+ private:
+  friend class clsMenuItem;
+  ItemWatcher* next_ = nullptr;  // of the same item
 };
 
 // Kinds of drive that `DriveType` holds: those of GetDriveTypeA, and one of the program's own.
@@ -63,14 +75,15 @@ class clsMenuItem {
   clsMenuItem& operator=(const clsMenuItem&) = delete;
 
   // What the last build of the popup menu gave to the entry (menu/menu_setup.h). Not kept in the file.
-  std::int32_t ID = 0;        // a group's popup handle; otherwise a command number
+  std::int32_t ID() const { return id_; }  // a group's popup handle; otherwise a command number
+  void SetID(std::int32_t id);
   std::int32_t Position = 0;  // place among the entries of one owner, from 0
   std::int32_t OwnerID = 0;
   std::int32_t flags = 0;  // native menu flags
 
   // The unique key of the item in its store, never shown.
   const std::wstring& Name() const { return name_; }
-  void SetName(std::wstring name);
+  void SetName(std::wstring_view name);
   // The name that the item had before a paste gave it a new one.
   std::wstring NameOld;
 
@@ -85,7 +98,8 @@ class clsMenuItem {
   const std::wstring& CaptionMenu() const { return captionMenu_; }
   void SetCaptionMenu(std::wstring_view caption);
 
-  std::wstring OwnerName;
+  const std::wstring& OwnerName() const { return ownerName_; }
+  void SetOwnerName(std::wstring_view ownerName);
   std::int16_t IconID = 3;  // number of the icon, from 1
 
   bool Separator() const { return separator_; }
@@ -117,18 +131,25 @@ class clsMenuItem {
   // Writes a change in the order of its fields and stamps `TimeModified`.
   void ModifyMenuItem(const ItemChange& change);
 
-  void AddWatcher(ItemWatcher& watcher) { watchers_.push_back(&watcher); }
+  void AddWatcher(ItemWatcher& watcher);
   void RemoveWatcher(const ItemWatcher& watcher);
 
  private:
+  template <typename Change>
+  void ChangeWatched(ItemAspect aspect, Change change);
+  void SetOnlyCaption(std::wstring_view caption);
+  void SetKind(bool subMenu, bool separator);
+
   const Clock* clock_;
+  std::int32_t id_ = 0;
   std::wstring name_;
+  std::wstring ownerName_;
   std::wstring caption_;
   std::wstring captionMenu_;
   mutable std::optional<std::wstring> sortCaption_;
   bool separator_ = false;
   bool subMenu_ = false;
-  std::vector<ItemWatcher*> watchers_;
+  ItemWatcher* watchers_ = nullptr;
 };
 
 }  // namespace burrowmark

@@ -44,7 +44,7 @@ std::int64_t ParseNumber(std::wstring_view text) {
 
 template <typename Integer>
 Integer ToInteger(std::wstring_view text) {
-  const std::int64_t value = ParseNumber(Trim(text));
+  const std::int64_t value = ParseNumber(TrimmedPart(text));
   if (value < std::numeric_limits<Integer>::min() || value > std::numeric_limits<Integer>::max()) {
     throw OverflowFailure("a number out of range");
   }
@@ -67,7 +67,10 @@ void InsertGroups(std::wstring& digits, const std::wstring& sign) {
 
 }  // namespace
 
-std::wstring DecimalText(std::int64_t value) { return std::to_wstring(value); }
+std::wstring DecimalText(std::int64_t value) {
+  const std::string digits = std::to_string(value);
+  return {digits.begin(), digits.end()};
+}
 
 std::wstring BooleanNumberText(bool value) { return value ? L"-1" : L"0"; }
 
@@ -76,7 +79,7 @@ std::int32_t ToInt32(std::wstring_view text) { return ToInteger<std::int32_t>(te
 std::int16_t ToInt16(std::wstring_view text) { return ToInteger<std::int16_t>(text); }
 
 bool ToBoolean(std::wstring_view text) {
-  const std::wstring word = Trim(text);
+  const std::wstring_view word = TrimmedPart(text);
   if (EqualIgnoringCase(word, L"True")) return true;
   if (EqualIgnoringCase(word, L"False")) return false;
   return ToInt32(word) != 0;

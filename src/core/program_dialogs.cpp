@@ -1,14 +1,12 @@
 #include "core/program_dialogs.h"
 
-#include "core/program_form.h"
-
 namespace burrowmark {
 
 std::int32_t ProgramDialogs::MessageBoxA(WindowHandle owner, const std::wstring& text, const std::wstring& title,
                                          std::uint32_t style) {
   if (requests_.IsEnding()) return CancelAnswer(style);
-  const ProgramForm* front = windows_.Innermost();
-  if (owner == mainWindow_ && front != nullptr) owner = front->Window();
+  const OpenWindow* front = windows_.Innermost();
+  if (owner == mainWindow_ && front != nullptr) owner = front->Handle();
   const Busy busy(requests_, BusyWith::kBox, [this] { CancelBox(); });
   return system_.MessageBoxA(owner, text, title, style);
 }

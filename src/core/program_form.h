@@ -11,12 +11,10 @@ namespace burrowmark {
 // While it is open it stands in the table of open windows and stays above others if the editor does. While it is modal
 // the program is busy with it, and when the program ends it is closed as the user would. It takes no input while it
 // unloads.
-class ProgramForm : public Form {
+class ProgramForm : public Form, private OpenWindow {
  public:
-  ProgramWindow Kind() const { return kind_; }
-  // The user is in the middle of something in this window: nothing from outside may come now.
-  virtual bool InGesture() const { return false; }
-  virtual void CancelGesture() {}
+  bool InGesture() const override { return false; }
+  void CancelGesture() override {}
 
  protected:
   ProgramForm(Application& app, ProgramWindow kind, std::wstring name, const Size& client);
@@ -25,11 +23,16 @@ class ProgramForm : public Form {
   Application& app_;
 
  private:
-  friend class ProgramWindows;  // which blocks it
+  void WindowMade() final;
+  void WindowGone() final;
+  void RunModal() final;
 
-  void WindowMade() override;
-  void WindowGone() override;
-  void RunModal() override;
+  ProgramWindow Kind() const final { return kind_; }
+  bool IsShown() const final { return Visible(); }
+  WindowHandle Handle() const final { return Window(); }
+  void ComeForward() final { BringToFront(); }
+  bool Close() final { return Unload(); }
+  void Hold(int holders) final { Block(holders); }
 
   ProgramWindow kind_;
 };

@@ -2,47 +2,45 @@
 
 #include <algorithm>
 
-#include "core/program_form.h"
-
 namespace burrowmark {
 
-ProgramForm* ProgramWindows::Find(ProgramWindow window) const {
+OpenWindow* ProgramWindows::Find(ProgramWindow window) const {
   const auto found =
-      std::find_if(open_.rbegin(), open_.rend(), [window](const ProgramForm* form) { return form->Kind() == window; });
+      std::find_if(open_.rbegin(), open_.rend(), [window](const OpenWindow* open) { return open->Kind() == window; });
   return found == open_.rend() ? nullptr : *found;
 }
 
-ProgramForm* ProgramWindows::Innermost() const {
-  const auto found = std::find_if(open_.rbegin(), open_.rend(), [](const ProgramForm* form) {
-    return form->Kind() != ProgramWindow::kProgress && form->Visible();
+OpenWindow* ProgramWindows::Innermost() const {
+  const auto found = std::find_if(open_.rbegin(), open_.rend(), [](const OpenWindow* open) {
+    return open->Kind() != ProgramWindow::kProgress && open->IsShown();
   });
   return found == open_.rend() ? nullptr : *found;
 }
 
 bool ProgramWindows::AnyInGesture() const {
-  return std::any_of(open_.begin(), open_.end(), [](const ProgramForm* form) { return form->InGesture(); });
+  return std::any_of(open_.begin(), open_.end(), [](const OpenWindow* open) { return open->InGesture(); });
 }
 
 void ProgramWindows::CancelGestures() const {
-  for (ProgramForm* form : std::vector<ProgramForm*>(open_)) {
-    if (Has(form)) form->CancelGesture();
+  for (OpenWindow* window : std::vector<OpenWindow*>(open_)) {
+    if (Has(window)) window->CancelGesture();
   }
 }
 
-bool ProgramWindows::Has(const ProgramForm* form) const {
-  return std::find(open_.begin(), open_.end(), form) != open_.end();
+bool ProgramWindows::Has(const OpenWindow* window) const {
+  return std::find(open_.begin(), open_.end(), window) != open_.end();
 }
 
-void ProgramWindows::Leave(const ProgramForm& form) { std::erase(open_, &form); }
+void ProgramWindows::Leave(const OpenWindow& window) { std::erase(open_, &window); }
 
-ProgramWindows::Blocked::Blocked(ProgramWindows& windows) : windows_(windows), forms_(windows.open_) {
-  std::erase_if(forms_, [](const ProgramForm* form) { return form->Kind() == ProgramWindow::kProgress; });
-  for (ProgramForm* form : forms_) form->Block(1);
+ProgramWindows::Blocked::Blocked(ProgramWindows& windows) : windows_(windows), held_(windows.open_) {
+  std::erase_if(held_, [](const OpenWindow* open) { return open->Kind() == ProgramWindow::kProgress; });
+  for (OpenWindow* window : held_) window->Hold(1);
 }
 
 ProgramWindows::Blocked::~Blocked() {
-  for (ProgramForm* form : forms_) {
-    if (windows_.Has(form)) form->Block(-1);
+  for (OpenWindow* window : held_) {
+    if (windows_.Has(window)) window->Hold(-1);
   }
 }
 

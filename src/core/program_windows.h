@@ -8,8 +8,6 @@
 
 namespace burrowmark {
 
-class ProgramForm;
-
 // A row for each window of the program.
 enum class ProgramWindow : std::uint8_t {
   kProgress,
@@ -25,13 +23,35 @@ enum class ProgramWindow : std::uint8_t {
   kTip,
 };
 
+// What the table asks of a window.
+class OpenWindow {
+ public:
+  virtual ProgramWindow Kind() const = 0;
+  virtual bool IsShown() const = 0;
+  virtual WindowHandle Handle() const = 0;
+  virtual void ComeForward() = 0;
+  // As code asks for it; false if it refused.
+  virtual bool Close() = 0;
+  // The user is in the middle of something in it: nothing from outside may come now.
+  virtual bool InGesture() const = 0;
+  virtual void CancelGesture() = 0;
+  // So many more (or fewer) keep it from the user.
+  virtual void Hold(int holders) = 0;
+
+ protected:
+  OpenWindow() = default;
+  OpenWindow(const OpenWindow&) = default;
+  OpenWindow& operator=(const OpenWindow&) = default;
+  ~OpenWindow() = default;
+};
+
 class ProgramWindows {
  public:
   // The last one opened of that kind; none if there is none.
-  ProgramForm* Find(ProgramWindow window) const;
+  OpenWindow* Find(ProgramWindow window) const;
   bool IsOpen(ProgramWindow window) const { return Find(window) != nullptr; }
   // The one in front of the user: the last one opened, the progress window left out. None if there is none.
-  ProgramForm* Innermost() const;
+  OpenWindow* Innermost() const;
 
   // A label is being edited, or something dragged.
   bool AnyInGesture() const;
@@ -47,17 +67,17 @@ class ProgramWindows {
 
    private:
     ProgramWindows& windows_;
-    std::vector<ProgramForm*> forms_;
+    std::vector<OpenWindow*> held_;
   };
 
   // For the windows themselves.
-  void Enter(ProgramForm& form) { open_.push_back(&form); }
-  void Leave(const ProgramForm& form);
+  void Enter(OpenWindow& window) { open_.push_back(&window); }
+  void Leave(const OpenWindow& window);
 
  private:
-  bool Has(const ProgramForm* form) const;
+  bool Has(const OpenWindow* window) const;
 
-  std::vector<ProgramForm*> open_;  // in the order in which they were opened
+  std::vector<OpenWindow*> open_;  // in the order in which they were opened
 };
 
 }  // namespace burrowmark

@@ -1,21 +1,22 @@
 #include "core/save_file.h"
 
-#include "core/numbers.h"
-
 namespace burrowmark {
 namespace {
 
-constexpr int kMostLeftOvers = 100;  // of earlier saves that couldn't tidy up, before a save gives up
+std::wstring NameBeside(const std::wstring& target) { return target + L".~burrowmark"; }
 
-// The new file beside the target. Unless it took the target's place, it is deleted when it goes.
+// A file that is there but doesn't tell its attributes would lose them, and might be read-only.
+bool MayReplace(FileSystem& files, const std::wstring& path, std::optional<std::uint32_t> attributes) {
+  return attributes ? (*attributes & (kFileReadOnly | kFileDirectory)) == 0 : !files.FileExists(path);
+}
+
+// The new file beside the target. Unless it took the target's place, it is deleted when it goes. A killed process
+// leaves it there: it has one name, so that the next one finds it.
 class FileBeside {
  public:
-  FileBeside(FileSystem& files, const std::wstring& target) : files_(files) {
-    for (int i = 0; i < kMostLeftOvers && !output_; ++i) {
-      path_ = target + L".new" + (i == 0 ? std::wstring() : DecimalText(i));
-      output_ = files.CreateNewFile(path_);
-      if (!output_ && !files.FileExists(path_)) return;
-    }
+  FileBeside(FileSystem& files, const std::wstring& target) : files_(files), path_(NameBeside(target)) {
+    RemoveLeftOver(files, target);
+    output_ = files.CreateNewFile(path_);
     made_ = output_ != nullptr;
   }
   ~FileBeside() {
@@ -44,19 +45,19 @@ class FileBeside {
 
 }  // namespace
 
+void RemoveLeftOver(FileSystem& files, const std::wstring& path) { files.DeleteFileA(NameBeside(path)); }
+
 bool SaveWholeFile(FileSystem& files, const std::wstring& path, std::string_view bytes) {
   const auto attributes = files.GetFileAttributesA(path);
-  if (attributes && (*attributes & (kFileReadOnly | kFileDirectory)) != 0) return false;
-  // A file that is there but doesn't tell its attributes would lose them, and might be read-only.
-  if (!attributes && files.FileExists(path)) return false;
+  if (!MayReplace(files, path, attributes)) return false;
   FileBeside beside(files, path);
   if (!beside.Fill(bytes)) return false;
   if (attributes && !beside.SetAttributes(*attributes | kFileArchive)) return false;
   return beside.TakePlaceOf(path);
 }
 
-bool CanCreateFilesIn(FileSystem& files, const std::wstring& folder) {
-  return FileBeside(files, folder + L"\\write-test").Made();
+bool CanSave(FileSystem& files, const std::wstring& path) {
+  return MayReplace(files, path, files.GetFileAttributesA(path)) && FileBeside(files, path).Made();
 }
 
 }  // namespace burrowmark

@@ -13,7 +13,10 @@ namespace burrowmark {
 // or there is still none. A read-only file is a failure.
 bool SaveWholeFile(FileSystem& files, const std::wstring& path, std::string_view bytes);
 
-// True if a file can be made in the folder. It makes one there and deletes it again.
-bool CanCreateFilesIn(FileSystem& files, const std::wstring& folder);
+// Removes what a save of this file left beside it when the process was ended in the middle.
+void RemoveLeftOver(FileSystem& files, const std::wstring& path);
+
+// True if a file of this path could be saved. It makes a file beside it and deletes that again.
+bool CanSave(FileSystem& files, const std::wstring& path);
 
 }  // namespace burrowmark

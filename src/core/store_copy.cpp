@@ -14,11 +14,11 @@ void CopyStore(const Clock& clock, const clsMenuCollection& source, clsMenuColle
 }
 
 void CloneMenuItem(const clsMenuItem& source, clsMenuItem& target) {
-  target.ID = source.ID;
+  target.SetID(source.ID());
   target.Position = source.Position;
   target.SetName(source.Name());
   target.NameOld = source.NameOld;
-  if (source.OwnerName == MIT_PATHS_DRIVES) {
+  if (source.OwnerName() == MIT_PATHS_DRIVES) {
     target.SetCaption2(source.Caption());
   } else {
     target.SetCaption(source.Caption());
@@ -26,7 +26,7 @@ void CloneMenuItem(const clsMenuItem& source, clsMenuItem& target) {
   target.SetCaptionMenu(source.CaptionMenu());
   target.OwnerID = source.OwnerID;
   target.flags = source.flags;
-  target.OwnerName = source.OwnerName;
+  target.SetOwnerName(source.OwnerName());
   target.IconID = source.IconID;
   target.SetSeparator(source.Separator());
   target.SetSubMenu(source.SubMenu());

@@ -16,10 +16,18 @@ std::wstring LowerCaseText(std::wstring_view text) {
   return lower;
 }
 
-std::wstring Trim(std::wstring_view text) {
+std::wstring Trim(std::wstring_view text) { return std::wstring(TrimmedPart(text)); }
+
+std::wstring_view TrimmedPart(std::wstring_view text) {
   const std::size_t first = text.find_first_not_of(L' ');
   if (first == std::wstring_view::npos) return {};
-  return std::wstring(text.substr(first, text.find_last_not_of(L' ') - first + 1));
+  return text.substr(first, text.find_last_not_of(L' ') - first + 1);
+}
+
+std::wstring WithDoubledAmpersands(std::wstring_view text) {
+  std::wstring doubled;
+  for (const wchar_t character : text) doubled.append(character == L'&' ? 2 : 1, character);
+  return doubled;
 }
 
 std::vector<std::wstring> Split(std::wstring_view text, wchar_t separator) {

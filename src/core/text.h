@@ -14,6 +14,11 @@ std::wstring LowerCaseText(std::wstring_view text);
 
 // The text without blanks (U+0020) at both ends.
 std::wstring Trim(std::wstring_view text);
+// The same as a part of `text`, which must outlive it.
+std::wstring_view TrimmedPart(std::wstring_view text);
+
+// Each ampersand twice, as the system wants it where a single one marks the letter behind it.
+std::wstring WithDoubledAmpersands(std::wstring_view text);
 
 // The parts between separators: one more than there are separators, so an empty text is one empty part.
 std::vector<std::wstring> Split(std::wstring_view text, wchar_t separator);

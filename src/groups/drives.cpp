@@ -30,7 +30,7 @@ void AddGroup(clsMenuCollection& store, const Clock& clock) {
   auto group = std::make_shared<clsMenuItem>(clock);
   group->SetName(MIT_PATHS_DRIVES);
   group->SetCaption(L"Drives");
-  group->OwnerName = kRootOwner;
+  group->SetOwnerName(kRootOwner);
   group->SetSubMenu(true);
   group->ItemType = MIT_PATHS_DRIVES;
   group->UserDescription = kGroupDescription;
@@ -42,7 +42,7 @@ std::set<std::wstring> DrivesIn(const clsMenuCollection& store) {
   std::set<std::wstring> roots;
   for (std::int32_t i = 1; i <= store.Count(); ++i) {
     const ItemRef item = store.Item(i);
-    if (item->OwnerName == MIT_PATHS_DRIVES) roots.insert(item->FolderPath);
+    if (item->OwnerName() == MIT_PATHS_DRIVES) roots.insert(item->FolderPath);
   }
   return roots;
 }
@@ -102,7 +102,7 @@ void RemoveDrives(Application& app, clsMenuCollection& store) {
   if (!store.ItemExists(MIT_PATHS_DRIVES)) return;
   if (!app.IsMainStore(store)) app.DrivesRebuildNeeded = true;
   RemoveEntries(app, store, [](const clsMenuItem& item) {
-    return item.OwnerName == MIT_PATHS_DRIVES || item.Name() == MIT_PATHS_DRIVES;
+    return item.OwnerName() == MIT_PATHS_DRIVES || item.Name() == MIT_PATHS_DRIVES;
   });
 }
 

@@ -44,7 +44,7 @@ ItemRef NewItem(const Application& app, const std::wstring& name, const std::wst
                 const std::wstring& caption) {
   auto item = std::make_shared<clsMenuItem>(app.platform.clock);
   item->SetName(name);
-  item->OwnerName = owner;
+  item->SetOwnerName(owner);
   item->SetCaption(caption);
   return item;
 }

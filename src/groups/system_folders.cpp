@@ -82,7 +82,7 @@ void AddTopGroup(const Application& app, clsMenuCollection& store) {
   auto group = std::make_shared<clsMenuItem>(app.platform.clock);
   group->SetName(MIT_PATHS_SYSTEM);
   group->SetCaption(L"System Folders");
-  group->OwnerName = kRootOwner;
+  group->SetOwnerName(kRootOwner);
   group->SetSubMenu(true);
   group->ItemType = MIT_PATHS_SYSTEM;
   group->UserDescription = L"Contains shortcuts to Windows system folders";
@@ -108,7 +108,7 @@ std::wstring PathOf(const Application& app, const FolderRow& row) {
 bool HoldsFolder(const clsMenuCollection& store, const std::wstring& owner, const std::wstring& path) {
   for (std::int32_t i = 1; i <= store.Count(); ++i) {
     const ItemRef item = store.Item(i);
-    if (item->OwnerName == owner && item->FolderPath == path) return true;
+    if (item->OwnerName() == owner && item->FolderPath == path) return true;
   }
   return false;
 }

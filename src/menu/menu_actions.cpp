@@ -65,7 +65,7 @@ std::vector<ItemRef> ShortcutsBeside(const clsMenuCollection& store, const clsMe
   std::vector<ItemRef> items;
   for (std::int32_t i = 1; i <= store.Count(); ++i) {
     const ItemRef item = store.Item(i);
-    if (item->OwnerName == openAll.OwnerName && item->ItemType == MIT_PATH) items.push_back(item);
+    if (item->OwnerName() == openAll.OwnerName() && item->ItemType == MIT_PATH) items.push_back(item);
   }
   return items;
 }

@@ -12,12 +12,17 @@ namespace burrowmark {
 // Everything that the looks of an entry hang on beside the entry itself.
 struct MenuLook {
   std::vector<IconHandle> MenuIcons;  // by icon number; 0 repeats 1
-  bool IconFrameAllowed = false;      // the 3-D highlight can be told from the menu's own colour
   std::int32_t SelectedState = 1;     // the exact draw state of a selected entry
   bool ShowIcons = true;
   bool RedBar = true;  // the bar of a selected shortcut is red
+  bool Dark = false;   // drawn in a dark pair of colours instead of the system's light one
   std::int32_t dpi = kDesignDpi;
 };
+
+// Whether a text on it is dark.
+bool IsLight(Color color);
+// The colour behind all entries.
+Color MenuBackground(Drawing& drawing, const MenuLook& look);
 
 // The width and height of an entry, in device pixels, in the record.
 void MeasureMenuItem(Drawing& drawing, const MenuLook& look, const clsMenuItem& item, MeasureRecord& record);

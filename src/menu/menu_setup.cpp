@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <initializer_list>
+#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -10,6 +11,7 @@
 #include "core/hot_keys.h"
 #include "core/menu_entries.h"
 #include "core/store_copy.h"
+#include "core/text.h"
 #include "groups/personal_group.h"
 #include "groups/system_folders.h"
 
@@ -19,6 +21,11 @@ namespace {
 // One below the first command number of a build.
 constexpr std::int32_t kBuildStart = 49;
 constexpr std::int32_t kDummyId = 50;
+// Numbers from here on are the system's own: what comes back of a chosen entry are the low 16 bits of its number.
+constexpr std::int32_t kNumberEnd = 0xF000;
+// The last numbers are for the top level, where "Organize Folders" stands behind all others.
+constexpr std::int32_t kTopLevelNumbers = 256;
+constexpr std::int32_t kNoMenu = -1;
 constexpr wchar_t kDummyText[] = L"Dummy";
 
 NewMenuItem FixedEntry(const wchar_t* name, const wchar_t* caption, const std::wstring& beforeKey) {
@@ -43,7 +50,7 @@ NewMenuItem FixedSeparator(const wchar_t* name, const std::wstring& beforeKey) {
 std::wstring FirstRootKey(const clsMenuCollection& store) {
   if (store.GetMenuItemFromName(MIT_GROUP_USER)) return MIT_GROUP_USER;
   for (std::int32_t i = 1; i <= store.Count(); ++i) {
-    if (store.Item(i)->OwnerName == kRootOwner) return store.Item(i)->Name();
+    if (store.Item(i)->OwnerName() == kRootOwner) return store.Item(i)->Name();
   }
   return {};
 }
@@ -55,35 +62,55 @@ void RemoveNamed(Application& app, clsMenuCollection& store, std::initializer_li
 }
 
 bool TakesPart(const clsMenuItem& item, const std::wstring& filter) {
-  return filter.empty() || filter == item.OwnerName || filter == item.Name();
+  return filter.empty() || filter == item.OwnerName() || filter == item.Name();
 }
 
-// First pass: the entry goes in, at the place that the store's order gives it among its siblings.
-void InsertEntry(Application& app, clsMenuItem& item, bool replacesDummy) {
+// How many entries of each owner, by its ID, stand ahead in the store.
+using PlacesTaken = std::unordered_map<std::int32_t, std::int32_t>;
+
+// Gives the entry its number or popup; false if all numbers are gone.
+bool NumberEntry(Application& app, clsMenuItem& item) {
+  if (item.SubMenu()) {
+    item.SetID(app.platform.menus.CreatePopupMenu());
+    item.flags = kMenuByPosition | kMenuPopup;
+    return true;
+  }
+  clsMenuCollection& store = app.MainStore();
+  const std::int32_t last = store.IDCounter;
+  const std::int32_t number = store.GetNextFreeID();
+  if (number >= (item.OwnerName() == kRootOwner ? kNumberEnd : kNumberEnd - kTopLevelNumbers)) {
+    store.IDCounter = last;
+    return false;
+  }
+  item.SetID(number);
+  item.flags = item.Separator() ? kMenuByPosition | kMenuSeparator : kMenuByPosition;
+  return true;
+}
+
+// First pass: the entry goes in, at the place that the store's order gives it among its siblings. One that has no
+// number stays out and takes no place.
+void InsertEntry(Application& app, clsMenuItem& item, PlacesTaken& taken, bool replacesDummy) {
   clsMenuCollection& store = app.MainStore();
   Menus& menus = app.platform.menus;
-  if (item.SubMenu()) {
-    item.ID = menus.CreatePopupMenu();
-    item.flags = kMenuByPosition | kMenuPopup;
-  } else {
-    item.ID = store.GetNextFreeID();
-    item.flags = item.Separator() ? kMenuByPosition | kMenuSeparator : kMenuByPosition;
-  }
+  item.OwnerID = kNoMenu;
+  if (!NumberEntry(app, item)) return;
   bool noOwner = false;
-  item.OwnerID = store.GetIDFromName(item.OwnerName, noOwner);
-  item.Position = store.GetNextFreeItemPosition(item.ID, item.OwnerID);
-  const bool done = replacesDummy ? menus.ModifyMenuA(item.OwnerID, item.Position, item.flags, item.ID, item.Caption())
-                                  : menus.InsertMenuA(item.OwnerID, item.Position, item.flags, item.ID, item.Caption());
+  item.OwnerID = store.GetIDFromName(item.OwnerName(), noOwner);
+  item.Position = taken[item.OwnerID];
+  const auto put = replacesDummy ? &Menus::ModifyMenuA : &Menus::InsertMenuA;
+  const std::wstring text = WithDoubledAmpersands(item.Caption());
+  const bool done = (menus.*put)(item.OwnerID, item.Position, item.flags, item.ID(), text);
   if (!done && item.SubMenu()) {
-    menus.DestroyMenu(item.ID);
-    item.ID = 0;
+    menus.DestroyMenu(item.ID());
+    item.SetID(0);
   }
 }
 
 // Second pass: the entry is drawn by the program. Its text stays with it for screen readers and typed letters.
 void MakeOwnerDrawn(Application& app, clsMenuItem& item) {
   item.flags = kMenuByPosition | kMenuOwnerDrawn | (item.Separator() ? kMenuSeparator : 0);
-  app.platform.menus.ModifyMenuA(item.OwnerID, item.Position, item.flags, item.ID, item.Caption());
+  const std::wstring text = WithDoubledAmpersands(item.Caption());
+  app.platform.menus.ModifyMenuA(item.OwnerID, item.Position, item.flags, item.ID(), text);
 }
 
 }  // namespace
@@ -119,10 +146,14 @@ void MenuSetupBuild(Application& app, const std::wstring& filter) {
     store.IDCounter = kBuildStart;
     std::vector<ItemRef> entries;
     for (std::int32_t i = 1; i <= store.Count(); ++i) {
+      if (TakesPart(*store.Item(i), filter)) entries.push_back(store.Item(i));
+    }
+    for (const ItemRef& item : entries) item->SetID(0);  // numbers of the last build are free again
+    PlacesTaken taken;
+    for (std::int32_t i = 1; i <= store.Count(); ++i) {
       const ItemRef item = store.Item(i);
-      if (!TakesPart(*item, filter)) continue;
-      InsertEntry(app, *item, i == 1 && filter.empty());
-      entries.push_back(item);
+      if (TakesPart(*item, filter)) InsertEntry(app, *item, taken, i == 1 && filter.empty());
+      ++taken[item->OwnerID];
     }
     for (const ItemRef& item : entries) MakeOwnerDrawn(app, *item);
     if (!filter.empty()) NumberPositions(store);

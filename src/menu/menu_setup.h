@@ -22,7 +22,8 @@ void AddOptionsEntry(clsMenuCollection& store);
 void RemoveOptionsEntry(Application& app, clsMenuCollection& store);
 
 // Makes the native entries of the main store: all of them over the lone dummy entry or, with a filter, those of that
-// owner and the one of that name beside what is there. An entry whose owner isn't in the store stays out.
+// owner and the one of that name beside what is there. An entry whose owner isn't in the store stays out, and so do
+// those for which no number is left.
 void MenuSetupBuild(Application& app, const std::wstring& filter);
 // Puts a store behind the menu, with all its native entries; with its hot keys too, unless they are another store's.
 void ReplaceMainStore(Application& app, std::shared_ptr<clsMenuCollection> store);

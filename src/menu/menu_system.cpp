@@ -23,8 +23,6 @@ void MenuSystem::LoadMenuIcons() {
 }
 
 void MenuSystem::HookMenuWindow() {
-  Drawing& drawing = app_.platform.drawing;
-  look_.IconFrameAllowed = drawing.GetSysColor(kColor3DHighlight) != drawing.GetSysColor(kColorMenu);
   look_.SelectedState = app_.Os.SelectedState;
   app_.platform.windows.SetWindowHook(app_.MainWindow,
                                       [this](WindowMessage& message) { return MenuWindowProc(message); });
@@ -43,6 +41,12 @@ bool MenuSystem::SetScale(std::int32_t dpi) {
   look_.dpi = dpi;
   LoadMenuIcons();
   return true;
+}
+
+Color MenuSystem::ChooseColors() {
+  Drawing& drawing = app_.platform.drawing;
+  look_.Dark = !drawing.IsHighContrast() && IsLight(drawing.GetSysColor(kColorMenu)) && drawing.AppsAreDark();
+  return MenuBackground(drawing, look_);
 }
 
 MessageResult MenuSystem::MenuWindowProc(WindowMessage& message) {

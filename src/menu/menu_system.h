@@ -17,8 +17,6 @@ class MenuSystem {
 
   // Loads the icons for the current scale. Entry 0 repeats entry 1.
   void LoadMenuIcons();
-  // The icon of the program, for the tray; 0 without icons.
-  IconHandle TrayImage() const { return look_.MenuIcons.empty() ? 0 : look_.MenuIcons.front(); }
 
   void HookMenuWindow();
   void UnhookMenuWindow();
@@ -26,6 +24,9 @@ class MenuSystem {
   void Build(const std::wstring& filter);
   // Makes the menu fit another scale; true if it had to change.
   bool SetScale(std::int32_t dpi);
+
+  // Looks at the user's choice of light or dark, each time ahead of showing the menu; the colour behind its entries.
+  Color ChooseColors();
 
   MessageResult MenuWindowProc(WindowMessage& message);
 

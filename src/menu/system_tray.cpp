@@ -8,13 +8,17 @@ namespace burrowmark {
 namespace {
 
 constexpr std::uint32_t kTrayId = 1;
-constexpr std::int32_t kRetryAfter = 3000;  // milliseconds, while there is no task bar
+constexpr std::int32_t kTrayImage = 1;
+constexpr std::int32_t kTrayImageSize = 16;  // at 96 dots per inch
+constexpr std::int32_t kRetryAfter = 3000;   // milliseconds, while there is no task bar
 constexpr wchar_t kTip[] = L"Burrowmark";
 
 }  // namespace
 
 TrayIcon SystemTray::Record(std::uint32_t flags) const {
-  return {app_.MainWindow, kTrayId, flags, kMessageMouseMove, menu_.TrayImage(), {}};
+  const std::int32_t size = (kTrayImageSize * app_.platform.windows.MainScreenDpi() + kDesignDpi / 2) / kDesignDpi;
+  const IconHandle icon = app_.platform.drawing.LoadMenuIcon(kTrayImage, size);
+  return {app_.MainWindow, kTrayId, flags, kMessageMouseMove, icon, {}};
 }
 
 void SystemTray::Add() {
@@ -32,6 +36,10 @@ void SystemTray::Add() {
 void SystemTray::Delete() {
   wanted_ = false;
   app_.platform.shell.Shell_NotifyIconA(kTrayDelete, Record(kTrayHasMessage));
+}
+
+void SystemTray::ScaleChanged() {
+  if (wanted_) app_.platform.shell.Shell_NotifyIconA(kTrayModify, Record(kTrayHasIcon));
 }
 
 void SystemTray::Form_MouseMove(std::uint32_t mouseMessage) {
@@ -81,7 +89,8 @@ void SystemTray::ShowMainMenu() {
     app_.platform.windows.SetForegroundWindow(app_.MainWindow);
     store = app_.MainDocument.Store;
     Menus& menus = app_.platform.menus;
-    number = menus.TrackPopupMenu(menus.GetSubMenu(menus.GetMenu(app_.MainWindow), 0), app_.MainWindow);
+    const MenuHandle root = menus.GetSubMenu(menus.GetMenu(app_.MainWindow), 0);
+    number = menus.TrackPopupMenu(root, app_.MainWindow, menu_.ChooseColors());
   }
   const ItemRef item = number == 0 ? nullptr : store->GetMenuItemFromID(number);
   if (item) MenuItemChosen(app_, store, item);

@@ -13,6 +13,8 @@ class SystemTray {
   // Puts the icon up; where the task bar isn't there yet, again every few seconds until it is.
   void Add();
   void Delete();
+  // The screen with the task bar has another scale now.
+  void ScaleChanged();
   // The mouse over the icon: a button that goes up brings the open window forward or shows the menu.
   void Form_MouseMove(std::uint32_t mouseMessage);
   void ShowMainMenu();

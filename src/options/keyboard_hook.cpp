@@ -29,7 +29,8 @@ void KeyboardHook::UnhookKeyboard() {
   HookHandle_ = 0;
 }
 
-// Every key of the desktop passes here, so the digits are asked for first; whose code it is, is looked up in the loop.
+// Every key of the desktop passes here, on a thread of its own, so the digits are asked for first. Whose code it is, is
+// looked up in the loop.
 void KeyboardHook::KeyboardProc(std::int64_t message, const KeyRecord& key) {
   if (message != kMessageKeyDown || key.vkCode < kFirstDigit || key.vkCode > kLastDigit) return;
   Keyboard& keyboard = app_.platform.keyboard;

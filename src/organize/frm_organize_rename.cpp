@@ -53,7 +53,7 @@ void frmOrganize::RenameItem(const std::wstring& Key, bool& Cancel, const std::w
   const std::wstring name = NameOfKey(Key);
   const ItemRef item = WorkCollection()->GetMenuItemFromName(name);
   if (!item || item->ItemType == MIT_OPENALL || Trim(NewString).empty() || NewString == item->Caption()) return;
-  if (WorkCollection()->CaptionExists(NewString, item->OwnerName, item->SubMenu(), name)) {
+  if (WorkCollection()->CaptionExists(NewString, item->OwnerName(), item->SubMenu(), name)) {
     return TellRenameError(
         L"Cannot rename " + NewString +
         L": An item with the name you specified already exists.\r\nPlease specify a different name.");

@@ -32,7 +32,7 @@ constexpr ViewRow kViews[] = {
 };
 
 std::wstring ParentKey(const clsMenuItem& item) {
-  return item.OwnerName == kRootOwner ? MIT_HF_ROOT : KeyOfName(item.OwnerName);
+  return item.OwnerName() == kRootOwner ? MIT_HF_ROOT : KeyOfName(item.OwnerName());
 }
 
 bool IsRoot(const std::wstring& key) { return key == MIT_HF_ROOT; }
@@ -56,7 +56,7 @@ void frmOrganize::FillTree() {
   for (std::int32_t i = 1; i <= WorkCollection()->Count(); ++i) {
     const ItemRef item = WorkCollection()->Item(i);
     if (item->Remark == REMARK_AUTO) continue;
-    if (item->OwnerName != kRootOwner) {
+    if (item->OwnerName() != kRootOwner) {
       if (HasNode(*item)) AddTreeNodeAt(*item, ParentKey(*item), TreeRelation::kChild);
       continue;
     }
@@ -77,7 +77,7 @@ void frmOrganize::AddTreeNode(const clsMenuItem& item) {
     if (other.get() == &item) {
       passed = true;
     } else if (const std::wstring key = KeyOfName(other->Name());
-               other->OwnerName == item.OwnerName && TreeView1.Find(key) != nullptr) {
+               other->OwnerName() == item.OwnerName() && TreeView1.Find(key) != nullptr) {
       (passed ? after : before) = key;
     }
   }
@@ -183,7 +183,7 @@ void frmOrganize::ListGroup(const std::wstring& group) {
   ListView1.Clear();
   for (std::int32_t i = 1; i <= WorkCollection()->Count(); ++i) {
     const ItemRef item = WorkCollection()->Item(i);
-    if (!item->Separator() && item->OwnerName == group && item->Remark != REMARK_AUTO) AddListItemGhosted(*item);
+    if (!item->Separator() && item->OwnerName() == group && item->Remark != REMARK_AUTO) AddListItemGhosted(*item);
   }
 }
 
@@ -198,7 +198,7 @@ void frmOrganize::ShowGroupInList() {
   if (group != MIT_PATHS_DRIVES) {
     for (std::int32_t i = 1; i <= WorkCollection()->Count(); ++i) {
       const ItemRef item = WorkCollection()->Item(i);
-      if (item->OwnerName == group) AddListItem(*item, false, false);
+      if (item->OwnerName() == group) AddListItem(*item, false, false);
     }
   }
   ListView1.SetSelectedItem(nullptr);
@@ -207,7 +207,7 @@ void frmOrganize::ShowGroupInList() {
 // --- rows
 
 void frmOrganize::AddListItem(const clsMenuItem& item, bool Ghosted, bool Sorted) {
-  if (item.OwnerName == MIT_PATHS_DRIVES) return;
+  if (item.OwnerName() == MIT_PATHS_DRIVES) return;
   ListView1.SetSorted(Sorted);  // ahead of the adding, so that the row stands at the end
   ListItem* row = ListView1.Add(KeyOfName(item.Name()), item.Caption(), item.IconID, item.IconID);
   if (row == nullptr) return;

@@ -22,6 +22,12 @@ struct Rect {
   friend bool operator==(const Rect&, const Rect&) = default;
 };
 
+// How much room a text takes.
+struct TextExtent {
+  std::int32_t width = 0;
+  std::int32_t height = 0;  // of a line in the context's font, whatever the text
+};
+
 // Indices of system colours (winuser.h).
 inline constexpr std::int32_t kColorMenu = 4;
 inline constexpr std::int32_t kColorMenuText = 7;
@@ -46,6 +52,8 @@ class Drawing {
   virtual Color GetSysColor(std::int32_t index) = 0;
   // True if the user asked for high contrast.
   virtual bool IsHighContrast() = 0;
+  // True if the user wants dark apps, which changes no system colour.
+  virtual bool AppsAreDark() = 0;
 
   // A brush must be deleted by whoever made it.
   virtual BrushHandle CreateSolidBrush(Color color) = 0;
@@ -59,10 +67,14 @@ class Drawing {
   virtual void DrawTextA(DeviceContext context, const std::wstring& text, const Rect& rect, std::uint32_t format) = 0;
   virtual void DrawIconEx(DeviceContext context, std::int32_t x, std::int32_t y, IconHandle icon, std::int32_t width,
                           std::int32_t height, std::uint32_t flags) = 0;
+  // Nothing is drawn in there any more, neither by the program nor by the system, until the drawing is over.
+  virtual void ExcludeClipRect(DeviceContext context, const Rect& rect) = 0;
 
   // A context with the font of menus at a scale, for measuring alone. It stays until the next call with another scale.
   virtual DeviceContext MenuMeasureContext(std::int32_t dpi) = 0;
-  virtual std::int32_t GetCharWidth32A(DeviceContext context, wchar_t character) = 0;
+  // Of a single line in which an ampersand is a character like any other. Characters that the font hasn't got count
+  // with the width of the font that the system takes for them.
+  virtual TextExtent GetTextExtentPoint32A(DeviceContext context, const std::wstring& text) = 0;
 
   // The program's icons, from 1; 0 beyond their count or on failure. An icon stays until the program ends.
   virtual std::int32_t MenuIconCount() = 0;

@@ -8,6 +8,8 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/system_facts.h"
+
 namespace burrowmark {
 
 // Attribute bits of files and folders (winnt.h).
@@ -64,6 +66,9 @@ class FileSystem {
   // The attribute bits of a file or a folder; nothing if there is neither.
   virtual std::optional<std::uint32_t> GetFileAttributesA(const std::wstring& path) = 0;
   virtual bool SetFileAttributesA(const std::wstring& path, std::uint32_t attributes) = 0;
+
+  // The moment of a file's last write on the user's clock; nothing if there is no such file.
+  virtual std::optional<LocalTime> GetFileTime(const std::wstring& path) = 0;
 
   // Reads a whole file. `bytes` is empty on failure.
   virtual bool ReadWholeFile(const std::wstring& path, std::string& bytes) = 0;

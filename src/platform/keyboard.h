@@ -27,12 +27,16 @@ class Keyboard {
   virtual ~Keyboard() = default;
 
   // Calls `procedure` for every key event of the desktop ahead of the program that it is for, which gets it all the
-  // same. `message` tells what the event is. 0 where the system has no such hook. The procedure must be quick: the
-  // whole desktop waits for it. There is one hook at a time.
+  // same. `message` tells what the event is. 0 where the system has no such hook. There is one hook at a time.
+  //
+  // The procedure runs on a thread of the hook's own, so that the desktop, which waits for it, never waits for a thread
+  // of the program. It must be quick, may ask GetKeyState and post work to the loop, and touches nothing else.
   virtual HookHandle SetWindowsHookExA(std::int32_t kind,
                                        std::function<void(std::int64_t message, const KeyRecord& key)> procedure) = 0;
+  // Not from the procedure. After this the procedure doesn't run any more.
   virtual bool UnhookWindowsHookEx(HookHandle hook) = 0;
-  // The sign bit (0x8000) of the result says that the key is down.
+  // As the keyboard is now, whoever has its input; from any thread. The sign bit (0x8000) of the result says that the
+  // key is down.
   virtual std::int16_t GetKeyState(std::int32_t key) = 0;
 };
 

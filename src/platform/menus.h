@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <string>
 
+#include "platform/drawing.h"
 #include "platform/window_handle.h"
 
 namespace burrowmark {
@@ -31,8 +32,8 @@ class Menus {
   virtual bool DestroyMenu(MenuHandle menu) = 0;
 
   // Puts an entry in ahead of the one at `position`; at the end for -1 or a position past it. `id` is the command
-  // number or, with the popup flag, the popup that the entry opens. An owner-drawn entry keeps its text for screen
-  // readers.
+  // number or, with the popup flag, the popup that the entry opens. In the text an ampersand marks the letter behind
+  // it, and two are one that is seen. An owner-drawn entry keeps its text for typed letters and screen readers.
   virtual bool InsertMenuA(MenuHandle menu, std::int32_t position, std::int32_t flags, std::int32_t id,
                            const std::wstring& text) = 0;
   // Changes an entry to these flags, number and text. An entry with a popup that becomes owner-drawn keeps it; any
@@ -47,7 +48,8 @@ class Menus {
   virtual std::int32_t GetMenuItemID(MenuHandle menu, std::int32_t position) = 0;
 
   // Shows a popup at the mouse and returns when it is gone: the command number of what was chosen, 0 for nothing.
-  virtual std::int32_t TrackPopupMenu(MenuHandle menu, WindowHandle window) = 0;
+  // `background` is the colour behind its entries and those of all popups below it.
+  virtual std::int32_t TrackPopupMenu(MenuHandle menu, WindowHandle window, Color background) = 0;
 };
 
 }  // namespace burrowmark

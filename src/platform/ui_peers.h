@@ -70,6 +70,8 @@ class FormState {
   // The mouse over the client area where no control is; also elsewhere, as long as a button is held that went down
   // here.
   virtual void UserMouse(MouseAction action, const MouseEvent& event) = 0;
+  // The system takes the mouse away while buttons are held: they count as let go where the mouse was last.
+  virtual void UserLoseMouse() = 0;
   virtual void UserScale() = 0;   // the window is on a screen of another scale
   virtual void WindowLost() = 0;  // the system took the window, with its owner's for instance
 

@@ -65,7 +65,7 @@ struct MessageResult {
 struct MainWindowEvents {
   std::function<void(std::uint32_t mouseMessage)> TrayMouse;  // the mouse over the tray icon
   std::function<void()> TaskbarCreated;                       // the task bar is there, for the first time or again
-  std::function<void(std::int32_t dpi)> DpiChanged;
+  std::function<void(std::int32_t dpi)> DpiChanged;           // of the screen that it is on, the main one
   // The user's session ends for good. The window may be gone before anything else runs.
   std::function<void()> SessionEnding;
   std::function<void()> Close;   // somebody wants the window gone; it stays unless this destroys it
@@ -86,8 +86,9 @@ class WindowSystem {
   virtual void DestroyMainWindow(WindowHandle window) = 0;
   // Puts a procedure ahead of the window's own one, or takes it away again (an empty one).
   virtual void SetWindowHook(WindowHandle window, std::function<MessageResult(WindowMessage&)> hook) = 0;
-  // Dots per inch of the screen that the mouse is on.
+  // Dots per inch of the screen that the mouse is on, and of the main one, where the tray is.
   virtual std::int32_t MouseScreenDpi() = 0;
+  virtual std::int32_t MainScreenDpi() = 0;
 
   // The screens without their task bars, the main one first, in twips by the scale of the system.
   virtual std::vector<Box> Screens() = 0;
@@ -119,7 +120,8 @@ class WindowSystem {
   virtual void RunModal(WindowHandle window, const std::function<bool()>& open) = 0;
   // What forms and their controls are shown with.
   virtual Peers& peers() = 0;
-  // Runs `work` from the loop, after the message that is being handled.
+  // Runs `work` from the loop, after the message that is being handled. This alone may be called from any thread; the
+  // work runs on the loop's.
   virtual void Post(std::function<void()> work) = 0;
   // Runs `work` once after that many milliseconds.
   virtual void PostLater(std::int32_t milliseconds, std::function<void()> work) = 0;

@@ -63,7 +63,7 @@ class LinkTree {
   LinkTree(Application& app, const std::wstring& root) : app_(app), root_(root) {}
 
   void Add(const clsMenuItem& item) {
-    const std::wstring parent = FolderOf(item.OwnerName);
+    const std::wstring parent = FolderOf(item.OwnerName());
     if (item.SubMenu()) folders_[item.Name()] = GroupFolder(item, parent);
     if (item.Separator()) return;
     if (item.ItemType == MIT_PATH) {

@@ -372,6 +372,7 @@ void Form::UserMove(const FormGeometry& geometry) {
 
 void Form::UserActivate(bool active) {
   const Running running(*this);
+  if (!active) UserLoseMouse();
   active ? Form_Activate() : Form_Deactivate();
 }
 
@@ -408,9 +409,15 @@ void Form::UserSystemCommand(std::int32_t id) {
   Form_SystemCommand(id);
 }
 
+// Every press has one end, whether the button is let go or the mouse taken away.
 void Form::UserMouse(MouseAction action, const MouseEvent& event) {
   if (action != MouseAction::kUp && !IsReachable()) return;
   const Running running(*this);
+  const std::int32_t held = mouse_.button;
+  if (action == MouseAction::kUp && (held & event.button) == 0) return;
+  mouse_ = event;
+  mouse_.button = action == MouseAction::kDown ? held | event.button : held;
+  if (action == MouseAction::kUp) mouse_.button &= ~event.button;
   switch (action) {
     case MouseAction::kDown:
       return Form_MouseDown(event);
@@ -418,6 +425,15 @@ void Form::UserMouse(MouseAction action, const MouseEvent& event) {
       return Form_MouseMove(event);
     case MouseAction::kUp:
       return Form_MouseUp(event);
+  }
+}
+
+void Form::UserLoseMouse() {
+  const Running running(*this);
+  for (const std::int32_t button : {kLeftButton, kRightButton}) {
+    MouseEvent event = mouse_;
+    event.button = button;
+    UserMouse(MouseAction::kUp, event);
   }
 }
 

@@ -117,6 +117,7 @@ class Form : public FormState, public ControlSite {
   void UserSystemCommand(std::int32_t id) final;
   void UserScale() final;
   void UserMouse(MouseAction action, const MouseEvent& event) final;
+  void UserLoseMouse() final;
   void WindowLost() final;
 
  protected:
@@ -203,6 +204,7 @@ class Form : public FormState, public ControlSite {
   bool topMost_ = false;
   bool keyPreview_ = false;
   std::int32_t mousePointer_ = kPointerDefault;
+  MouseEvent mouse_;  // where it was last; the button is those that are held
   std::int32_t icon_ = 0;
 
   bool modal_ = false;

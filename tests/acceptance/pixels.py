@@ -3,6 +3,7 @@
 import struct
 import zlib
 
+PNG_SIGNATURE = b"\x89PNG\r\n\x1a\n"
 
 def hex_colour(text):
     """'rrggbb' as a triple."""
@@ -36,7 +37,7 @@ class Picture:
         rows = b"".join(b"\0" + self.data[y * stride:(y + 1) * stride] for y in range(self.height))
         header = struct.pack(">IIBBBBB", self.width, self.height, 8, 2, 0, 0, 0)
         with open(path, "wb") as file:
-            file.write(b"\x89PNG\r\n\x1a\n" + chunk(b"IHDR", header) + chunk(b"IDAT", zlib.compress(rows))
+            file.write(PNG_SIGNATURE + chunk(b"IHDR", header) + chunk(b"IDAT", zlib.compress(rows))
                        + chunk(b"IEND", b""))
 
     def pixel(self, x, y):
@@ -106,10 +107,28 @@ def read_icon(path, size):
     if kind != 1:
         raise ValueError("%s is no icon file" % path)
     for index in range(count):
-        width, _, _, _, _, bits, _, offset = struct.unpack_from("<BBBBHHII", data, 6 + 16 * index)
+        width, _, _, _, _, bits, length, offset = struct.unpack_from("<BBBBHHII", data, 6 + 16 * index)
         if width == size and bits == 32:
-            return _read_bitmap(data, offset)
+            image = data[offset:offset + length]
+            return _read_png(image) if image.startswith(PNG_SIGNATURE) else _read_bitmap(image, 0)
     raise ValueError("%s has no image of %d pixels" % (path, size))
+
+
+def _read_png(data):
+    """A PNG as the icons' renderer writes it: red, green, blue and opacity of 8 bits each, rows without a filter."""
+    width, height, depth, colour = struct.unpack_from(">IIBB", data, 16)
+    packed, at = b"", len(PNG_SIGNATURE)
+    while at < len(data):
+        length, kind = struct.unpack_from(">I4s", data, at)
+        if kind == b"IDAT":
+            packed += data[at + 8:at + 8 + length]
+        at += length + 12
+    rows = zlib.decompress(packed)
+    stride = 1 + width * 4
+    if (depth, colour) != (8, 6) or any(rows[y * stride] for y in range(height)):
+        raise ValueError("another kind of PNG")
+    return IconImage(width, height, {(x, y): tuple(rows[y * stride + 1 + 4 * x:][:4])
+                                     for y in range(height) for x in range(width)})
 
 
 def _read_bitmap(data, offset):

@@ -2,7 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
+#include <filesystem>
+
+#include "config/config_repair.h"
 #include "core/registry_keys.h"
+#include "core/text.h"
 #include "tests/support/config_check.h"
 #include "tests/support/scratch_machine.h"
 
@@ -36,15 +41,21 @@ class Config : public testing::Test {
 
   bool Read(const std::string& bytes) {
     machine_.AddFile(kPath, bytes);
-    store_ = std::make_unique<clsMenuCollection>(machine_.clock);
-    return ConfigFileRead(app_, *store_, kPath, missing_, ignored_);
+    std::optional<OpenedConfig> opened = ConfigFileRead(app_, kPath);
+    if (!opened) return false;
+    missing_ = opened->SystemGroupMissing;
+    ignored_ = opened->SystemGroupIgnored;
+    document_ = std::move(opened->document);
+    store_ = document_.Store;
+    return true;
   }
-  bool Write(bool plainText = false) { return ConfigFileWrite(app_, *store_, kPath, plainText); }
+  bool Write() { return ConfigFileWrite(app_, document_); }
 
   test::ScratchMachine scratch_;
   LocalMachine& machine_ = scratch_.machine;
   Application& app_ = scratch_.app;
-  std::unique_ptr<clsMenuCollection> store_ = std::make_unique<clsMenuCollection>(machine_.clock);
+  std::shared_ptr<clsMenuCollection> store_ = std::make_shared<clsMenuCollection>(machine_.clock);
+  Document document_{.Store = store_, .CurrentConfigFile = kPath};
   bool missing_ = false;
   bool ignored_ = false;
 };
@@ -61,7 +72,7 @@ TEST_F(Config, TheSmallFileIsWrittenByteForByte) {
   leaf->FolderPath = L"D:\\Projects";
   leaf->ItemPath = L"\\";
   store_->AddOne(leaf, true, true);
-  app_.Summary.SummaryTitle = L"My folders";
+  document_.Summary.SummaryTitle = L"My folders";
   ASSERT_TRUE(Write());
   EXPECT_EQ(machine_.BytesOf(kPath), kSmallFile);
 }
@@ -70,10 +81,9 @@ TEST_F(Config, TheSmallFileIsReadAndWrittenAsItWas) {
   ASSERT_TRUE(Read(kSmallFile));
   EXPECT_TRUE(missing_);
   EXPECT_FALSE(ignored_);
-  EXPECT_EQ(app_.CurrentConfigFile, kPath);
-  EXPECT_TRUE(
-      NamesOf(*store_).starts_with(L"MIT_HF_HELP MIT_HF_HELP_SEP MIT_GROUP_USER N1 MIT_PATHS_SYSTEM MIT_HF_DRIVES_SEP "
-                                   L"MIT_HF_SETTINGS MIT_HF_ORGANIZE "));
+  EXPECT_EQ(document_.CurrentConfigFile, kPath);
+  EXPECT_EQ(document_.Content, FileContent::kWhole);
+  EXPECT_EQ(NamesOf(*store_), L"MIT_GROUP_USER N1");
   app_.AC[Appearance::kSystemFolders] = false;
   machine_.clock.Fixed->year = 2020;
   ASSERT_TRUE(Read(kSmallFile));
@@ -95,7 +105,7 @@ TEST_F(Config, EveryAttributeSurvives) {
   leaf->TimeModified = 37930;
   leaf->TimeAccessed = 0.5;
   store_->AddOne(leaf, true, false);
-  app_.Summary = {L"[END:]", L"author", L"category", L"key words", L"two\r\nlines"};
+  document_.Summary = {L"[END:]", L"author", L"category", L"key words", L"two\r\nlines"};
   ASSERT_TRUE(Write());
   const std::string bytes = machine_.BytesOf(kPath);
   ASSERT_TRUE(Read(bytes));
@@ -103,7 +113,7 @@ TEST_F(Config, EveryAttributeSurvives) {
   ASSERT_TRUE(read);
   EXPECT_EQ(read->KeyboardCode, 0);
   EXPECT_EQ(read->UserDescription, leaf->UserDescription);
-  EXPECT_EQ(app_.Summary.SummaryComments, L"two\r\nlines");
+  EXPECT_EQ(document_.Summary.SummaryComments, L"two\r\nlines");
   ASSERT_TRUE(Write());
   EXPECT_EQ(machine_.BytesOf(kPath), bytes);
 }
@@ -123,43 +133,112 @@ TEST_F(Config, OnlyTheTwoGroupsAndTheirDescendantsAreWritten) {
   const std::string both = machine_.BytesOf(kPath);
   ASSERT_TRUE(Read(both));
   EXPECT_FALSE(missing_);
-  EXPECT_EQ(NamesOf(*store_),
-            L"MIT_HF_HELP MIT_HF_HELP_SEP MIT_GROUP_USER N1 MIT_PATHS_SYSTEM S1 MIT_HF_DRIVES_SEP "
-            L"MIT_HF_SETTINGS MIT_HF_ORGANIZE");
+  EXPECT_EQ(NamesOf(*store_), L"MIT_GROUP_USER N1 MIT_PATHS_SYSTEM S1");
   app_.AC[Appearance::kSystemFolders] = false;
   ASSERT_TRUE(Read(both));
   EXPECT_TRUE(ignored_);
   EXPECT_FALSE(missing_);
   EXPECT_FALSE(store_->ItemExists(L"S1"));
-  EXPECT_EQ(app_.Summary.SummaryTitle, L"My folders");
+  EXPECT_EQ(document_.Summary.SummaryTitle, L"My folders");
 }
 
-TEST_F(Config, AFileWithoutItemsCanBeReadAgain) {
-  ASSERT_TRUE(Write());
-  EXPECT_EQ(machine_.BytesOf(kPath), File("[MIT_GROUP_USER:]\n[END:]\n[MIT_PATHS_SYSTEM:]\n[END:]\n"));
-  EXPECT_TRUE(Read(machine_.BytesOf(kPath)));
+TEST_F(Config, TheSystemFoldersSectionMayBeEmptyAndThePersonalGroupMayNot) {
+  EXPECT_TRUE(Read(kSmallFile + File("[MIT_PATHS_SYSTEM:]\n[END:]\n")));
   EXPECT_TRUE(missing_);  // an empty group is made anew as a missing one is
+  EXPECT_FALSE(Read(File("[MIT_GROUP_USER:]\n[END:]\n[MIT_PATHS_SYSTEM:]\n[END:]\n")));
 }
 
-TEST_F(Config, FixedEntriesFollowTheSettingsAndNoneComesFromTheFile) {
+TEST_F(Config, NoFixedEntryComesFromTheFile) {
   const std::size_t start = kSmallFile.find(File("0\nN1\n"));
   const std::string record = kSmallFile.substr(start, kSmallFile.find("[END:]") - start);
   const auto with = [&record](const std::string& old, const std::string& text) {
     return std::string(record).replace(record.find(old), old.size(), text);
   };
-  std::string bytes =
-      File("[MIT_GROUP_USER:]\n") + with(File("\nMIT_PATH\n"), File("\nMIT_DRIVE\n")) + with("False", "True");
+  std::string more = with(File("\nMIT_PATH\n"), File("\nMIT_DRIVE\n")) + with("False", "True");
   for (const char* name : {"MIT_HF_SETTINGS", "MIT_HF_HELP", "MIT_HF_ORGANIZE", "MIT_PATHS_DRIVES", "N2"}) {
-    bytes += with("N1", name);
+    more += with("N1", name);
   }
-  bytes += File("[END:]\n");
-  app_.AC[Appearance::kSystemFolders] = app_.AC[Appearance::kHelp] = app_.AC[Appearance::kOptions] = false;
-  ASSERT_TRUE(Read(bytes));
-  EXPECT_EQ(NamesOf(*store_), L"N2 MIT_HF_DRIVES_SEP MIT_HF_ORGANIZE");
-  EXPECT_TRUE(store_->GetMenuItemFromName(MIT_HF_DRIVES_SEP)->Separator());
-  app_.AC[Appearance::kHelp] = true;
-  ASSERT_TRUE(Read(bytes));
-  EXPECT_EQ(NamesOf(*store_).substr(0, 17), L"N2 MIT_HF_HELP MI");  // no personal group: ahead of the top level
+  ASSERT_TRUE(Read(std::string(kSmallFile).insert(start, more)));
+  EXPECT_EQ(NamesOf(*store_), L"MIT_GROUP_USER N2 N1");
+}
+
+// Entries as "name<owner", a group in capitals, but for generated names; "P" is the personal group, "S" System Folders.
+TEST_F(Config, DamagedFilesKeepEveryEntryInItsPlaceOrInThePersonalGroup) {
+  const struct {
+    const char* trouble;
+    std::wstring file;
+    std::wstring read;
+    bool damaged = true;
+  } rows[] = {
+      {"none", L"P<- A<P x<A S<- z<S", L"P<- A<P x<A S<- z<S", false},
+      {"no owner", L"P<- x<Q B<- y<B", L"P<- x<P B<P y<B"},
+      {"a leaf at the root, or as an owner", L"P<- x<- y<x", L"P<- x<P y<P"},
+      {"ahead of its owner", L"x<B y<C B<C P<- C<P w<B", L"P<- C<P y<C B<C x<B w<B"},
+      {"circles", L"P<- A<B x<A B<C C<B D<D", L"P<- B<P A<B x<A C<B D<P"},
+      {"letter case", L"P<- GROUP<P x<Group", L"P<- GROUP<P x<GROUP"},
+      {"the personal group in itself", L"P<P x<P", L"P<- x<P"},
+      {"one name twice", L"P<- A<P A<P x<A N2<P N1<P", L"P<- A<P N3<P x<A N2<P N1<P"},
+  };
+  const auto full = [](const std::wstring& word) -> std::wstring {
+    return word == L"P" ? MIT_GROUP_USER : word == L"S" ? MIT_PATHS_SYSTEM : word == L"-" ? kRootOwner : word;
+  };
+  for (const auto& row : rows) {
+    std::vector<ItemRef> items;
+    for (const std::wstring& entry : Split(row.file, L' ')) {
+      const std::vector<std::wstring> parts = Split(entry, L'<');
+      const bool group = parts[0] == UpperCaseText(parts[0]) && parts[0][0] != L'N';
+      items.push_back(test::MakeItem(machine_.clock, full(parts[0]), parts[0], full(parts[1]), group));
+    }
+    EXPECT_EQ(RepairItems(items), row.damaged ? Repair::kDone : Repair::kNotNeeded) << row.trouble;
+    std::wstring read;
+    for (const ItemRef& item : items) read += L" " + item->Name() + L"<" + item->OwnerName();
+    std::wstring expected;
+    for (const std::wstring& entry : Split(row.read, L' ')) {
+      expected += L" " + full(Split(entry, L'<')[0]) + L"<" + full(Split(entry, L'<')[1]);
+    }
+    EXPECT_EQ(read, expected) << row.trouble;
+  }
+}
+
+TEST_F(Config, ADamagedFileIsKeptOnceAndTheDaysFirstSaveKeepsTheVersionBefore) {
+  const std::wstring previous = L"C:\\data\\tree (previous).bwmk";
+  machine_.clock.Fixed.reset();
+  const std::string damaged = std::string(kSmallFile).replace(kSmallFile.find("MIT_GROUP_USER\0004"s), 14, "nobody");
+  ASSERT_TRUE(Read(damaged));
+  EXPECT_EQ(document_.Content, FileContent::kDamaged);
+  machine_.AddFile(previous, "good");
+  const auto age = [&] {
+    const std::filesystem::path file = machine_.RealPath(kPath);
+    std::filesystem::last_write_time(file, std::filesystem::last_write_time(file) - std::chrono::hours(25));
+  };
+  age();
+  ASSERT_TRUE(Write() && Write());
+  EXPECT_EQ(machine_.BytesOf(L"C:\\data\\tree (unreadable).bwmk"), damaged);
+  EXPECT_EQ(document_.Notice, L"Configuration file tree.bwmk is damaged. It is kept as tree (unreadable).bwmk.");
+  EXPECT_EQ(machine_.BytesOf(previous), "good") << "a damaged version isn't worth it";
+  const std::string saved = machine_.BytesOf(kPath);
+  document_.Summary.SummaryTitle = L"New";
+  // A fault at any step: the file is the old or the new one, and so is the version before.
+  std::size_t step = 0;
+  for (bool struck = true; struck;) {
+    machine_.AddFile(kPath, saved);
+    machine_.AddFile(previous, "good");
+    age();
+    machine_.faults.Clear();
+    machine_.faults.FailCall(++step);
+    Document copy = document_;
+    const bool written = ConfigFileWrite(app_, copy);
+    struck = machine_.faults.Failed() > 0;
+    machine_.faults.Clear();
+    EXPECT_EQ(machine_.BytesOf(kPath) == saved, !written) << step;
+    const std::string before = machine_.BytesOf(previous);
+    EXPECT_TRUE(before == saved || before == "good") << step;
+    ASSERT_TRUE(ConfigFileRead(app_, kPath)) << step;
+    EXPECT_FALSE(machine_.files.FileExists(kPath + L".~burrowmark"s)) << step;
+    EXPECT_FALSE(machine_.files.FileExists(previous + L".~burrowmark")) << step;
+  }
+  EXPECT_GT(step, 15U);
+  EXPECT_EQ(machine_.BytesOf(previous), saved);
 }
 
 TEST_F(Config, AFileThatIsNoneIsAFailedReadThatChangesNothing) {
@@ -173,10 +252,9 @@ TEST_F(Config, AFileThatIsNoneIsAFailedReadThatChangesNothing) {
   for (const std::string& bytes : bad) {
     EXPECT_FALSE(Read(bytes));
     EXPECT_EQ(machine_.BytesOf(kPath), bytes);
-    EXPECT_EQ(app_.Summary.SummaryTitle, L"My folders");
+    EXPECT_EQ(document_.Summary.SummaryTitle, L"My folders");
   }
-  EXPECT_FALSE(ConfigFileRead(app_, *store_, L"C:\\data\\none.bwmk", missing_, ignored_));
-  EXPECT_EQ(app_.CurrentConfigFile, kPath);
+  EXPECT_FALSE(ConfigFileRead(app_, L"C:\\data\\none.bwmk"));
 }
 
 TEST_F(Config, AnEmptyFileIsDeletedAndAFileThatCannotBeReadIsNot) {
@@ -184,16 +262,15 @@ TEST_F(Config, AnEmptyFileIsDeletedAndAFileThatCannotBeReadIsNot) {
   EXPECT_FALSE(machine_.files.FileExists(kPath));
   machine_.AddFile(kPath, kSmallFile);
   machine_.faults.HeldOpen.insert(L"C:\\DATA\\TREE.BWMK");
-  EXPECT_FALSE(ConfigFileRead(app_, *store_, kPath, missing_, ignored_));
+  EXPECT_FALSE(ConfigFileRead(app_, kPath));
   machine_.faults.Clear();
   EXPECT_TRUE(machine_.files.FileExists(kPath));
 }
 
 TEST_F(Config, ASummaryStartsEmptyAndARepeatedSectionOverwrites) {
-  app_.Summary.SummaryAuthor = L"of the file before";
   ASSERT_TRUE(Read(kSmallFile + File("[SUMMARY_TITLE:]\nlater\n[END:]\n[SUMMARY_KEYWORDS:]\n")));
-  EXPECT_EQ(app_.Summary.SummaryAuthor, L"");
-  EXPECT_EQ(app_.Summary.SummaryTitle, L"later");
+  EXPECT_EQ(document_.Summary.SummaryAuthor, L"");
+  EXPECT_EQ(document_.Summary.SummaryTitle, L"later");
 }
 
 TEST_F(Config, TitlesAreFilteredAndNumbersAndNamesChecked) {
@@ -205,7 +282,8 @@ TEST_F(Config, TitlesAreFilteredAndNumbersAndNamesChecked) {
   EXPECT_EQ(store_->GetMenuItemFromName(L"N1")->Caption(), L"abc");
   EXPECT_FALSE(Read(with(File("\n4\n"), File("\n70000\n"))));
   EXPECT_FALSE(Read(with("5|11|2003", "5|11|99999")));
-  EXPECT_FALSE(Read(with(File("\nN1\n"), File("\nmit_group_user\n"))));  // two equal keys
+  ASSERT_TRUE(Read(with(File("\nN1\n"), File("\nmit_group_user\n"))));  // two equal keys
+  EXPECT_EQ(NamesOf(*store_), L"MIT_GROUP_USER N1");
 }
 
 TEST_F(Config, ATextBeyondTheAnsiPageMakesTheFileUtf8) {
@@ -227,33 +305,36 @@ TEST_F(Config, TheSummaryIsReplacedAndTheRecordsStayByteForByte) {
   std::string bytes = kSmallFile;
   const std::string texts = File("\n\nContains your shortcuts");  // ahead of it the remark and the hot key
   bytes.replace(bytes.find(texts), texts.size(), File("[END:]\n\n[SUMMARY_TITLE:]"));  // texts of the user's
-  machine_.AddFile(kPath, bytes + File("[OTHER:]\nkept\n"));
-  app_.Summary.SummaryTitle = L"New";
-  app_.Summary.SummaryComments = L"c";
-  ASSERT_TRUE(ConfigFileUpdateSummary(app_, kPath));
+  ASSERT_TRUE(Read(bytes + File("[OTHER:]\nkept\n")));
+  document_.Summary.SummaryTitle = L"New";
+  document_.Summary.SummaryComments = L"c";
+  ASSERT_TRUE(ConfigFileUpdateSummary(app_, document_));
   const std::string records = bytes.substr(0, bytes.rfind("[SUMMARY_TITLE:]"));
   const std::string expected =
       records + File("[OTHER:]\nkept\n[SUMMARY_TITLE:]\nNew\n[END:]\n[SUMMARY_COMMENTS:]\nc\n[END:]\n");
   EXPECT_EQ(machine_.BytesOf(kPath), expected);
-  ASSERT_TRUE(ConfigFileUpdateSummary(app_, kPath));
+  ASSERT_TRUE(ConfigFileUpdateSummary(app_, document_));
   EXPECT_EQ(machine_.BytesOf(kPath), expected);
-  app_.Summary = {};
-  ASSERT_TRUE(ConfigFileUpdateSummary(app_, kPath));
+  document_.Summary = {};
+  ASSERT_TRUE(ConfigFileUpdateSummary(app_, document_));
   EXPECT_EQ(machine_.BytesOf(kPath), records + File("[OTHER:]\nkept\n"));
-  machine_.AddFile(kPath, kSmallFile.substr(0, 30) + "\xE9" + kSmallFile.substr(31));
-  app_.Summary.SummaryTitle = L"\x41F";  // makes an ANSI file one of UTF-8
-  ASSERT_TRUE(ConfigFileUpdateSummary(app_, kPath));
+  machine_.AddFile(kPath, std::string(kSmallFile).replace(kSmallFile.find("Personal"), 1, "\xE9"));
+  document_.Summary.SummaryTitle = L"\x41F";  // makes an ANSI file one of UTF-8
+  ASSERT_TRUE(ConfigFileUpdateSummary(app_, document_));
   EXPECT_NE(machine_.BytesOf(kPath).find("\xC3\xA9"), std::string::npos);
 }
 
 TEST_F(Config, TheSummaryOfADamagedOrMissingFile) {
-  EXPECT_TRUE(ConfigFileUpdateSummary(app_, L"C:\\data\\none.bwmk"));
-  EXPECT_FALSE(machine_.files.FileExists(L"C:\\data\\none.bwmk"));
-  app_.Summary.SummaryTitle = L"New";
+  EXPECT_TRUE(ConfigFileUpdateSummary(app_, document_));
+  EXPECT_FALSE(machine_.files.FileExists(kPath));
+  ASSERT_TRUE(Read(kSmallFile));
+  document_.Summary.SummaryTitle = L"New";
   const std::string cut = kSmallFile.substr(0, kSmallFile.find("[END:]"));
-  machine_.AddFile(kPath, cut);
-  EXPECT_FALSE(ConfigFileUpdateSummary(app_, kPath));
-  EXPECT_EQ(machine_.BytesOf(kPath), cut);
+  for (const std::string& bytes : {cut, "no marker"s, File("[OTHER:]\n"), ""s}) {
+    machine_.AddFile(kPath, bytes);
+    EXPECT_FALSE(ConfigFileUpdateSummary(app_, document_));
+    EXPECT_EQ(machine_.BytesOf(kPath), bytes);
+  }
 }
 
 TEST_F(Config, TheListingShowsCountsAndTheTree) {
@@ -266,7 +347,7 @@ TEST_F(Config, TheListingShowsCountsAndTheTree) {
   store_->AddNewMenuItem({.Caption = L"D", .OwnerName = L"G", .ItemType = MIT_DRIVE});  // counts nowhere
   store_->AddNewMenuItem(
       {.Caption = L"System Folders", .OwnerName = kRootOwner, .Name = MIT_PATHS_SYSTEM, .SubMenu = true});
-  ASSERT_TRUE(Write(true));
+  ASSERT_TRUE(ConfigFileExport(app_, document_, kPath));
   EXPECT_EQ(machine_.BytesOf(kPath),
             "C:\\data\\tree.bwmk\r\n\r\n"
             "Number of shortcuts: 2\r\nNumber of Folder Shortcuts: 1\r\nNumber of Windows Explorer Shortcuts: 1\r\n"
@@ -274,30 +355,49 @@ TEST_F(Config, TheListingShowsCountsAndTheTree) {
             "[Personal]\r\n [Group]\r\n  D ()\r\n  Inner (C:\\i)\r\n  Open-All ()\r\n Projects (D:\\Projects)\r\n"
             "[System Folders]\r\n");
   store_->GetMenuItemFromName(L"N1")->SetCaption(L"\x41F");
-  store_->GetMenuItemFromName(MIT_GROUP_USER)->OwnerName = L"G";  // a circle of owners ends
-  ASSERT_TRUE(Write(true));
+  store_->GetMenuItemFromName(MIT_GROUP_USER)->SetOwnerName(L"G");  // a circle of owners ends
+  ASSERT_TRUE(ConfigFileExport(app_, document_, kPath));
   EXPECT_TRUE(machine_.BytesOf(kPath).starts_with("\xEF\xBB\xBF"));
 }
 
-TEST_F(Config, TheDefaultFileIsRegisteredOrBesideTheProgram) {
-  GetConfigFileName(app_, false);
-  EXPECT_EQ(app_.ConfigFile, L"C:\\Program Files\\Burrowmark\\default.bwmk");
-  SaveConfigFileName(app_, L"D:\\mine.bwmk");
-  GetConfigFileName(app_, false);
-  EXPECT_EQ(app_.ConfigFile, L"D:\\mine.bwmk");
-  GetConfigFileName(app_, true);
-  SaveConfigFileName(app_, L"");
-  EXPECT_EQ(scratch_.Registered(kSettingsKey, kConfigFileValue), app_.ConfigFile);
-}
+// Where the default file is, by what stands where; "D:" is a drive that comes and goes.
+TEST_F(Config, TheDefaultFileIsTheFirstThatIsThereAndOnlyOneThatCanBeSavedIsRegistered) {
+  const std::wstring beside = L"C:\\Program Files\\Burrowmark\\default.bwmk";
+  const std::wstring data = scratch_.Registered(kShellFoldersKey, L"AppData") + L"\\Kestrelan\\Burrowmark";
+  const std::wstring own = data + L"\\default.bwmk";
+  const std::wstring mine = L"D:\\mine.bwmk";
+  const auto expect = [&](const std::wstring& path, const std::wstring& source, bool registers) {
+    const DefaultFile file = FindDefaultFile(app_);
+    EXPECT_EQ(file.path, path);
+    EXPECT_EQ(file.source, source);
+    EXPECT_EQ(file.registers, registers);
+  };
+  machine_.AddFolders(app_.AppPath);
+  expect(beside, {}, false);
+  machine_.faults.FoldersWithoutNewFiles.insert(UpperCaseText(app_.AppPath));
+  expect(own, {}, false);
+  EXPECT_FALSE(machine_.files.FolderExists(data));
+  machine_.AddFile(beside);
+  expect(own, beside, true);
+  app_.ConfigFile = own;
+  ASSERT_TRUE(ConfigFileWriteAs(app_, document_, own));  // makes the folder
+  expect(own, own, true);
+  machine_.faults.FoldersWithoutNewFiles.insert(UpperCaseText(data));
+  expect(own, own, false);
+  machine_.faults.Clear();
+  expect(beside, beside, true);
+  machine_.files.DeleteFileA(beside);
+  expect(own, own, true);  // a start that may write beside the program doesn't hide it
 
-TEST_F(Config, AnUnreadableFileIsKeptBesideUnderAFreeName) {
-  machine_.AddFile(kPath, "one");
-  EXPECT_TRUE(KeepUnreadableFile(app_, kPath));
-  machine_.AddFile(kPath, "two");
-  EXPECT_TRUE(KeepUnreadableFile(app_, kPath));
-  EXPECT_EQ(machine_.BytesOf(L"C:\\data\\tree (unreadable).bwmk"), "one");
-  EXPECT_EQ(machine_.BytesOf(L"C:\\data\\tree (unreadable) 2.bwmk"), "two");
-  EXPECT_FALSE(KeepUnreadableFile(app_, L"C:\\data\\none.bwmk"));
+  ASSERT_TRUE(machine_.drives.Add(L'D'));
+  machine_.AddFile(mine);
+  SaveConfigFileName(app_, mine);
+  expect(mine, mine, false);
+  ASSERT_TRUE(machine_.drives.Remove(L'D'));
+  expect(own, own, false);
+  machine_.files.DeleteFileA(own);
+  expect(mine, {}, false);  // the tree made meanwhile belongs to it
+  EXPECT_EQ(OwnPath(app_, L"c:" + UpperCaseText(own).substr(2)), own);
 }
 
 TEST_F(Config, WhateverTheBytesAReadEndsAndLeavesAStoreThatHoldsTogether) {

@@ -9,10 +9,7 @@ namespace {
 class DrawingContract : public ContractTest {
  protected:
   std::int32_t Width(std::int32_t dpi, const std::wstring& text) {
-    const DeviceContext context = drawing_.MenuMeasureContext(dpi);
-    std::int32_t width = 0;
-    for (const wchar_t c : text) width += drawing_.GetCharWidth32A(context, c);
-    return width;
+    return drawing_.GetTextExtentPoint32A(drawing_.MenuMeasureContext(dpi), text).width;
   }
 
   Drawing& drawing_ = platform_.drawing;
@@ -38,6 +35,11 @@ TEST_P(DrawingContract, EveryPrintedCharacterHasAWidthThatFollowsTheScale) {
   const std::wstring text = L"The quick brown fox jumps over the lazy dog";
   const double one = Width(96, text);
   for (const std::int32_t dpi : {120, 144, 192, 96}) EXPECT_NEAR(Width(dpi, text) / one, dpi / 96.0, 0.15) << dpi;
+  EXPECT_EQ(Width(kDesignDpi, L"A & B"), Width(kDesignDpi, L"A ") + Width(kDesignDpi, L"& B"));
+  const DeviceContext context = drawing_.MenuMeasureContext(192);
+  EXPECT_GT(drawing_.GetTextExtentPoint32A(context, L"a").height, 20);
+  EXPECT_EQ(drawing_.GetTextExtentPoint32A(context, L"\u4E2D").height,
+            drawing_.GetTextExtentPoint32A(context, L"").height);
 }
 
 TEST_P(DrawingContract, TheIconsLoadInEverySize) {

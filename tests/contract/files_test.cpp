@@ -85,6 +85,32 @@ TEST_P(FilesContract, OnlyAFileThatMayBeWrittenIsDeleted) {
   EXPECT_FALSE(files_.FileExists(In(L"file")));
 }
 
+TEST_P(FilesContract, AFileIsTheSameHoweverItIsSpelled) {
+  ASSERT_TRUE(system_->LinkFolder(In(L"link"), In(L"folder")));
+  ASSERT_TRUE(Make(In(L"folder\\in")) && Make(In(L"twin"), "file"));
+  const struct {
+    const wchar_t* one;
+    const wchar_t* other;
+    bool same;
+  } rows[] = {
+      {L"file", L"FILE", true},    {L"file", L"folder\\..\\File", true},       {L"folder\\in", L"link\\IN", true},
+      {L"file", L"twin", false},   {L"missing", L"folder\\..\\Missing", true}, {L"missing", L"gone", false},
+      {L"file", L"missing", false}};
+  for (const auto& row : rows) {
+    EXPECT_EQ(files_.IsSameFile(In(row.one), In(row.other)), row.same)
+        << ::testing::PrintToString(std::wstring(row.other));
+  }
+}
+
+TEST_P(FilesContract, AFileTellsWhenItWasWritten) {
+  const std::optional<LocalTime> written = files_.GetFileTime(In(L"file"));
+  ASSERT_TRUE(written);
+  const LocalTime now = platform_.clock.GetLocalTime();
+  EXPECT_NEAR(written->hour * 60 + written->minute, now.hour * 60 + now.minute, 1);
+  EXPECT_EQ(std::tie(written->year, written->month, written->day), std::tie(now.year, now.month, now.day));
+  EXPECT_FALSE(files_.GetFileTime(In(L"missing")));
+}
+
 TEST_P(FilesContract, AFileThatAnotherProgramHoldsIsLeftAlone) {
   ASSERT_TRUE(Make(In(L"held"), "held"));
   std::shared_ptr<void> hold = system_->HoldOpen(In(L"held"));

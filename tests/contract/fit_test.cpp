@@ -4,10 +4,10 @@
 #include <vector>
 
 #include "core/application.h"
+#include "core/progress.h"
 #include "organize/frm_organize.h"
 #include "platform/characters.h"
 #include "tests/contract/system_under_test.h"
-#include "core/progress.h"
 #include "ui/check_box.h"
 #include "ui/frame.h"
 
@@ -26,7 +26,7 @@ struct FormKind {
 std::vector<FormKind> FormKinds() {
   return {
       {"frmPause", [](Application& app) { return std::make_unique<frmPause>(app); }},
-      {"frmOrganize", [](Application& app) { return std::make_unique<frmOrganize>(app, OrganizeCalls()); }},
+      {"frmOrganize", [](Application& app) { return std::make_unique<frmOrganize>(app); }},
   };
 }
 
@@ -51,9 +51,7 @@ class NarrowForm final : public Form {
  public:
   explicit NarrowForm(WindowSystem& windows) : Form(windows, L"frmNarrow", Size{6000, 3000}) {}
 
-  Label lblFits{*this, L"lblFits", Box{150, 150, 3000, 255}, L"Short"};
   Label lblNarrow{*this, L"lblNarrow", Box{150, 450, 600, 255}, L"A text of many words in one line"};
-  Label lblWraps{*this, L"lblWraps", Box{150, 750, 2400, 1200}, L"A text of many words in some lines"};
   Frame fraFits{*this, L"fraFits", Box{150, 1950, 3000, 900}, L"&Frame"};
   CheckBox chkNarrow{fraFits, L"chkNarrow", Box{150, 300, 700, 255}, L"Check everything"};
   CommandButton cmdNarrow{*this, L"cmdNarrow", Box{3300, 1950, 600, 375}, L"Press here"};

@@ -3,7 +3,6 @@
 
 #include "platform/local/folded.h"
 #include "platform/local/machine.h"
-#include "tests/contract/local_screen.h"
 #include "tests/contract/system_under_test.h"
 
 namespace burrowmark {
@@ -43,7 +42,7 @@ class LocalSystem final : public SystemUnderTest {
  private:
   fs::path folder_ = fs::temp_directory_path() / UniqueName();
   LocalMachine machine_{folder_};
-  LocalScreen screen_{machine_};
+  ScreenUnderTest screen_{machine_};
 };
 
 }  // namespace

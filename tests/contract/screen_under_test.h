@@ -1,7 +1,9 @@
-// What stands on a system's screen, and a person in front of it.
+// What stands on a system's screen, and a user in front of it. One class with two sources, of which each build has one:
+// local_screen.cpp natively and win32_screen*.cpp in a Windows build.
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <utility>
 #include <vector>
@@ -13,99 +15,107 @@
 
 namespace burrowmark {
 
+class LocalMachine;
+class WindowSystem;
+
 class ScreenUnderTest {
  public:
-  virtual ~ScreenUnderTest() = default;
+  explicit ScreenUnderTest(LocalMachine& machine);  // the local one
+  explicit ScreenUnderTest(WindowSystem& windows);  // the real one
+  ~ScreenUnderTest();
+  ScreenUnderTest(const ScreenUnderTest&) = delete;
+  ScreenUnderTest& operator=(const ScreenUnderTest&) = delete;
 
-  virtual bool Exists(WindowHandle window) = 0;
-  virtual std::wstring TextOf(WindowHandle window) = 0;
-  virtual bool IsShown(WindowHandle window) = 0;
-  virtual bool IsEnabled(WindowHandle window) = 0;
-  virtual bool HasFocus(WindowHandle control) = 0;
-  virtual bool IsActive(WindowHandle form) = 0;
-  virtual bool IsTopMost(WindowHandle form) = 0;
-  virtual WindowHandle OwnerOf(WindowHandle form) = 0;
+  bool Exists(WindowHandle window);
+  std::wstring TextOf(WindowHandle window);
+  bool IsShown(WindowHandle window);
+  bool IsEnabled(WindowHandle window);
+  bool HasFocus(WindowHandle control);
+  bool IsActive(WindowHandle form);
+  bool IsTopMost(WindowHandle form);
+  WindowHandle OwnerOf(WindowHandle form);
   // Drawn as the button that Enter presses.
-  virtual bool IsDefault(WindowHandle button) = 0;
+  bool IsDefault(WindowHandle button);
   // Pixels within the form's client area.
-  virtual Rect PlaceOf(WindowHandle form, WindowHandle control) = 0;
-  virtual Size ClientOf(WindowHandle form) = 0;
+  Rect PlaceOf(WindowHandle control);
+  Size ClientOf(WindowHandle form);
 
-  // All of these end when the program has handled them.
-  virtual void Click(WindowHandle form, WindowHandle button) = 0;
-  virtual void Press(WindowHandle form, std::int32_t keyCode, std::int32_t shift = 0) = 0;
-  virtual void PressAlt(WindowHandle form, wchar_t character) = 0;
-  virtual void Close(WindowHandle form) = 0;
-  virtual void Resize(WindowHandle form, std::int32_t width, std::int32_t height) = 0;
-  virtual void ChangeScale(WindowHandle form, std::int32_t dpi) = 0;
-
+  // Gestures end when the program has handled them.
+  void Click(WindowHandle control);
+  // A button over the form where no control is, in twips; and the system takes the mouse away meanwhile.
+  void Mouse(WindowHandle form, MouseAction action, const MouseEvent& event);
+  void LoseMouse(WindowHandle form);
+  void Press(WindowHandle form, std::int32_t keyCode, std::int32_t shift = 0);
+  void PressAlt(WindowHandle form, wchar_t character);
   // Types a text where the focus is.
-  virtual void Type(WindowHandle form, const std::wstring& text) = 0;
+  void Type(WindowHandle form, const std::wstring& text);
+  void Close(WindowHandle form);
+  void Resize(WindowHandle form, std::int32_t width, std::int32_t height);
+  void ChangeScale(WindowHandle form, std::int32_t dpi);
+
   // What is selected in a text box, from the first character to the one behind the last.
-  virtual std::pair<std::int32_t, std::int32_t> SelectedIn(WindowHandle box) = 0;
+  std::pair<std::int32_t, std::int32_t> SelectedIn(WindowHandle box);
+  // 1 for a check box or an option that is on, 2 for a grey one.
+  std::int32_t CheckOf(WindowHandle box);
+  std::int32_t TabOf(WindowHandle strip);
+  // Takes an entry of a combo box or a tab of a strip with the mouse; both count from 0.
+  void ChooseEntry(WindowHandle combo, std::int32_t index);
+  void ChooseTab(WindowHandle strip, std::int32_t index);
+
   // Menus: titles on the way from the bar on, without ampersands. Texts are as LookOf has them.
   using Titles = std::vector<std::wstring>;
-  virtual Titles MenuTexts(WindowHandle form, const Titles& path) = 0;
+  Titles MenuTexts(WindowHandle form, const Titles& path);
   // False if there is no such entry, or it can't be chosen.
-  virtual bool ChooseMenu(WindowHandle form, const Titles& path) = 0;
+  bool ChooseMenu(WindowHandle form, const Titles& path);
   // Alt and a character, and Esc when the menu is open.
-  virtual void OpenMenuByLetter(WindowHandle form, wchar_t character) = 0;
+  void OpenMenuByLetter(WindowHandle form, wchar_t character);
   // Those that aren't the system's own.
-  virtual Titles SystemMenuTexts(WindowHandle form) = 0;
-  virtual void ChooseSystemMenu(WindowHandle form, const std::wstring& text) = 0;
+  Titles SystemMenuTexts(WindowHandle form);
+  void ChooseSystemMenu(WindowHandle form, const std::wstring& text);
   // What is chosen in the next menu that pops up, none for Esc; what shows of it goes into `seen`, the one drawn bold
   // with an asterisk in front.
-  virtual void NextPopup(const std::wstring& title, Titles& seen) = 0;
+  void NextPopup(const std::wstring& title, Titles& seen);
 
   // Bars. A disabled button has " (disabled)" behind its text.
-  virtual Titles ButtonTexts(WindowHandle toolbar) = 0;
-  virtual void ClickButton(WindowHandle form, WindowHandle toolbar, std::size_t button) = 0;
-  virtual void ChooseButtonMenu(WindowHandle form, WindowHandle toolbar, std::size_t button,
-                                const std::wstring& text) = 0;
-  virtual Titles PanelTexts(WindowHandle form, WindowHandle statusBar) = 0;
+  Titles ButtonTexts(WindowHandle toolbar);
+  void ClickButton(WindowHandle toolbar, std::size_t button);
+  void ChooseButtonMenu(WindowHandle toolbar, std::size_t button, const std::wstring& text);
+  Titles PanelTexts(WindowHandle statusBar);
   // What is typed into the next file dialog of that title; nothing cancels it.
-  virtual void NextFile(const std::wstring& title, const std::wstring& path) = 0;
+  void NextFile(const std::wstring& title, const std::wstring& path);
 
-  // 1 for a check box or an option that is on, 2 for a grey one.
-  virtual std::int32_t CheckOf(WindowHandle box) = 0;
-  virtual std::int32_t EntryCountOf(WindowHandle combo) = 0;
-  // Takes an entry of a combo box or a tab of a strip with the mouse; both count from 0.
-  virtual void ChooseEntry(WindowHandle form, WindowHandle combo, std::int32_t index) = 0;
-  virtual void ChooseTab(WindowHandle form, WindowHandle strip, std::int32_t index) = 0;
-  virtual std::int32_t TabOf(WindowHandle strip) = 0;
   // Lists: rows and columns count from 0, and row -1 is the empty space below them.
-  virtual void ClickRow(WindowHandle form, WindowHandle list, std::int32_t row, std::int32_t button = kLeftButton,
-                        std::int32_t shift = 0) = 0;
-  virtual void DoubleClickRow(WindowHandle form, WindowHandle list, std::int32_t row) = 0;
-  virtual void CheckRow(WindowHandle form, WindowHandle list, std::int32_t row) = 0;
-  virtual void ClickColumn(WindowHandle form, WindowHandle list, std::int32_t column) = 0;
+  void ClickRow(WindowHandle list, std::int32_t row, std::int32_t button = kLeftButton, std::int32_t shift = 0);
+  void DoubleClickRow(WindowHandle list, std::int32_t row);
+  void CheckRow(WindowHandle list, std::int32_t row);
+  void ClickColumn(WindowHandle list, std::int32_t column);
   // The right edge of a column's header, to a width in twips.
-  virtual void DragColumn(WindowHandle form, WindowHandle list, std::int32_t column, std::int32_t width) = 0;
+  void DragColumn(WindowHandle list, std::int32_t column, std::int32_t width);
   // "+" behind a selected row, "*" behind the current one, "~" behind a ghost, "v" behind a checked one and "<" behind
   // the one to drop on.
-  virtual std::wstring RowsOf(WindowHandle list) = 0;
-  virtual std::wstring CellOf(WindowHandle list, std::int32_t row, std::int32_t column) = 0;
-  virtual std::int32_t ColumnWidth(WindowHandle list, std::int32_t column) = 0;  // pixels
-  virtual std::wstring ColumnText(WindowHandle list, std::int32_t column) = 0;
-  // In twips, somewhere in the row's text.
-  virtual MouseEvent PointOfRow(WindowHandle form, WindowHandle list, std::int32_t row) = 0;
+  std::wstring RowsOf(WindowHandle list);
+  std::wstring CellOf(WindowHandle list, std::int32_t row, std::int32_t column);
+  // The texts of the columns with their widths in pixels, as L"Name:100 Type:50".
+  std::wstring ColumnsOf(WindowHandle list);
   // Trees: a node is the first visible one with that text; no text is the empty space below all.
-  virtual void ClickNode(WindowHandle form, WindowHandle tree, const std::wstring& text,
-                         std::int32_t button = kLeftButton) = 0;
-  virtual void DoubleClickNode(WindowHandle form, WindowHandle tree, const std::wstring& text) = 0;
-  virtual void CheckNode(WindowHandle form, WindowHandle tree, const std::wstring& text) = 0;
-  virtual void ToggleNode(WindowHandle form, WindowHandle tree, const std::wstring& text) = 0;
+  void ClickNode(WindowHandle tree, const std::wstring& text, std::int32_t button = kLeftButton);
+  void DoubleClickNode(WindowHandle tree, const std::wstring& text);
+  void CheckNode(WindowHandle tree, const std::wstring& text);
+  void ToggleNode(WindowHandle tree, const std::wstring& text);
   // The visible nodes with a "." for each level, marked as rows are.
-  virtual std::wstring NodesOf(WindowHandle tree) = 0;
-  virtual MouseEvent PointOfNode(WindowHandle form, WindowHandle tree, const std::wstring& text) = 0;
-  // Of lists and trees.
-  virtual bool EditsLabel(WindowHandle control) = 0;
-  virtual void TypeLabel(WindowHandle form, WindowHandle control, const std::wstring& text) = 0;
+  std::wstring NodesOf(WindowHandle tree);
+  // Of lists and trees. A label's text is typed over the one that is there.
+  bool EditsLabel(WindowHandle control);
+  void TypeLabel(WindowHandle control, const std::wstring& text);
 
   // Runs when a modal window of that caption is up; it must go meanwhile.
-  virtual void NextWindow(const std::wstring& caption, std::function<void()> script) = 0;
+  void NextWindow(const std::wstring& caption, std::function<void()> script);
   // Everything that wasn't as expected.
-  virtual std::string Complaints() = 0;
+  std::string Complaints();
+
+ private:
+  struct Side;
+  std::unique_ptr<Side> side_;
 };
 
 }  // namespace burrowmark

@@ -1,5 +1,4 @@
 // How toolbars and status bars stand on the real system: of no concern to any other system.
-#ifdef _WIN32
 #include <gtest/gtest.h>
 #include <windows.h>
 
@@ -34,9 +33,6 @@ class Win32Bars : public ::testing::Test {
     ::SendMessageW(ToHwnd(status_.Window()), SB_GETPARTS, edges.size(), reinterpret_cast<LPARAM>(edges.data()));
     return edges;
   }
-  HIMAGELIST ListOf(UINT message) const {
-    return reinterpret_cast<HIMAGELIST>(::SendMessageW(ToHwnd(bar_.Window()), message, 0, 0));
-  }
 
   Win32Platform system_;
   Platform platform_ = system_.platform();
@@ -55,34 +51,23 @@ TEST_F(Win32Bars, OnePanelTakesWhatTheOthersLeave) {
 }
 
 TEST_F(Win32Bars, ImagesHaveTheSizeOfTheScaleAndTheirOwnPlaces) {
-  for (const std::int32_t size : {16, 32}) {
-    bar_.SetImages({size, {kNoSuchIcon, 2}}, {size, {3, 4}});
-    for (const std::int32_t dpi : {120, 192, 96}) {
-      RECT rect = {};
-      ::GetWindowRect(ToHwnd(form_.Window()), &rect);
-      ::SendMessageW(ToHwnd(form_.Window()), WM_DPICHANGED, MAKEWPARAM(dpi, dpi), reinterpret_cast<LPARAM>(&rect));
-      for (const UINT message : {TB_GETIMAGELIST, TB_GETDISABLEDIMAGELIST}) {
-        int width = 0;
-        int height = 0;
-        ::ImageList_GetIconSize(ListOf(message), &width, &height);
-        EXPECT_EQ(width, size * dpi / 96);
-        EXPECT_EQ(height, width);
-        EXPECT_EQ(::ImageList_GetImageCount(ListOf(message)), 3);  // an empty one ahead of them
-      }
-    }
+  bar_.SetImages({16, {kNoSuchIcon, 2}}, {16, {3, 4}});
+  RECT rect = {};
+  ::GetWindowRect(ToHwnd(form_.Window()), &rect);
+  ::SendMessageW(ToHwnd(form_.Window()), WM_DPICHANGED, MAKEWPARAM(192, 192), reinterpret_cast<LPARAM>(&rect));
+  for (const UINT message : {TB_GETIMAGELIST, TB_GETDISABLEDIMAGELIST}) {
+    const auto list = reinterpret_cast<HIMAGELIST>(::SendMessageW(ToHwnd(bar_.Window()), message, 0, 0));
+    int width = 0;
+    int height = 0;
+    ::ImageList_GetIconSize(list, &width, &height);
+    EXPECT_EQ((Size{width, height}), (Size{32, 32}));
+    EXPECT_EQ(::ImageList_GetImageCount(list), 3) << "an empty one ahead of them";
   }
 }
 
 TEST_F(Win32Bars, ATipIsAskedForAndCut) {
   wchar_t text[6] = {};
-  NMTBGETINFOTIPW tip = {};
-  tip.hdr = {ToHwnd(bar_.Window()), 0, static_cast<UINT>(TBN_GETINFOTIPW)};
-  tip.pszText = text;
-  tip.cchTextMax = 6;
-  tip.iItem = 2;
-  ::SendMessageW(ToHwnd(form_.Window()), WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&tip));
-  EXPECT_EQ(std::wstring(text), L"The s");
-  tip.iItem = 77;
+  NMTBGETINFOTIPW tip = {{ToHwnd(bar_.Window()), 0, static_cast<UINT>(TBN_GETINFOTIPW)}, text, 6, 2, 0};
   ::SendMessageW(ToHwnd(form_.Window()), WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&tip));
   EXPECT_EQ(std::wstring(text), L"The s");
 }
@@ -101,4 +86,3 @@ TEST_F(Win32Bars, AFormMayGoWhileTheMenuOfAButtonIsOpen) {
 
 }  // namespace
 }  // namespace burrowmark
-#endif

@@ -1,9 +1,5 @@
 #include "tests/contract/win32_screen.h"
 
-#ifdef _WIN32
-
-#include <windows.h>
-
 #include <commctrl.h>
 #include <dlgs.h>
 
@@ -13,8 +9,6 @@
 #include "platform/local/menu_text.h"
 #include "platform/ui_bar_peers.h"
 #include "platform/win32/form_window.h"
-#include "platform/win32/handles.h"
-#include "tests/contract/held_modifiers.h"
 
 namespace burrowmark {
 namespace {
@@ -40,12 +34,12 @@ struct NativeEntry {
 };
 
 NativeEntry EntryAt(HMENU menu, int position) {
-  wchar_t text[256] = {};
+  wchar_t text[kTextLength] = {};
   MENUITEMINFOW info = {};
   info.cbSize = sizeof(info);
   info.fMask = MIIM_FTYPE | MIIM_STATE | MIIM_STRING;
   info.dwTypeData = text;
-  info.cch = 256;
+  info.cch = kTextLength;
   ::GetMenuItemInfoW(menu, static_cast<UINT>(position), TRUE, &info);
   if ((info.fType & MFT_SEPARATOR) != 0) return {kMenuLine, kMenuLine, true};
   NativeEntry entry{WithoutPrefixes(text), WithoutPrefixes(text)};
@@ -91,160 +85,185 @@ WindowHandle PopupWindow() {
 
 void PressInMenu(HWND popup, int key) { ::PostMessageW(popup, WM_KEYDOWN, static_cast<WPARAM>(key), 1); }
 
-void ClickAt(HWND window, const POINT& point) {
-  ::PostMessageW(window, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(point.x, point.y));
-  ::PostMessageW(window, WM_LBUTTONUP, 0, MAKELPARAM(point.x, point.y));
-}
-
 }  // namespace
 
-bool Win32Screen::Exists(WindowHandle window) { return ::IsWindow(ToHwnd(window)) != FALSE; }
+ScreenUnderTest::ScreenUnderTest(WindowSystem& windows) : side_(new Side{windows}) {}
+ScreenUnderTest::~ScreenUnderTest() = default;
 
-std::wstring Win32Screen::TextOf(WindowHandle window) {
-  wchar_t text[256] = {};
-  const int length = ::GetWindowTextW(ToHwnd(window), text, 256);
+void ScreenUnderTest::Side::WhenThere(const std::function<WindowHandle()>& find,
+                                      const std::function<void(WindowHandle)>& script) {
+  ++waiting;
+  Look(find, script, kTries);
+}
+
+void ScreenUnderTest::Side::Look(const std::function<WindowHandle()>& find,
+                                 const std::function<void(WindowHandle)>& script, int tries) {
+  windows.PostLater(kPause, [this, find, script, tries] {
+    const WindowHandle window = find();
+    if (window == 0) {
+      if (tries > 0) Look(find, script, tries - 1);
+      return;
+    }
+    --waiting;
+    script(window);
+  });
+}
+
+void ScreenUnderTest::Side::PressAt(HWND window, const POINT& at, std::int32_t button, std::int32_t shift) {
+  const HeldModifiers held(shift);
+  const bool left = button == kLeftButton;
+  const WPARAM keys = ((shift & kShiftMask) != 0 ? MK_SHIFT : 0U) | ((shift & kCtrlMask) != 0 ? MK_CONTROL : 0U);
+  PostMouse(window, left ? WM_LBUTTONDOWN : WM_RBUTTONDOWN, at, keys | (left ? MK_LBUTTON : MK_RBUTTON));
+  PostMouse(window, left ? WM_LBUTTONUP : WM_RBUTTONUP, at, keys);
+  windows.DoEvents();
+}
+
+void ScreenUnderTest::Side::PressTwiceAt(HWND window, const POINT& at) {
+  PressAt(window, at);
+  PostMouse(window, WM_LBUTTONDBLCLK, at, MK_LBUTTON);
+  PostMouse(window, WM_LBUTTONUP, at, 0);
+  windows.DoEvents();
+}
+
+bool ScreenUnderTest::Exists(WindowHandle window) { return ::IsWindow(ToHwnd(window)) != FALSE; }
+
+std::wstring ScreenUnderTest::TextOf(WindowHandle window) {
+  wchar_t text[kTextLength] = {};
+  const int length = ::GetWindowTextW(ToHwnd(window), text, kTextLength);
   return {text, static_cast<std::size_t>(length)};
 }
 
-bool Win32Screen::IsShown(WindowHandle window) {
+bool ScreenUnderTest::IsShown(WindowHandle window) {
   return (::GetWindowLongPtrW(ToHwnd(window), GWL_STYLE) & WS_VISIBLE) != 0;
 }
 
-bool Win32Screen::IsEnabled(WindowHandle window) { return ::IsWindowEnabled(ToHwnd(window)) != FALSE; }
+bool ScreenUnderTest::IsEnabled(WindowHandle window) { return ::IsWindowEnabled(ToHwnd(window)) != FALSE; }
 
-bool Win32Screen::HasFocus(WindowHandle control) { return control != 0 && ::GetFocus() == ToHwnd(control); }
+bool ScreenUnderTest::HasFocus(WindowHandle control) { return control != 0 && ::GetFocus() == ToHwnd(control); }
 
-bool Win32Screen::IsActive(WindowHandle form) { return form != 0 && ::GetActiveWindow() == ToHwnd(form); }
+bool ScreenUnderTest::IsActive(WindowHandle form) { return form != 0 && ::GetActiveWindow() == ToHwnd(form); }
 
-bool Win32Screen::IsTopMost(WindowHandle form) {
+bool ScreenUnderTest::IsTopMost(WindowHandle form) {
   return (::GetWindowLongPtrW(ToHwnd(form), GWL_EXSTYLE) & WS_EX_TOPMOST) != 0;
 }
 
-WindowHandle Win32Screen::OwnerOf(WindowHandle form) { return FromHwnd(::GetWindow(ToHwnd(form), GW_OWNER)); }
+WindowHandle ScreenUnderTest::OwnerOf(WindowHandle form) { return FromHwnd(::GetWindow(ToHwnd(form), GW_OWNER)); }
 
-bool Win32Screen::IsDefault(WindowHandle button) {
-  return (::SendMessageW(ToHwnd(button), WM_GETDLGCODE, 0, 0) & DLGC_DEFPUSHBUTTON) != 0;
-}
+bool ScreenUnderTest::IsDefault(WindowHandle button) { return (Send(button, WM_GETDLGCODE) & DLGC_DEFPUSHBUTTON) != 0; }
 
-Rect Win32Screen::PlaceOf(WindowHandle form, WindowHandle control) {
+Rect ScreenUnderTest::PlaceOf(WindowHandle control) {
   RECT rect = {};
   ::GetWindowRect(ToHwnd(control), &rect);
-  ::MapWindowPoints(nullptr, ToHwnd(form), reinterpret_cast<POINT*>(&rect), 2);
+  ::MapWindowPoints(nullptr, ::GetAncestor(ToHwnd(control), GA_ROOT), reinterpret_cast<POINT*>(&rect), 2);
   return FromRECT(rect);
 }
 
-Size Win32Screen::ClientOf(WindowHandle form) {
+Size ScreenUnderTest::ClientOf(WindowHandle form) {
   RECT rect = {};
   ::GetClientRect(ToHwnd(form), &rect);
   return {rect.right, rect.bottom};
 }
 
-void Win32Screen::Click(WindowHandle, WindowHandle button) {
-  ClickAt(ToHwnd(button), {2, 2});
-  windows_.DoEvents();
+void ScreenUnderTest::Click(WindowHandle control) { side_->PressAt(ToHwnd(control), {2, 2}); }
+
+void ScreenUnderTest::Mouse(WindowHandle form, MouseAction action, const MouseEvent& event) {
+  const UINT messages[] = {WM_LBUTTONDOWN, WM_MOUSEMOVE, WM_LBUTTONUP};
+  const std::size_t which = action == MouseAction::kDown ? 0 : action == MouseAction::kMove ? 1 : 2;
+  const LPARAM place = MAKELPARAM(ToPixels(event.x, kDesignDpi), ToPixels(event.y, kDesignDpi));
+  ::PostMessageW(ToHwnd(form), messages[which], 0, place);
+  side_->windows.DoEvents();
 }
 
-void Win32Screen::Press(WindowHandle form, std::int32_t keyCode, std::int32_t shift) {
+void ScreenUnderTest::LoseMouse(WindowHandle) {
+  ::ReleaseCapture();
+  side_->windows.DoEvents();
+}
+
+void ScreenUnderTest::Press(WindowHandle form, std::int32_t keyCode, std::int32_t shift) {
   const HeldModifiers held(shift);
   const HWND target = KeyTarget(ToHwnd(form));
   ::PostMessageW(target, keyCode == kKeyCodeF10 ? WM_SYSKEYDOWN : WM_KEYDOWN, static_cast<WPARAM>(keyCode), 1);
   ::PostMessageW(target, WM_KEYUP, static_cast<WPARAM>(keyCode), 1);
   // The system makes this one itself of what comes from a keyboard.
   if (keyCode == kKeyCodeApps) ::PostMessageW(target, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(target), -1);
-  windows_.DoEvents();
+  side_->windows.DoEvents();
 }
 
-void Win32Screen::PressAlt(WindowHandle form, wchar_t character) {
+void ScreenUnderTest::PressAlt(WindowHandle form, wchar_t character) {
   ::PostMessageW(KeyTarget(ToHwnd(form)), WM_SYSCHAR, character, kWithAlt);
-  windows_.DoEvents();
+  side_->windows.DoEvents();
 }
 
-void Win32Screen::Close(WindowHandle form) {
+void ScreenUnderTest::Close(WindowHandle form) {
   ::PostMessageW(ToHwnd(form), WM_SYSCOMMAND, SC_CLOSE, 0);
-  windows_.DoEvents();
+  side_->windows.DoEvents();
 }
 
-void Win32Screen::Resize(WindowHandle form, std::int32_t width, std::int32_t height) {
+void ScreenUnderTest::Resize(WindowHandle form, std::int32_t width, std::int32_t height) {
   ::SetWindowPos(ToHwnd(form), nullptr, 0, 0, width, height, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
-  windows_.DoEvents();
+  side_->windows.DoEvents();
 }
 
-void Win32Screen::ChangeScale(WindowHandle form, std::int32_t dpi) {
-  scales_[form] = dpi;
+void ScreenUnderTest::ChangeScale(WindowHandle form, std::int32_t dpi) {
   RECT rect = {};
   ::GetWindowRect(ToHwnd(form), &rect);
   ::SendMessageW(ToHwnd(form), WM_DPICHANGED, MAKEWPARAM(dpi, dpi), reinterpret_cast<LPARAM>(&rect));
-  windows_.DoEvents();
+  side_->windows.DoEvents();
 }
 
-void Win32Screen::Type(WindowHandle form, const std::wstring& text) {
+void ScreenUnderTest::Type(WindowHandle form, const std::wstring& text) {
   for (const wchar_t character : text) ::PostMessageW(KeyTarget(ToHwnd(form)), WM_CHAR, character, 1);
-  windows_.DoEvents();
+  side_->windows.DoEvents();
 }
 
-std::pair<std::int32_t, std::int32_t> Win32Screen::SelectedIn(WindowHandle box) {
+std::pair<std::int32_t, std::int32_t> ScreenUnderTest::SelectedIn(WindowHandle box) {
   DWORD start = 0;
   DWORD end = 0;
-  ::SendMessageW(ToHwnd(box), EM_GETSEL, reinterpret_cast<WPARAM>(&start), reinterpret_cast<LPARAM>(&end));
+  Send(box, EM_GETSEL, reinterpret_cast<WPARAM>(&start), &end);
   return {static_cast<std::int32_t>(start), static_cast<std::int32_t>(end)};
 }
 
-std::int32_t Win32Screen::CheckOf(WindowHandle box) {
-  return static_cast<std::int32_t>(::SendMessageW(ToHwnd(box), BM_GETCHECK, 0, 0));
-}
+std::int32_t ScreenUnderTest::CheckOf(WindowHandle box) { return static_cast<std::int32_t>(Send(box, BM_GETCHECK)); }
 
-std::int32_t Win32Screen::EntryCountOf(WindowHandle combo) {
-  return static_cast<std::int32_t>(::SendMessageW(ToHwnd(combo), CB_GETCOUNT, 0, 0));
-}
-
-void Win32Screen::ChooseEntry(WindowHandle, WindowHandle combo, std::int32_t index) {
-  ClickAt(ToHwnd(combo), {2, 2});
-  windows_.DoEvents();
+void ScreenUnderTest::ChooseEntry(WindowHandle combo, std::int32_t index) {
+  Click(combo);
   COMBOBOXINFO info = {};
   info.cbSize = sizeof(info);
   ::GetComboBoxInfo(ToHwnd(combo), &info);
-  RECT entry = {};
-  ::SendMessageW(info.hwndList, LB_GETITEMRECT, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&entry));
-  ClickAt(info.hwndList, {(entry.left + entry.right) / 2, (entry.top + entry.bottom) / 2});
-  windows_.DoEvents();
+  side_->PressAt(info.hwndList, MiddleOf(PartOf(FromHwnd(info.hwndList), LB_GETITEMRECT, index)));
 }
 
-void Win32Screen::ChooseTab(WindowHandle, WindowHandle strip, std::int32_t index) {
-  RECT tab = {};
-  ::SendMessageW(ToHwnd(strip), TCM_GETITEMRECT, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&tab));
-  ClickAt(ToHwnd(strip), {(tab.left + tab.right) / 2, (tab.top + tab.bottom) / 2});
-  windows_.DoEvents();
+void ScreenUnderTest::ChooseTab(WindowHandle strip, std::int32_t index) {
+  side_->PressAt(ToHwnd(strip), MiddleOf(PartOf(strip, TCM_GETITEMRECT, index)));
 }
 
-std::int32_t Win32Screen::TabOf(WindowHandle strip) {
-  return static_cast<std::int32_t>(::SendMessageW(ToHwnd(strip), TCM_GETCURSEL, 0, 0));
+std::int32_t ScreenUnderTest::TabOf(WindowHandle strip) {
+  return static_cast<std::int32_t>(Send(strip, TCM_GETCURSEL));
 }
 
 // --- menus and bars
 
-Win32Screen::Titles Win32Screen::MenuTexts(WindowHandle form, const Titles& path) {
+ScreenUnderTest::Titles ScreenUnderTest::MenuTexts(WindowHandle form, const Titles& path) {
   Titles texts;
   for (const NativeEntry& entry : EntriesOf(OpenMenus(ToHwnd(form), path))) texts.push_back(entry.look);
   return texts;
 }
 
-bool Win32Screen::ChooseMenu(WindowHandle form, const Titles& path) {
+bool ScreenUnderTest::ChooseMenu(WindowHandle form, const Titles& path) {
   const HMENU menu = OpenMenus(ToHwnd(form), Titles(path.begin(), path.end() - 1));
   const int position = PositionOf(menu, path.back());
   if (position < 0) return false;
   ::PostMessageW(ToHwnd(form), WM_COMMAND, ::GetMenuItemID(menu, position), 0);
-  windows_.DoEvents();
+  side_->windows.DoEvents();
   return true;
 }
 
-void Win32Screen::OpenMenuByLetter(WindowHandle form, wchar_t character) {
-  ++waiting_;
-  WhenThereIs(
-      PopupWindow, [](WindowHandle) { ::EndMenu(); }, kTries);
+void ScreenUnderTest::OpenMenuByLetter(WindowHandle form, wchar_t character) {
+  side_->WhenThere(PopupWindow, [](WindowHandle) { ::EndMenu(); });
   PressAlt(form, character);
 }
 
-Win32Screen::Titles Win32Screen::SystemMenuTexts(WindowHandle form) {
+ScreenUnderTest::Titles ScreenUnderTest::SystemMenuTexts(WindowHandle form) {
   constexpr UINT kFirstOfSystem = 0xF000;
   const HMENU menu = ::GetSystemMenu(ToHwnd(form), FALSE);
   Titles texts;
@@ -254,13 +273,13 @@ Win32Screen::Titles Win32Screen::SystemMenuTexts(WindowHandle form) {
   return texts;
 }
 
-void Win32Screen::ChooseSystemMenu(WindowHandle form, const std::wstring& text) {
+void ScreenUnderTest::ChooseSystemMenu(WindowHandle form, const std::wstring& text) {
   const HMENU menu = ::GetSystemMenu(ToHwnd(form), FALSE);
   ::PostMessageW(ToHwnd(form), WM_SYSCOMMAND, ::GetMenuItemID(menu, PositionOf(menu, text)), 0);
-  windows_.DoEvents();
+  side_->windows.DoEvents();
 }
 
-void Win32Screen::NextPopup(const std::wstring& title, Titles& seen) {
+void ScreenUnderTest::NextPopup(const std::wstring& title, Titles& seen) {
   const auto script = [title, &seen](WindowHandle popup) {
     constexpr UINT kGetMenu = 0x01E1;  // MN_GETHMENU
     const auto menu = reinterpret_cast<HMENU>(::SendMessageW(ToHwnd(popup), kGetMenu, 0, 0));
@@ -273,53 +292,45 @@ void Win32Screen::NextPopup(const std::wstring& title, Titles& seen) {
     }
     PressInMenu(ToHwnd(popup), title.empty() ? VK_ESCAPE : VK_RETURN);
   };
-  ++waiting_;
-  WhenThereIs(PopupWindow, script, kTries);
+  side_->WhenThere(PopupWindow, script);
 }
 
-Win32Screen::Titles Win32Screen::ButtonTexts(WindowHandle toolbar) {
-  const HWND bar = ToHwnd(toolbar);
+ScreenUnderTest::Titles ScreenUnderTest::ButtonTexts(WindowHandle toolbar) {
   Titles texts;
-  for (LRESULT i = 0; i < ::SendMessageW(bar, TB_BUTTONCOUNT, 0, 0); ++i) {
-    TBBUTTON button = {};
-    ::SendMessageW(bar, TB_GETBUTTON, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(&button));
-    wchar_t text[256] = {};
-    ::SendMessageW(bar, TB_GETBUTTONTEXTW, static_cast<WPARAM>(button.idCommand), reinterpret_cast<LPARAM>(text));
+  TBBUTTON button = {};
+  for (WPARAM i = 0; Send(toolbar, TB_GETBUTTON, i, &button) != FALSE; ++i) {
+    wchar_t text[kTextLength] = {};
+    Send(toolbar, TB_GETBUTTONTEXTW, static_cast<WPARAM>(button.idCommand), text);
     texts.emplace_back(text);
     if ((button.fsState & TBSTATE_ENABLED) == 0) texts.back() += L" (disabled)";
   }
   return texts;
 }
 
-void Win32Screen::ClickButton(WindowHandle, WindowHandle toolbar, std::size_t button) {
-  RECT rect = {};
-  ::SendMessageW(ToHwnd(toolbar), TB_GETITEMRECT, button, reinterpret_cast<LPARAM>(&rect));
-  const LPARAM point = MAKELPARAM(rect.left + 4, (rect.top + rect.bottom) / 2);
-  ::PostMessageW(ToHwnd(toolbar), WM_LBUTTONDOWN, MK_LBUTTON, point);
-  ::PostMessageW(ToHwnd(toolbar), WM_LBUTTONUP, 0, point);
-  windows_.DoEvents();
+void ScreenUnderTest::ClickButton(WindowHandle toolbar, std::size_t button) {
+  const RECT rect = PartOf(toolbar, TB_GETITEMRECT, static_cast<std::int32_t>(button));
+  side_->PressAt(ToHwnd(toolbar), {rect.left + 4, MiddleOf(rect).y});
 }
 
-void Win32Screen::ChooseButtonMenu(WindowHandle, WindowHandle toolbar, std::size_t button, const std::wstring& text) {
+void ScreenUnderTest::ChooseButtonMenu(WindowHandle toolbar, std::size_t button, const std::wstring& text) {
   Titles seen;
   NextPopup(text, seen);
-  RECT rect = {};
-  ::SendMessageW(ToHwnd(toolbar), TB_GETITEMRECT, button, reinterpret_cast<LPARAM>(&rect));
-  ::PostMessageW(ToHwnd(toolbar), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(rect.right - 4, rect.bottom / 2));
-  windows_.DoEvents();
+  const RECT rect = PartOf(toolbar, TB_GETITEMRECT, static_cast<std::int32_t>(button));
+  PostMouse(ToHwnd(toolbar), WM_LBUTTONDOWN, {rect.right - 4, MiddleOf(rect).y}, MK_LBUTTON);
+  side_->windows.DoEvents();
 }
 
-Win32Screen::Titles Win32Screen::PanelTexts(WindowHandle, WindowHandle statusBar) {
-  Titles texts;
-  for (LRESULT i = 0; i < ::SendMessageW(ToHwnd(statusBar), SB_GETPARTS, 0, 0); ++i) {
-    wchar_t text[256] = {};
-    ::SendMessageW(ToHwnd(statusBar), SB_GETTEXTW, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(text));
-    texts.emplace_back(text);
+ScreenUnderTest::Titles ScreenUnderTest::PanelTexts(WindowHandle statusBar) {
+  Titles texts(static_cast<std::size_t>(Send(statusBar, SB_GETPARTS)));
+  for (std::size_t i = 0; i < texts.size(); ++i) {
+    wchar_t text[kTextLength] = {};
+    Send(statusBar, SB_GETTEXTW, i, text);
+    texts[i] = text;
   }
   return texts;
 }
 
-void Win32Screen::NextFile(const std::wstring& title, const std::wstring& path) {
+void ScreenUnderTest::NextFile(const std::wstring& title, const std::wstring& path) {
   const auto find = [title] {
     const HWND dialog = ::FindWindowW(L"#32770", title.c_str());
     return dialog != nullptr && ::IsWindowVisible(dialog) != FALSE ? FromHwnd(dialog) : WindowHandle{0};
@@ -331,37 +342,20 @@ void Win32Screen::NextFile(const std::wstring& title, const std::wstring& path) 
     ::SendMessageW(name, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(path.c_str()));
     ::PostMessageW(dialog, WM_COMMAND, path.empty() ? IDCANCEL : IDOK, 0);
   };
-  ++waiting_;
-  WhenThereIs(find, script, kTries);
+  side_->WhenThere(find, script);
 }
 
-void Win32Screen::WhenThereIs(std::function<WindowHandle()> find, std::function<void(WindowHandle)> script, int tries) {
-  windows_.PostLater(kPause, [this, find = std::move(find), script = std::move(script), tries] {
-    const WindowHandle window = find();
-    if (window == 0) {
-      if (tries > 0) WhenThereIs(find, script, tries - 1);
-      return;
-    }
-    --waiting_;
-    script(window);
-  });
-}
-
-void Win32Screen::NextWindow(const std::wstring& caption, std::function<void()> script) {
-  ++waiting_;
+void ScreenUnderTest::NextWindow(const std::wstring& caption, std::function<void()> script) {
   const auto find = [caption] {
     const HWND window = ::FindWindowW(FormWindow::kClassName, caption.c_str());
     const bool ready = window != nullptr && ::IsWindowVisible(window) != FALSE && ::IsWindowEnabled(window) != FALSE;
     return ready ? FromHwnd(window) : WindowHandle{0};
   };
-  WhenThereIs(
-      find, [script = std::move(script)](WindowHandle) { script(); }, kTries);
+  side_->WhenThere(find, [script = std::move(script)](WindowHandle) { script(); });
 }
 
-std::string Win32Screen::Complaints() {
-  return waiting_ == 0 ? "" : "windows that never came: " + std::to_string(waiting_);
+std::string ScreenUnderTest::Complaints() {
+  return side_->waiting == 0 ? "" : "windows that never came: " + std::to_string(side_->waiting);
 }
 
 }  // namespace burrowmark
-
-#endif

@@ -1,45 +1,18 @@
 // Lists and trees on the screen of the real system.
 #include "tests/contract/win32_screen.h"
 
-#ifdef _WIN32
-
-#include <windows.h>
-
 #include <commctrl.h>
 
 #include <cstring>
 #include <functional>
 #include <stdexcept>
 
-#include "platform/key_codes.h"
-#include "platform/win32/handles.h"
-#include "tests/contract/held_modifiers.h"
-
 namespace burrowmark {
 namespace {
 
-constexpr int kTextLength = 256;
 constexpr LONG kInText = 5;
 
-LRESULT Send(WindowHandle window, UINT message, WPARAM wParam = 0, const void* record = nullptr) {
-  return ::SendMessageW(ToHwnd(window), message, wParam, reinterpret_cast<LPARAM>(record));
-}
-
-void PostMouse(HWND window, UINT message, const POINT& at, WPARAM held) {
-  ::PostMessageW(window, message, held, MAKELPARAM(at.x, at.y));
-}
-
-void PostPress(HWND window, const POINT& at, std::int32_t button, std::int32_t shift) {
-  const bool left = button == kLeftButton;
-  const WPARAM keys = ((shift & kShiftMask) != 0 ? MK_SHIFT : 0U) | ((shift & kCtrlMask) != 0 ? MK_CONTROL : 0U);
-  PostMouse(window, left ? WM_LBUTTONDOWN : WM_RBUTTONDOWN, at, keys | (left ? MK_LBUTTON : MK_RBUTTON));
-  PostMouse(window, left ? WM_LBUTTONUP : WM_RBUTTONUP, at, keys);
-}
-
-void PostSecondPress(HWND window, const POINT& at) {
-  PostMouse(window, WM_LBUTTONDBLCLK, at, MK_LBUTTON);
-  PostMouse(window, WM_LBUTTONUP, at, 0);
-}
+WindowHandle HeaderOf(WindowHandle list) { return FromHwnd(reinterpret_cast<HWND>(Send(list, LVM_GETHEADER))); }
 
 POINT EmptySpace(WindowHandle control) {
   RECT client = {};
@@ -136,52 +109,40 @@ HWND EditOf(WindowHandle control) {
 
 // --- lists
 
-void Win32Screen::ClickRow(WindowHandle, WindowHandle list, std::int32_t row, std::int32_t button, std::int32_t shift) {
-  const HeldModifiers held(shift);
-  PostPress(ToHwnd(list), InRow(list, row), button, shift);
-  windows_.DoEvents();
+void ScreenUnderTest::ClickRow(WindowHandle list, std::int32_t row, std::int32_t button, std::int32_t shift) {
+  side_->PressAt(ToHwnd(list), InRow(list, row), button, shift);
 }
 
-void Win32Screen::DoubleClickRow(WindowHandle, WindowHandle list, std::int32_t row) {
-  const POINT at = InRow(list, row);
-  PostPress(ToHwnd(list), at, kLeftButton, 0);
-  windows_.DoEvents();
-  PostSecondPress(ToHwnd(list), at);
-  windows_.DoEvents();
+void ScreenUnderTest::DoubleClickRow(WindowHandle list, std::int32_t row) {
+  side_->PressTwiceAt(ToHwnd(list), InRow(list, row));
 }
 
-void Win32Screen::CheckRow(WindowHandle, WindowHandle list, std::int32_t row) {
+void ScreenUnderTest::CheckRow(WindowHandle list, std::int32_t row) {
   const POINT at = PointWhere(InRow(list, row), [list](const POINT& point) {
     LVHITTESTINFO hit = {};
     hit.pt = point;
     Send(list, LVM_SUBITEMHITTEST, 0, &hit);
     return (hit.flags & LVHT_ONITEM) == LVHT_ONITEMSTATEICON;
   });
-  PostPress(ToHwnd(list), at, kLeftButton, 0);
-  windows_.DoEvents();
+  side_->PressAt(ToHwnd(list), at);
 }
 
-void Win32Screen::ClickColumn(WindowHandle, WindowHandle list, std::int32_t column) {
-  const auto header = reinterpret_cast<HWND>(Send(list, LVM_GETHEADER));
-  RECT rect = {};
-  ::SendMessageW(header, HDM_GETITEMRECT, static_cast<WPARAM>(column), reinterpret_cast<LPARAM>(&rect));
-  PostPress(header, {(rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2}, kLeftButton, 0);
-  windows_.DoEvents();
+void ScreenUnderTest::ClickColumn(WindowHandle list, std::int32_t column) {
+  const WindowHandle header = HeaderOf(list);
+  side_->PressAt(ToHwnd(header), MiddleOf(PartOf(header, HDM_GETITEMRECT, column)));
 }
 
-void Win32Screen::DragColumn(WindowHandle, WindowHandle list, std::int32_t column, std::int32_t width) {
-  const auto header = reinterpret_cast<HWND>(Send(list, LVM_GETHEADER));
-  RECT rect = {};
-  ::SendMessageW(header, HDM_GETITEMRECT, static_cast<WPARAM>(column), reinterpret_cast<LPARAM>(&rect));
-  const POINT from = {rect.right - 1, (rect.top + rect.bottom) / 2};
-  const POINT to = {rect.left + ToPixels(width, kDesignDpi) - 1, from.y};
-  PostMouse(header, WM_LBUTTONDOWN, from, MK_LBUTTON);
-  PostMouse(header, WM_MOUSEMOVE, to, MK_LBUTTON);
-  PostMouse(header, WM_LBUTTONUP, to, 0);
-  windows_.DoEvents();
+void ScreenUnderTest::DragColumn(WindowHandle list, std::int32_t column, std::int32_t width) {
+  const WindowHandle header = HeaderOf(list);
+  const RECT rect = PartOf(header, HDM_GETITEMRECT, column);
+  const POINT to = {rect.left + ToPixels(width, kDesignDpi) - 1, MiddleOf(rect).y};
+  PostMouse(ToHwnd(header), WM_LBUTTONDOWN, {rect.right - 1, to.y}, MK_LBUTTON);
+  PostMouse(ToHwnd(header), WM_MOUSEMOVE, to, MK_LBUTTON);
+  PostMouse(ToHwnd(header), WM_LBUTTONUP, to, 0);
+  side_->windows.DoEvents();
 }
 
-std::wstring Win32Screen::RowsOf(WindowHandle list) {
+std::wstring ScreenUnderTest::RowsOf(WindowHandle list) {
   std::wstring rows;
   const auto count = static_cast<std::int32_t>(Send(list, LVM_GETITEMCOUNT));
   for (std::int32_t row = 0; row < count; ++row) {
@@ -194,7 +155,7 @@ std::wstring Win32Screen::RowsOf(WindowHandle list) {
   return rows;
 }
 
-std::wstring Win32Screen::CellOf(WindowHandle list, std::int32_t row, std::int32_t column) {
+std::wstring ScreenUnderTest::CellOf(WindowHandle list, std::int32_t row, std::int32_t column) {
   wchar_t text[kTextLength] = {};
   LVITEMW item = {};
   item.iSubItem = column;
@@ -204,51 +165,38 @@ std::wstring Win32Screen::CellOf(WindowHandle list, std::int32_t row, std::int32
   return item.pszText;
 }
 
-std::int32_t Win32Screen::ColumnWidth(WindowHandle list, std::int32_t column) {
-  return static_cast<std::int32_t>(Send(list, LVM_GETCOLUMNWIDTH, static_cast<WPARAM>(column)));
-}
-
-std::wstring Win32Screen::ColumnText(WindowHandle list, std::int32_t column) {
+std::wstring ScreenUnderTest::ColumnsOf(WindowHandle list) {
+  std::wstring columns;
   wchar_t text[kTextLength] = {};
   LVCOLUMNW shown = {};
-  shown.mask = LVCF_TEXT;
+  shown.mask = LVCF_TEXT | LVCF_WIDTH;
   shown.pszText = text;
   shown.cchTextMax = kTextLength;
-  Send(list, LVM_GETCOLUMNW, static_cast<WPARAM>(column), &shown);
-  return text;
-}
-
-MouseEvent Win32Screen::PointOfRow(WindowHandle form, WindowHandle list, std::int32_t row) {
-  const POINT at = InRow(list, row);
-  return EventAt(form, at.x, at.y);
+  for (WPARAM i = 0; Send(list, LVM_GETCOLUMNW, i, &shown) != FALSE; ++i) {
+    columns += (i == 0 ? L"" : L" ") + std::wstring(text) + L":" + std::to_wstring(shown.cx);
+  }
+  return columns;
 }
 
 // --- trees
 
-void Win32Screen::ClickNode(WindowHandle, WindowHandle tree, const std::wstring& text, std::int32_t button) {
-  PostPress(ToHwnd(tree), InNode(tree, text), button, 0);
-  windows_.DoEvents();
+void ScreenUnderTest::ClickNode(WindowHandle tree, const std::wstring& text, std::int32_t button) {
+  side_->PressAt(ToHwnd(tree), InNode(tree, text), button);
 }
 
-void Win32Screen::DoubleClickNode(WindowHandle, WindowHandle tree, const std::wstring& text) {
-  const POINT at = InNode(tree, text);
-  PostPress(ToHwnd(tree), at, kLeftButton, 0);
-  windows_.DoEvents();
-  PostSecondPress(ToHwnd(tree), at);
-  windows_.DoEvents();
+void ScreenUnderTest::DoubleClickNode(WindowHandle tree, const std::wstring& text) {
+  side_->PressTwiceAt(ToHwnd(tree), InNode(tree, text));
 }
 
-void Win32Screen::CheckNode(WindowHandle, WindowHandle tree, const std::wstring& text) {
-  PostPress(ToHwnd(tree), PartOfNode(tree, text, TVHT_ONITEMSTATEICON), kLeftButton, 0);
-  windows_.DoEvents();
+void ScreenUnderTest::CheckNode(WindowHandle tree, const std::wstring& text) {
+  side_->PressAt(ToHwnd(tree), PartOfNode(tree, text, TVHT_ONITEMSTATEICON));
 }
 
-void Win32Screen::ToggleNode(WindowHandle, WindowHandle tree, const std::wstring& text) {
-  PostPress(ToHwnd(tree), PartOfNode(tree, text, TVHT_ONITEMBUTTON), kLeftButton, 0);
-  windows_.DoEvents();
+void ScreenUnderTest::ToggleNode(WindowHandle tree, const std::wstring& text) {
+  side_->PressAt(ToHwnd(tree), PartOfNode(tree, text, TVHT_ONITEMBUTTON));
 }
 
-std::wstring Win32Screen::NodesOf(WindowHandle tree) {
+std::wstring ScreenUnderTest::NodesOf(WindowHandle tree) {
   std::wstring nodes;
   const HTREEITEM selected = Next(tree, TVGN_CARET, nullptr);
   ForVisible(tree, Next(tree, TVGN_ROOT, nullptr), 0, [&](HTREEITEM node, std::size_t level) {
@@ -260,28 +208,15 @@ std::wstring Win32Screen::NodesOf(WindowHandle tree) {
   return nodes;
 }
 
-MouseEvent Win32Screen::PointOfNode(WindowHandle form, WindowHandle tree, const std::wstring& text) {
-  const POINT at = InNode(tree, text);
-  return EventAt(form, at.x, at.y);
-}
-
 // --- both
 
-MouseEvent Win32Screen::EventAt(WindowHandle form, std::int32_t x, std::int32_t y) {
-  const auto dpi = scales_.find(form);
-  const std::int32_t scale = dpi == scales_.end() ? kDesignDpi : dpi->second;
-  return {0, 0, ToTwips(x, scale), ToTwips(y, scale)};
-}
+bool ScreenUnderTest::EditsLabel(WindowHandle control) { return EditOf(control) != nullptr; }
 
-bool Win32Screen::EditsLabel(WindowHandle control) { return EditOf(control) != nullptr; }
-
-void Win32Screen::TypeLabel(WindowHandle, WindowHandle control, const std::wstring& text) {
+void ScreenUnderTest::TypeLabel(WindowHandle control, const std::wstring& text) {
   const HWND edit = EditOf(control);
   ::SendMessageW(edit, EM_SETSEL, 0, -1);
   for (const wchar_t character : text) ::PostMessageW(edit, WM_CHAR, character, 1);
-  windows_.DoEvents();
+  side_->windows.DoEvents();
 }
 
 }  // namespace burrowmark
-
-#endif

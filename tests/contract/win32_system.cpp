@@ -8,7 +8,6 @@
 #include "platform/win32/system_library.h"
 #include "platform/win32/win32_platform.h"
 #include "tests/contract/system_under_test.h"
-#include "tests/contract/win32_screen.h"
 
 namespace burrowmark {
 namespace {
@@ -108,7 +107,7 @@ class Win32System final : public SystemUnderTest {
   std::wstring folder_;
   std::wstring key_;
   Win32Platform platform_;
-  Win32Screen screen_{platform_.platform().windows};
+  ScreenUnderTest screen_{platform_.platform().windows};
 };
 
 }  // namespace

@@ -88,7 +88,8 @@ TEST_P(WindowsContract, ATextArrivesWholeWithItsNumber) {
   const std::wstring text = L" /ADD C:\\Caf\u00E9 \u0416" + std::wstring(100'000, L'x');
   EXPECT_EQ(windows_.SendText(window_, 3, text), 7);
   EXPECT_EQ(windows_.SendText(window_, 4, L""), 7);
-  EXPECT_EQ(heard_, Texts({"0 3" + ToUtf8(text), "0 4"}));
+  const std::string sender = std::to_string(windows_.ProcessNumber());
+  EXPECT_EQ(heard_, Texts({sender + " 3" + ToUtf8(text), sender + " 4"}));
 }
 
 TEST_P(WindowsContract, PostedWorkRunsInOrderNotAtOnceAndNoneIsLost) {

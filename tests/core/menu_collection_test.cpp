@@ -2,6 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <random>
+#include <utility>
+#include <vector>
+
+#include "core/text.h"
 #include "tests/support/scratch_machine.h"
 
 namespace burrowmark {
@@ -37,7 +43,7 @@ TEST_F(MenuCollection, CommandNumbersStartAtFiftyAndPassOverTakenOnes) {
   EXPECT_EQ(store_.GetNextFreeID(), 50);
   for (const std::int32_t taken : {53, 52, 51}) {
     const ItemRef item = Leaf(L"T" + std::to_wstring(taken), L"", L"x");
-    item->ID = taken;
+    item->SetID(taken);
     store_.AddOne(item, true, false);
   }
   EXPECT_EQ(store_.GetNextFreeID(), 54);  // 51, then 52 and 53 on later scans
@@ -147,11 +153,11 @@ TEST_F(MenuCollection, WalksToTheTopGoUpOnceEvenAroundACircle) {
   FillThreeLevels();
   EXPECT_EQ(store_.GetItemRootNode(*store_.Item(4)), MIT_GROUP_USER);
   EXPECT_EQ(store_.GetItemRootNode(*store_.Item(1)), kRootOwner);
-  store_.Item(2)->OwnerName = L"B";  // A and B own each other now
+  store_.Item(2)->SetOwnerName(L"B");  // A and B own each other now
   store_.ItemFullPath(*store_.Item(4));
   EXPECT_EQ(store_.Item(4)->ItemLocation, L"\\\\Alpha\\Beta");
   EXPECT_EQ(store_.GetItemRootNode(*store_.Item(4)), L"B");
-  store_.Item(3)->OwnerName = L"B";
+  store_.Item(3)->SetOwnerName(L"B");
   store_.ItemFullPath(*store_.Item(4));
   EXPECT_EQ(store_.Item(4)->ItemPath, L"Beta\\");
 }
@@ -176,18 +182,6 @@ TEST_F(MenuCollection, ChildrenAreTheDirectOnesBehindTheirOwner) {
   EXPECT_EQ(store_.GetSecondChild(L"B", L"other"), store_.Item(4));
   store_.Remove(L"a");  // what a group held stays
   EXPECT_EQ(NamesOf(store_), L"MIT_GROUP_USER B leaf");
-}
-
-TEST_F(MenuCollection, TitlesCollideExactlyAmongSiblingsOfOneKind) {
-  store_.AddOne(Leaf(L"1", L"Docs", L"g"), true, false);
-  store_.AddOne(Group(L"2", L"Docs", L"g"), true, false);
-  EXPECT_TRUE(store_.CaptionExists(L"Docs", L"g", false, L"x"));
-  EXPECT_FALSE(store_.CaptionExists(L"docs", L"g", false, L"x"));
-  EXPECT_FALSE(store_.CaptionExists(L"Docs", L"h", false, L"x"));
-  EXPECT_FALSE(store_.CaptionExists(L"Docs", L"g", false, L"1"));
-  EXPECT_EQ(store_.CaptionExists2(L"Docs", L"g", true, L"x"), store_.Item(2));
-  EXPECT_EQ(store_.CountSameCaption(L"Docs", L"g", L"1"), 1);
-  EXPECT_EQ(store_.CountSameCaption(L"Docs", L"g", L"x"), 2);
 }
 
 TEST_F(MenuCollection, FreeTitlesAreCountedUp) {
@@ -236,16 +230,91 @@ TEST_F(MenuCollection, GroupAndSeparatorExcludeEachOther) {
 TEST_F(MenuCollection, AChangeKeepsWhatItDoesNotName) {
   clsMenuItem item(clock_);
   item.SetCaption(L"Old");
-  item.OwnerName = MIT_GROUP_USER;
+  item.SetOwnerName(MIT_GROUP_USER);
   item.FolderPath = L"C:\\x";
   item.UserDescription = L"mine";
   item.KeyboardCode = 50;
   item.ModifyMenuItem({});
-  EXPECT_EQ(item.Caption() + item.OwnerName + item.FolderPath + item.UserDescription, L"OldMIT_GROUP_USERC:\\xmine");
+  EXPECT_EQ(item.Caption() + item.OwnerName() + item.FolderPath + item.UserDescription, L"OldMIT_GROUP_USERC:\\xmine");
   EXPECT_EQ(item.KeyboardCode, -1);
   EXPECT_EQ(PackDateText(item.TimeModified), L"5|11|2003|14|7|9|");
   item.ModifyMenuItem({.UserDescription = L""});
   EXPECT_EQ(item.UserDescription, L"");
+}
+
+// The rules told plainly: every look-up walks over a list.
+TEST_F(MenuCollection, EveryLookUpAgreesWithAWalkOverTheList) {
+  std::vector<std::pair<std::wstring, ItemRef>> list;
+  std::mt19937 random(7);
+  const auto below = [&](unsigned end) { return static_cast<std::int32_t>(random() % end); };
+  const auto name = [&] { return (below(2) == 0 ? L"n" : L"N") + std::to_wstring(below(40)); };
+  const auto owner = [&] { return below(4) == 0 ? std::wstring(kRootOwner) : L"n" + std::to_wstring(below(6)); };
+  const auto title = [&] { return std::wstring(1, L"abcdefABCDEF"[below(12)]); };
+  const auto find = [&](auto fits) { return std::find_if(list.begin(), list.end(), fits); };
+  const auto key = [&](const std::wstring& text) {
+    return find([&](auto& entry) { return entry.first == UpperCaseText(text); });
+  };
+  const auto itemAt = [&](auto at) { return at == list.end() ? nullptr : at->second; };
+  for (int step = 0; step < 20000; ++step) {
+    const ItemRef any = store_.Count() == 0 ? nullptr : store_.Item(1 + below(static_cast<unsigned>(store_.Count())));
+    switch (any == nullptr ? 0 : below(7)) {
+      case 0: {
+        const ItemRef item = test::MakeItem(clock_, name(), title(), owner(), below(3) == 0);
+        const auto isSibling = [&](auto& other) {
+          return !other.Separator() && other.OwnerName() == item->OwnerName();
+        };
+        auto place = item->OwnerName() == kRootOwner ? list.end() : find([&](auto& entry) {
+          const clsMenuItem& other = *entry.second;
+          return isSibling(other) && other.SubMenu() == item->SubMenu() && other.SortCaption() > item->SortCaption();
+        });
+        if (place == list.end() && item->SubMenu() && item->OwnerName() != kRootOwner) {
+          place = find([&](auto& entry) { return isSibling(*entry.second) && !entry.second->SubMenu(); });
+        }
+        const auto at = place == list.end() ? place : key(place->second->Name());
+        const bool lost = place != list.end() && at == list.end();  // the sibling has another key than its name
+        const bool taken = store_.ItemExists(item->Name()) || key(item->Name()) != list.end();
+        if (!lost && !taken) list.insert(at, {UpperCaseText(item->Name()), item});
+        store_.AddOne(item, false, false);
+        break;
+      }
+      case 1: {
+        const std::wstring gone = name();
+        store_.Remove(gone);
+        if (const auto at = key(gone); at != list.end()) list.erase(at);
+        break;
+      }
+      case 2:
+        any->SetName(name());
+        break;
+      case 3:
+        any->SetOwnerName(owner());
+        break;
+      case 4:
+        any->SetCaption(title());
+        break;
+      case 5:
+        below(2) == 0 ? any->SetSubMenu(below(2) == 0) : any->SetSeparator(below(2) == 0);
+        break;
+      default:
+        any->SetID(below(60));
+    }
+    const std::wstring n = name(), o = owner(), t = title();
+    const std::int32_t id = below(60);
+    const auto numbered = find([&](auto& entry) { return entry.second->ID() == id; });
+    const auto same = find([&](auto& entry) {
+      const clsMenuItem& item = *entry.second;
+      return item.OwnerName() == o && item.Caption() == t && item.Name() != n && item.SubMenu();
+    });
+    const auto owned = [&](auto& entry) { return entry.second->OwnerName() == o; };
+    for (std::size_t i = 0; i < list.size(); ++i)
+      ASSERT_EQ(store_.Item(static_cast<int>(i) + 1), list[i].second) << step;
+    ASSERT_EQ(store_.Count(), static_cast<std::int32_t>(list.size())) << step;
+    ASSERT_EQ(store_.ItemExists(n), find([&](auto& entry) { return entry.second->Name() == n; }) != list.end()) << step;
+    ASSERT_EQ(store_.GetMenuItemFromName(n), itemAt(key(n))) << step;
+    ASSERT_EQ(store_.GetMenuItemFromID(id), itemAt(numbered)) << step;
+    ASSERT_EQ(store_.ChildrenNumber(o), std::count_if(list.begin(), list.end(), owned)) << step;
+    ASSERT_EQ(store_.CaptionExists2(t, o, true, n), itemAt(same)) << step;
+  }
 }
 
 TEST_F(MenuCollection, AChangeIsWrittenInTheOrderOfItsFields) {

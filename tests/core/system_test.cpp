@@ -165,13 +165,13 @@ TEST_F(Saving, TakesThePlaceAndKeepsTheAttributes) {
   EXPECT_EQ(machine_.BytesOf(kPath), "new");
   EXPECT_NE(*machine_.files.GetFileAttributesA(kPath) & kFileHidden, 0U);
   EXPECT_EQ(FilesBeside(), 1);
-  machine_.AddFile(std::wstring(kPath) + L".new", "left over");  // by an earlier save
+  machine_.AddFile(std::wstring(kPath) + L".~burrowmark", "left over");  // by an earlier save
   EXPECT_TRUE(Save("newer"));
   EXPECT_EQ(machine_.BytesOf(kPath), "newer");
   EXPECT_TRUE(SaveWholeFile(machine_.files, L"C:\\data\\first.bwmk", ""));
-  EXPECT_TRUE(CanCreateFilesIn(machine_.files, L"C:\\data"));
-  EXPECT_FALSE(CanCreateFilesIn(machine_.files, L"C:\\none"));
-  EXPECT_EQ(FilesBeside(), 3);
+  EXPECT_TRUE(CanSave(machine_.files, L"C:\\data\\second.bwmk"));
+  EXPECT_FALSE(CanSave(machine_.files, L"C:\\none\\first.bwmk"));
+  EXPECT_EQ(FilesBeside(), 2);
 }
 
 TEST_F(Saving, AFaultAtAnyStepLeavesTheOldOrTheNewFileWhole) {

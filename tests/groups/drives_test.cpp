@@ -106,9 +106,9 @@ TEST_F(Drives, ACheckAtAnOpeningTouchesTheMediumOfADiscWithoutALabelAlone) {
 TEST_F(Drives, AnotherStoreMarksTheMenuAndUnchangedDrivesLeaveItAlone) {
   scene_.Start();
   OpenMenu();
-  const std::int32_t id = app_.MainStore().GetMenuItemFromName(MIT_PATHS_DRIVES)->ID;
+  const std::int32_t id = app_.MainStore().GetMenuItemFromName(MIT_PATHS_DRIVES)->ID();
   OpenMenu();
-  EXPECT_EQ(app_.MainStore().GetMenuItemFromName(MIT_PATHS_DRIVES)->ID, id);
+  EXPECT_EQ(app_.MainStore().GetMenuItemFromName(MIT_PATHS_DRIVES)->ID(), id);
   clsMenuCollection other(machine_.clock);
   AddFixedEntries(app_, other, false);
   SetupDrives(app_, other);

@@ -179,6 +179,34 @@ TEST_F(MenuInUse, TheTrayIconIsTriedAgainAndComesBackWithTheTaskBar) {
   EXPECT_EQ(machine_.uiFaults.Calls(), 0U);  // nobody goes on trying
 }
 
+TEST_F(MenuInUse, TheTrayIconFollowsTheScale) {
+  Start();
+  machine_.windows.Dpi = 192;
+  WindowMessage message = MessageTo(app_.MainWindow, kMessageDpiChanged, 192, 0);
+  machine_.windows.Deliver(message);
+  EXPECT_EQ(LocalDrawing::IconSize(machine_.shell.Tray()->icon), 32);
+  EXPECT_EQ(machine_.shell.Tray()->tip, L"Burrowmark");
+}
+
+TEST_F(MenuInUse, AnAmpersandIsALetterLikeAnyOther) {
+  scene_.AddShortcut(L"amp", L"&Live", L"C:\\amp");
+  Start();
+  scene_.Choose(MenuActions().Click(L"Personal").Type(L"l").Press(MenuKey::kEnter));
+  scene_.Choose(MenuActions().Click(L"Personal").Type(L"&").Press(MenuKey::kEnter));
+  EXPECT_EQ(Opened(), L"C:\\live;C:\\amp;");
+}
+
+TEST_F(MenuInUse, WhereAppsAreDarkTheMenuIsUnlessTheSystemsColoursSayMore) {
+  machine_.drawing.DarkApps = true;
+  constexpr Color kDark = 0x2B2B2B;
+  EXPECT_EQ(scene_.menu.ChooseColors(), kDark);
+  machine_.drawing.HighContrast = true;
+  EXPECT_EQ(scene_.menu.ChooseColors(), 0xF0F0F0U);
+  machine_.drawing.HighContrast = false;
+  machine_.drawing.Colors[kColorMenu] = 0x202020;  // dark already
+  EXPECT_EQ(scene_.menu.ChooseColors(), 0x202020U);
+}
+
 TEST_F(MenuInUse, OnAScreenOfAnotherScaleTheMenuIsMeasuredAnew) {
   Start();
   for (const std::int32_t dpi : {96, 192}) {

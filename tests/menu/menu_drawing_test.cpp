@@ -19,7 +19,6 @@ class MenuDrawing : public testing::Test {
   MenuDrawing() : item_(clock_) {
     for (int number = 0; number <= 13; ++number)
       look_.MenuIcons.push_back(drawing_.LoadMenuIcon(std::max(number, 1), 16));
-    look_.IconFrameAllowed = true;
     look_.SelectedState = 257;
     item_.SetCaption(L"ab");
     item_.SetIconIDDescription();
@@ -29,7 +28,8 @@ class MenuDrawing : public testing::Test {
   const Canvas& Draw(std::uint32_t state, std::int32_t width = 120, std::int32_t height = 19) {
     context_ = drawing_.OpenContext(look_.dpi, 400, 200, kPaper);
     drawing_.StartDrawing(context_);
-    MenuItemDraw(drawing_, look_, item_, {kControlMenu, item_.ID, state, context_, {10, 20, 10 + width, 20 + height}});
+    MenuItemDraw(drawing_, look_, item_,
+                 {kControlMenu, item_.ID(), state, context_, {10, 20, 10 + width, 20 + height}});
     EXPECT_EQ(drawing_.LiveBrushes() + drawing_.FailedDeletes(), 0U);
     return drawing_.Pixels(context_);
   }
@@ -62,6 +62,9 @@ TEST_F(MenuDrawing, AnEntryIsFilledWithItsTextAndIconInPlace) {
   EXPECT_EQ(icon.rect, (Rect{14, 22, 30, 38}));
   EXPECT_EQ(LocalDrawing::IconNumber(icon.icon), 3);
   EXPECT_EQ(Call("SetBkMode").mode, 1);
+  item_.SetCaption(L"R&D");
+  Draw(0);
+  EXPECT_EQ(Call("DrawTextA").text, L"R&&D") << "of which one is seen";
   for (const std::int16_t none : {std::int16_t{0}, std::int16_t{-1}, std::int16_t{14}}) {
     item_.IconID = none;
     Draw(0);
@@ -77,11 +80,11 @@ TEST_F(MenuDrawing, ASelectedShortcutIsRedBesideItsRaisedIcon) {
       {32, 20, kShadow}, {32, 38, kShadow}, {10, 38, kShadow}, {11, 21, kPaper},  // inside the frame
       {36, 22, kLight}};
   for (const auto& [x, y, color] : cases) EXPECT_EQ(canvas.At(x, y), color) << x << ' ' << y;
-  look_.IconFrameAllowed = false;
+  drawing_.Colors[kColor3DHighlight] = kMenuColor;
   EXPECT_EQ(Draw(257).At(10, 20), kRed);
   EXPECT_EQ(Call("DrawIconEx").name, "DrawIconEx");
   look_.ShowIcons = false;
-  look_.IconFrameAllowed = true;
+  drawing_.Colors[kColor3DHighlight] = kLight;
   EXPECT_EQ(Draw(257).At(10, 20), kRed);
   EXPECT_EQ(Call("DrawIconEx").name, "");
   EXPECT_EQ(Call("DrawTextA").rect.left, 36);
@@ -134,14 +137,25 @@ TEST_F(MenuDrawing, HighContrastTakesTheColoursOfTheUser) {
   drawing_.Colors[14] = 0x00FFFF;
   Draw(0);
   EXPECT_EQ(Call("DrawTextA").color, 0x00FF00U);
-  Draw(257);
+  EXPECT_EQ(Draw(257).At(100, 30), kHighlight) << "no red";
   EXPECT_EQ(Call("DrawTextA").color, 0x00FFFFU);
+}
+
+TEST_F(MenuDrawing, TheDarkPairIsLightOnDarkWithAnArrowThatIsSeen) {
+  look_.Dark = true;
+  item_.SetSubMenu(true);
+  const Canvas& canvas = Draw(0);
+  EXPECT_EQ(canvas.At(10, 20), 0x2B2B2BU);
+  EXPECT_EQ(Call("DrawTextA").color, 0xFFFFFFU);
+  EXPECT_EQ(canvas.At(118, 29), 0xFFFFFFU);
+  EXPECT_EQ(Call("ExcludeClipRect").rect, (Rect{10, 20, 130, 39})) << "the system's arrow is kept away";
+  EXPECT_EQ(Draw(257).At(100, 30), kHighlight);
 }
 
 TEST_F(MenuDrawing, WidthsAreTheSumOfTheCharactersOfTheShortenedTitle) {
   item_.SetCaption(std::wstring(60, L'w'));
   const DeviceContext context = drawing_.MenuMeasureContext(96);
-  const std::int32_t text = 47 * drawing_.GetCharWidth32A(context, L'w') + 3 * drawing_.GetCharWidth32A(context, L'.');
+  const std::int32_t text = drawing_.GetTextExtentPoint32A(context, std::wstring(47, L'w') + L"...").width;
   const auto sizeIs = [this](std::int32_t width, std::int32_t height) {
     MeasureRecord record;
     MeasureMenuItem(drawing_, look_, item_, record);
@@ -155,6 +169,11 @@ TEST_F(MenuDrawing, WidthsAreTheSumOfTheCharactersOfTheShortenedTitle) {
   sizeIs(30, 10);
   look_.dpi = 144;
   sizeIs(45, 15);
+  item_.SetSeparator(false);
+  item_.SetSubMenu(false);
+  item_.SetCaption(L"");
+  drawing_.MenuFontHeight = 30;
+  sizeIs(53, 45 + 6);  // the height of large letters and some room
 }
 
 }  // namespace

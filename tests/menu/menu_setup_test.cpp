@@ -74,6 +74,22 @@ TEST_F(MenuSetup, RebuildsLeaveNumbersPlacesAndHandlesRight) {
   EXPECT_EQ(app_.MainStore().GetNextFreeMenuName(), L"N301");
 }
 
+TEST_F(MenuSetup, EntriesPastTheLastNumberStayOutAndTheTopLevelKeepsItsOwn) {
+  scene_.AddPersonal();
+  for (int i = 0; i < 0xF000; ++i) {
+    app_.MainStore().AddOne(test::MakeItem(scene_.machine.clock, L"", L"Entry", MIT_GROUP_USER), true, false);
+  }
+  AddFixedEntries(app_, app_.MainStore(), false);
+  scene_.Start();
+  const std::size_t shown =
+      scene_.machine.menus.Entries(app_.MainStore().GetMenuItemFromName(MIT_GROUP_USER)->ID()).size();
+  EXPECT_EQ(shown, 0xF000U - 256 - 52);
+  EXPECT_EQ(app_.MainStore().GetMenuItemFromName(L"N61440")->ID(), 0);
+  const ItemRef organize = app_.MainStore().GetMenuItemFromName(MIT_HF_ORGANIZE);
+  EXPECT_EQ(scene_.machine.menus.Entries(organize->OwnerID).at(static_cast<std::size_t>(organize->Position)).id,
+            organize->ID());
+}
+
 TEST_F(MenuSetup, MenuCallsThatFailLeaveTheOthersInPlace) {
   Fill();
   for (std::size_t call = 1; call <= 20; ++call) {
@@ -95,7 +111,7 @@ TEST_F(MenuSetup, ACloneHasEverythingAndADrivesTitleKeepsItsColon) {
   CloneMenuItem(*source, clone);
   EXPECT_EQ(clone.Caption() + clone.CaptionMenu() + clone.FolderPath, L"C: (x)menuC:\\x");
   EXPECT_EQ(clone.KeyboardCode + clone.TimeAccessed, 57);
-  source->OwnerName = L"G";
+  source->SetOwnerName(L"G");
   CloneMenuItem(*source, clone);
   EXPECT_EQ(clone.Caption(), L"C (x)");
 }

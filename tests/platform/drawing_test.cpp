@@ -43,11 +43,7 @@ TEST_F(DrawingTest, AFillEndsAheadOfItsRightAndBottomAndAtTheEdges) {
 }
 
 TEST_F(DrawingTest, TextStandsWhereItsFormatPutsIt) {
-  std::int32_t width = 0;
-  for (const wchar_t c : {L'a', L'i', L'W'}) {
-    width += drawing_.GetCharWidth32A(drawing_.MenuMeasureContext(kDesignDpi), c);
-  }
-  const std::int32_t height = LocalDrawing::TextHeight(kDesignDpi);
+  const auto [width, height] = drawing_.GetTextExtentPoint32A(drawing_.MenuMeasureContext(kDesignDpi), L"aiW");
   constexpr std::uint32_t kSingleLine = 0x20;
   const Rect rect{10, 5, 110, 35};
   const std::int32_t middle = 10 + (100 - width) / 2;

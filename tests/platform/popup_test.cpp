@@ -55,7 +55,7 @@ class PopupTest : public LocalTest {
   // What was chosen in a popup that meets these actions.
   std::int32_t Chosen(const MenuActions& actions) {
     machine_.user.NextMenu(actions);
-    return menus_.TrackPopupMenu(root_, window_);
+    return menus_.TrackPopupMenu(root_, window_, 0);
   }
 
   MainWindowEvents events_;
@@ -112,7 +112,7 @@ TEST_F(PopupTest, MessagesRunWhileAMenuIsOpenAndOneOfThemCanEndIt) {
   const auto post = [this, &ran] {
     machine_.windows.Post([this, &ran] {
       ran = menus_.IsShowing();
-      menus_.TrackPopupMenu(root_, window_);  // no second menu opens
+      menus_.TrackPopupMenu(root_, window_, 0);  // no second menu opens
     });
   };
   EXPECT_EQ(Chosen(MenuActions().Do(post).Click(L"Alpha")), 1);
@@ -146,12 +146,12 @@ TEST_F(PopupTest, EntriesAreDrawnWhenTheyShowAndWhenTheSelectionMoves) {
 }
 
 TEST_F(PopupTest, WhatIsNotAsExpectedThrowsAndIsKept) {
-  EXPECT_THROW(menus_.TrackPopupMenu(root_, window_), std::logic_error);
+  EXPECT_THROW(menus_.TrackPopupMenu(root_, window_, 0), std::logic_error);
   EXPECT_NE(machine_.user.TakeComplaints().find("nobody expected"), std::string::npos);
   const MenuActions wrong[] = {{L"Nowhere"}, {L"Box"}, MenuActions({L"Alpha"}).Press(MenuKey::kDown)};
   for (const MenuActions& actions : wrong) {
     machine_.user.NextMenu(actions);
-    EXPECT_THROW(menus_.TrackPopupMenu(root_, window_), std::logic_error) << "case " << &actions - wrong;
+    EXPECT_THROW(menus_.TrackPopupMenu(root_, window_, 0), std::logic_error) << "case " << &actions - wrong;
     EXPECT_NE(machine_.user.TakeComplaints(), "");
   }
   machine_.user.NextMenu({L"Alpha"});

@@ -110,7 +110,7 @@ TEST_F(OrganizedFolders, AMovedItemGoesWhereItStandsNow) {
   scene_.AddGroup(L"GA", L"A");
   const ItemRef group = scene_.AddGroup(L"GB", L"B");
   const ItemRef item = Add(L"S", L"S", L"GA");
-  item->OwnerName = L"GB";
+  item->SetOwnerName(L"GB");
   group->SetCaption(L"Renamed");
   Project();
   EXPECT_EQ(Tree(), L"A[] Renamed[S.lnk]");

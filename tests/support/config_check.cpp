@@ -19,6 +19,18 @@ bool KeysDiffer(const clsMenuCollection& store) {
   return keys.size() == static_cast<std::size_t>(store.Count());
 }
 
+// Every entry stands behind a group that owns it, up to the two of the top level.
+bool OwnersComeFirst(const clsMenuCollection& store) {
+  std::set<std::wstring> groups;
+  for (std::int32_t i = 1; i <= store.Count(); ++i) {
+    const clsMenuItem& item = *store.Item(i);
+    const bool top = item.Name() == MIT_GROUP_USER || item.Name() == MIT_PATHS_SYSTEM;
+    if (top ? item.OwnerName() != kRootOwner : !groups.contains(item.OwnerName())) return false;
+    if (item.SubMenu()) groups.insert(item.Name());
+  }
+  return true;
+}
+
 std::string ReadAndWrite(Application& app, const std::string& bytes, std::int32_t& count) {
   clsMenuCollection store(app.platform.clock);
   ConfigContent content;
@@ -49,6 +61,7 @@ std::string BrokenBy(Application& app, std::string_view bytes) {
   clsMenuCollection& store = *document.Store;
   ConfigContent content;
   const bool read = ReadConfig(app, bytes, store, content);
+  if (!OwnersComeFirst(store)) return "an entry ahead of its owner, or without one";
   const std::string broken = read ? BrokenRoundTrip(app, store) : std::string();
   for (std::int32_t i = 1; i <= store.Count(); ++i) {  // every walk ends
     store.ItemFullPath(*store.Item(i));

@@ -2,6 +2,7 @@
 
 #include <set>
 
+#include "core/text.h"
 #include "platform/characters.h"
 
 namespace burrowmark::test {
@@ -13,6 +14,7 @@ MenuScene::MenuScene() {
   app.HelpFile = app.AppPath + L"\\Burrowmark.chm";
   events.TrayMouse = [this](std::uint32_t mouseMessage) { tray.Form_MouseMove(mouseMessage); };
   events.TaskbarCreated = [this] { tray.Add(); };
+  events.DpiChanged = [this](std::int32_t) { tray.ScaleChanged(); };
   events.AtRest = [this] { app.Requests.RunAtRest(); };
   app.MainWindow = machine.windows.CreateMainWindow(L"Burrowmark", events);
 }
@@ -62,10 +64,11 @@ std::string MenuScene::WrongNumbers() {
     const auto& siblings = machine.menus.Entries(item.OwnerID);
     if (item.Position < 0 || static_cast<std::size_t>(item.Position) >= siblings.size()) return name + " has no place";
     const LocalMenuEntry& entry = siblings[static_cast<std::size_t>(item.Position)];
-    if (entry.text != item.Caption() || !entry.IsOwnerDrawn()) return name + " has another entry at its place";
-    if ((item.SubMenu() ? entry.popup : entry.id) != item.ID) return name + " has another number";
-    if (!item.SubMenu() && (item.ID < 50 || item.ID >= 0xF000)) return name + " has a number out of range";
-    if (!numbers.insert(item.ID).second) return name + " has another's number";
+    if (entry.text != WithDoubledAmpersands(item.Caption()) || !entry.IsOwnerDrawn())
+      return name + " has another entry at its place";
+    if ((item.SubMenu() ? entry.popup : entry.id) != item.ID()) return name + " has another number";
+    if (!item.SubMenu() && (item.ID() < 50 || item.ID() >= 0xF000)) return name + " has a number out of range";
+    if (!numbers.insert(item.ID()).second) return name + " has another's number";
   }
   return {};
 }

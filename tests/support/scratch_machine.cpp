@@ -44,7 +44,7 @@ ItemRef MakeItem(const Clock& clock, const std::wstring& name, const std::wstrin
   auto item = std::make_shared<clsMenuItem>(clock);
   item->SetName(name);
   item->SetCaption(caption);
-  item->OwnerName = owner;
+  item->SetOwnerName(owner);
   item->SetSubMenu(group);
   return item;
 }
@@ -58,7 +58,7 @@ std::wstring NamesOf(const clsMenuCollection& store) {
 std::wstring TitlesUnder(const clsMenuCollection& store, const std::wstring& owner) {
   std::wstring titles;
   for (std::int32_t i = 1; i <= store.Count(); ++i) {
-    if (store.Item(i)->OwnerName == owner) titles += (titles.empty() ? L"" : L" ") + store.Item(i)->Caption();
+    if (store.Item(i)->OwnerName() == owner) titles += (titles.empty() ? L"" : L" ") + store.Item(i)->Caption();
   }
   return titles;
 }

@@ -46,11 +46,6 @@ TEST_F(TimerTest, AnotherIntervalCountsAnew) {
   EXPECT_EQ(TicksIn(1000), 0);
 }
 
-TEST_F(TimerTest, NothingTicksOnceItIsGone) {
-  timer_.reset();
-  EXPECT_EQ(TicksIn(1000), 0);
-}
-
 TEST_F(TimerTest, MayBeSwitchedOffOrGoInItsOwnTick) {
   timer_->Tick = [this] {
     ++ticks_;

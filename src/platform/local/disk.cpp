@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <chrono>
 #include <fstream>
 #include <iterator>
 
@@ -15,6 +16,7 @@
 #endif
 
 #include "platform/characters.h"
+#include "platform/local/local_clock.h"
 
 namespace burrowmark {
 namespace {
@@ -65,6 +67,16 @@ bool ReadDiskFile(const std::filesystem::path& path, std::string& bytes) {
   if (!in.bad()) return true;
   bytes.clear();
   return false;
+}
+
+std::optional<LocalTime> DiskFileTime(const std::filesystem::path& path) {
+  std::error_code error;
+  const auto written = std::filesystem::last_write_time(path, error);
+  if (error) return std::nullopt;
+  const auto age = std::filesystem::file_time_type::clock::now() - written;
+  const auto onClock = std::chrono::system_clock::now() - age;
+  return LocalClock::Split(
+      std::chrono::system_clock::to_time_t(std::chrono::time_point_cast<std::chrono::system_clock::duration>(onClock)));
 }
 
 DiskFile::DiskFile(const std::filesystem::path& path) : descriptor_(OpenNew(path)) {}

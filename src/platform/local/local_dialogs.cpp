@@ -1,5 +1,7 @@
 #include "platform/local/local_dialogs.h"
 
+#include <utility>
+
 #include "platform/characters.h"
 
 namespace burrowmark {
@@ -18,10 +20,15 @@ bool HasButton(std::uint32_t style, std::int32_t answer) {
 
 class LocalDialogs::Up {
  public:
-  explicit Up(LocalDialogs& dialogs) : dialogs_(dialogs), nested_(dialogs.windows_) {
+  Up(LocalDialogs& dialogs, WindowHandle owner)
+      : dialogs_(dialogs), nested_(dialogs.windows_), owner_(dialogs.windows_.Desktop.Find(owner)) {
     dialogs_.open_.push_back(&state_);
+    if (owner_) ownerWasEnabled_ = std::exchange(owner_->enabled, false);
   }
-  ~Up() { dialogs_.open_.pop_back(); }
+  ~Up() {
+    dialogs_.open_.pop_back();
+    if (ownerWasEnabled_) owner_->enabled = true;
+  }
   Up(const Up&) = delete;
   Up& operator=(const Up&) = delete;
 
@@ -30,17 +37,19 @@ class LocalDialogs::Up {
  private:
   LocalDialogs& dialogs_;
   LocalWindows::Nested nested_;
+  std::shared_ptr<ShownWindow> owner_;  // takes no input meanwhile
+  bool ownerWasEnabled_ = false;
   Open state_;
 };
 
 std::int32_t LocalDialogs::MessageBoxA(WindowHandle owner, const std::wstring& text, const std::wstring& title,
                                        std::uint32_t style) {
-  BoxAnswer answer = user_.TakeBox(text);
+  BoxAnswer answer = user_.TakeBox(text, style);
   if (!HasButton(style, answer.answer)) user_.Complain("a box without the button of its answer: " + ToUtf8(text));
-  const Up up(*this);
-  windows_.DoEvents();
+  const Up up(*this, owner);
+  windows_.Yield(YieldPoint::kBox);
   if (answer.meanwhile && !up.IsCancelled()) answer.meanwhile();
-  windows_.DoEvents();
+  windows_.Yield(YieldPoint::kBox);
   if (up.IsCancelled()) answer.answer = CancelAnswer(style);
   Shown.push_back({owner, text, title, style, answer.answer});
   return answer.answer;
@@ -48,8 +57,8 @@ std::int32_t LocalDialogs::MessageBoxA(WindowHandle owner, const std::wstring& t
 
 std::optional<FileAnswer> LocalDialogs::FileDialog(const FileRequest& request) {
   const FileScript script = user_.TakeFile(request.title);
-  const Up up(*this);
-  windows_.DoEvents();
+  const Up up(*this, request.owner);
+  windows_.Yield(YieldPoint::kFileDialog);
   std::optional<FileAnswer> answer;
   if (script.path && !up.IsCancelled()) answer = FileAnswer{*script.path, script.filterIndex};
   FileDialogs.push_back({request, answer});

@@ -13,8 +13,7 @@ constexpr Color kColorBits = 0x00FFFFFF;
 constexpr Color kWhite = 0xFFFFFF;
 constexpr std::int32_t kBackgroundOpaque = 2;
 constexpr std::uint32_t kTextSingleLine = 0x20;
-constexpr std::uint32_t kIconAsIs = 3;  // both halves of kIconNormal: shape and picture
-constexpr std::int32_t kTextHeight = 13;
+constexpr std::uint32_t kIconAsIs = 3;     // both halves of kIconNormal: shape and picture
 constexpr std::int32_t kSizeStep = 0x100;  // an icon's handle is its size and its number
 constexpr std::int32_t kMostIcons = kSizeStep - 1;
 constexpr IconHandle kIconBase = 0x1000000;
@@ -90,7 +89,7 @@ std::int32_t LocalDrawing::TextWidth(const std::wstring& text, std::int32_t dpi)
   return WidthOf(WithoutPrefixes(text), dpi);
 }
 
-std::int32_t LocalDrawing::TextHeight(std::int32_t dpi) { return Scaled(kTextHeight, dpi); }
+std::int32_t LocalDrawing::TextHeight(std::int32_t dpi) const { return Scaled(MenuFontHeight, dpi); }
 
 std::int32_t LocalDrawing::IconNumber(IconHandle icon) {
   return icon > kIconBase ? static_cast<std::int32_t>((icon - kIconBase) % kSizeStep) : 0;
@@ -147,7 +146,8 @@ void LocalDrawing::SetTextColor(DeviceContext context, Color color) {
   page->calls.push_back({.name = "SetTextColor", .color = color});
 }
 
-void LocalDrawing::DrawBlocks(Page& page, const std::wstring& seen, const Rect& clip, std::int32_t x, std::int32_t y) {
+void LocalDrawing::DrawBlocks(Page& page, const std::wstring& seen, const Rect& clip, std::int32_t x,
+                              std::int32_t y) const {
   const std::int32_t bottom = y + TextHeight(page.dpi);
   if (page.mode != kBackgroundTransparent) {
     page.canvas.Fill(Intersection(clip, {x, y, x + WidthOf(seen, page.dpi), bottom}), kWhite);
@@ -181,6 +181,11 @@ void LocalDrawing::DrawIconEx(DeviceContext context, std::int32_t x, std::int32_
   if (size > 0 && (flags & kIconAsIs) == kIconAsIs) page->canvas.Fill(rect, IconColor(IconNumber(icon)));
 }
 
+// What the system draws by itself isn't drawn here.
+void LocalDrawing::ExcludeClipRect(DeviceContext context, const Rect& rect) {
+  if (Page* page = Find(context)) page->calls.push_back({.name = "ExcludeClipRect", .rect = rect});
+}
+
 DeviceContext LocalDrawing::MenuMeasureContext(std::int32_t dpi) {
   if (dpi <= 0) return 0;
   const Page* page = Find(measureContext_);
@@ -190,9 +195,10 @@ DeviceContext LocalDrawing::MenuMeasureContext(std::int32_t dpi) {
   return measureContext_;
 }
 
-std::int32_t LocalDrawing::GetCharWidth32A(DeviceContext context, wchar_t character) {
+TextExtent LocalDrawing::GetTextExtentPoint32A(DeviceContext context, const std::wstring& text) {
   const Page* page = Find(context);
-  return page == nullptr ? 0 : CharWidth(character, page->dpi);
+  if (page == nullptr) return {};
+  return {WidthOf(text, page->dpi), TextHeight(page->dpi)};
 }
 
 IconHandle LocalDrawing::LoadMenuIcon(std::int32_t number, std::int32_t size) {

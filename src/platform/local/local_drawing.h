@@ -31,7 +31,9 @@ class LocalDrawing final : public Drawing {
   // For tests, which change any of these.
   std::map<std::int32_t, Color> Colors;  // by index; one that is missing is 0
   bool HighContrast = false;
+  bool DarkApps = false;
   std::int32_t IconCount = 13;
+  std::int32_t MenuFontHeight = 13;  // at kDesignDpi
 
   // A context to draw on, of an empty canvas; it stays until it is closed.
   DeviceContext OpenContext(std::int32_t dpi, std::int32_t width, std::int32_t height, Color background);
@@ -45,7 +47,7 @@ class LocalDrawing final : public Drawing {
   std::size_t LiveBrushes() const { return brushes_.size(); }
   std::size_t FailedDeletes() const { return failedDeletes_; }
   std::int32_t TextWidth(const std::wstring& text, std::int32_t dpi) const;
-  static std::int32_t TextHeight(std::int32_t dpi);
+  std::int32_t TextHeight(std::int32_t dpi) const;
   static std::int32_t IconNumber(IconHandle icon);
   static std::int32_t IconSize(IconHandle icon);
   // An icon is drawn as a block of this colour.
@@ -53,6 +55,7 @@ class LocalDrawing final : public Drawing {
 
   Color GetSysColor(std::int32_t index) override;
   bool IsHighContrast() override { return HighContrast; }
+  bool AppsAreDark() override { return DarkApps; }
   BrushHandle CreateSolidBrush(Color color) override;
   bool DeleteObject(BrushHandle brush) override;
   void FillRect(DeviceContext context, const Rect& rect, BrushHandle brush) override;
@@ -61,8 +64,9 @@ class LocalDrawing final : public Drawing {
   void DrawTextA(DeviceContext context, const std::wstring& text, const Rect& rect, std::uint32_t format) override;
   void DrawIconEx(DeviceContext context, std::int32_t x, std::int32_t y, IconHandle icon, std::int32_t width,
                   std::int32_t height, std::uint32_t flags) override;
+  void ExcludeClipRect(DeviceContext context, const Rect& rect) override;
   DeviceContext MenuMeasureContext(std::int32_t dpi) override;
-  std::int32_t GetCharWidth32A(DeviceContext context, wchar_t character) override;
+  TextExtent GetTextExtentPoint32A(DeviceContext context, const std::wstring& text) override;
   std::int32_t MenuIconCount() override { return IconCount; }
   IconHandle LoadMenuIcon(std::int32_t number, std::int32_t size) override;
 
@@ -77,7 +81,7 @@ class LocalDrawing final : public Drawing {
 
   Page* Find(DeviceContext context);
   const Page& Look(DeviceContext context) const;
-  static void DrawBlocks(Page& page, const std::wstring& seen, const Rect& clip, std::int32_t x, std::int32_t y);
+  void DrawBlocks(Page& page, const std::wstring& seen, const Rect& clip, std::int32_t x, std::int32_t y) const;
 
   std::map<BrushHandle, Color> brushes_;
   BrushHandle lastBrush_ = 0x1000;

@@ -73,8 +73,13 @@ std::wstring LocalFacts::GetLocaleInfoA(std::int32_t setting) const {
 
 bool LocalFacts::ToAnsi(std::wstring_view text, std::string& bytes) const {
   bytes.clear();
+  bytes.reserve(text.size());
   bool allFit = true;
   for (const wchar_t c : text) {
+    if (static_cast<char32_t>(c) < kPageStart) {
+      bytes += static_cast<char>(c);
+      continue;
+    }
     const auto* row = std::find(kPage1252.begin(), kPage1252.end(), c);
     const bool inTable = row != kPage1252.end();
     const bool fits = inTable || IsItsOwnByte(c);

@@ -132,6 +132,12 @@ bool LocalFileSystem::Remember(const Entry& entry, std::uint32_t attributes) {
   return kept == (entry.isFolder ? 0 : kFileArchive) ? attributes_.Forget(name) : attributes_.Set(name, kept);
 }
 
+std::optional<LocalTime> LocalFileSystem::GetFileTime(const std::wstring& path) {
+  if (faults_.Strikes("GetFileTime", path)) return std::nullopt;
+  const std::optional<Entry> entry = LookForFile(path);
+  return entry ? DiskFileTime(entry->place) : std::nullopt;
+}
+
 bool LocalFileSystem::ReadWholeFile(const std::wstring& path, std::string& bytes) {
   bytes.clear();
   return !faults_.Strikes("ReadWholeFile", path) && Load(path, bytes);

@@ -79,16 +79,17 @@ std::uint32_t LocalMenus::SelectedState() const {
 
 void LocalMenus::Play(PopupRun& run, const std::vector<MenuAction>& actions) {
   for (const MenuAction& action : actions) {
+    if (!run.IsOpen() && user_.AnyMenu) return;
     if (!run.IsOpen()) user_.Complain("the menu closed before " + ToUtf8(action.title) + " could be done");
     if (!run.Perform(action)) user_.Complain("the menu has no entry " + ToUtf8(action.title));
   }
   if (run.IsOpen()) user_.Complain("the menu is still open");
 }
 
-std::int32_t LocalMenus::TrackPopupMenu(MenuHandle menu, WindowHandle window) {
+std::int32_t LocalMenus::TrackPopupMenu(MenuHandle menu, WindowHandle window, Color background) {
   if (showing_ || !tree_.Exists(menu) || window == 0 || window != windows_.Main()) return 0;
   const MenuActions actions = user_.TakeMenu();
-  PopupRun run(tree_, windows_, drawing_, window, SelectedState());
+  PopupRun run(tree_, windows_, drawing_, {window, SelectedState(), background});
   {
     const Raised raised(showing_);
     run.Open(menu);

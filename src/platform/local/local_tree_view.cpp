@@ -43,8 +43,11 @@ void LocalTreeView::Copy(const TreeNodeState& node, ShownNode& shown) {
 void LocalTreeView::Add(TreeNodeState& node) {
   ShownNode& parent = node.parent == nullptr ? tree_->top : Of(*node.parent);
   const std::vector<TreeNodeState*>& siblings = node.parent == nullptr ? Control().Roots() : node.parent->children;
-  const auto at = std::min<std::ptrdiff_t>(std::find(siblings.begin(), siblings.end(), &node) - siblings.begin(),
-                                           static_cast<std::ptrdiff_t>(parent.children.size()));
+  const std::size_t end = parent.children.size();
+  auto at = static_cast<std::ptrdiff_t>(end);
+  if (end >= siblings.size() || siblings[end] != &node) {  // not the next one of many
+    at = std::min<std::ptrdiff_t>(std::find(siblings.begin(), siblings.end(), &node) - siblings.begin(), at);
+  }
   const auto made = parent.children.insert(std::next(parent.children.begin(), at), std::make_unique<ShownNode>());
   ShownNode& shown = **made;
   shown.state = &node;

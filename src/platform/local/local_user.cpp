@@ -84,13 +84,15 @@ void LocalUser::Complain(const std::string& what) {
 }
 
 MenuActions LocalUser::TakeMenu() {
+  if (menus_.empty() && AnyMenu) return AnyMenu();
   if (menus_.empty()) Complain("a menu that nobody expected");
   MenuActions actions = std::move(menus_.front());
   menus_.pop_front();
   return actions;
 }
 
-BoxAnswer LocalUser::TakeBox(const std::wstring& text) {
+BoxAnswer LocalUser::TakeBox(const std::wstring& text, std::uint32_t style) {
+  if (boxes_.empty() && AnyBox) return AnyBox(text, style);
   if (boxes_.empty() || text.find(boxes_.front().part) == std::wstring::npos) {
     Complain("a box that nobody expected: " + ToUtf8(text));
   }
@@ -100,6 +102,7 @@ BoxAnswer LocalUser::TakeBox(const std::wstring& text) {
 }
 
 FileScript LocalUser::TakeFile(const std::wstring& title) {
+  if (files_.empty() && AnyFile) return AnyFile(title);
   if (files_.empty() || files_.front().title != title) Complain("a file dialog that nobody expected: " + ToUtf8(title));
   FileScript script = std::move(files_.front());
   files_.pop_front();

@@ -60,6 +60,11 @@ class LocalUser {
     files_.push_back({title, std::move(path), filterIndex});
   }
 
+  // Meet what no script was given for; one that is empty lets it fail. A menu that closes early is no fault then.
+  std::function<BoxAnswer(const std::wstring& text, std::uint32_t style)> AnyBox;
+  std::function<FileScript(const std::wstring& title)> AnyFile;
+  std::function<MenuActions()> AnyMenu;
+
   // What is done in the next modal window, which must have this caption. It must be gone after that. In order.
   void NextWindow(const std::wstring& caption, std::function<void(ShownWindow&)> script) {
     windowScripts_.push_back({caption, std::move(script)});
@@ -75,7 +80,7 @@ class LocalUser {
   [[noreturn]] void Complain(const std::string& what);
   // For those who show menus and boxes.
   MenuActions TakeMenu();
-  BoxAnswer TakeBox(const std::wstring& text);
+  BoxAnswer TakeBox(const std::wstring& text, std::uint32_t style);
   FileScript TakeFile(const std::wstring& title);
 
  private:

@@ -168,13 +168,13 @@ void LocalWindows::PostLater(std::int32_t milliseconds, std::function<void()> wo
 
 void LocalWindows::RunGesture(std::function<void()> gesture) {
   Post(std::move(gesture));
-  if (!IsBusy()) DoEvents();
+  if (!IsBusy()) LetRun();
 }
 
 void LocalWindows::MeetPopup(ShownPopup& popup) {
-  DoEvents();
+  Yield(YieldPoint::kPopup);
   if (PopupPerson) PopupPerson(popup);
-  DoEvents();
+  LetRun();
 }
 
 bool LocalWindows::RunOne() {
@@ -198,8 +198,13 @@ void LocalWindows::RunPending() {
   }
 }
 
+void LocalWindows::Yield(YieldPoint point) {
+  Call(Yielding, point);
+  LetRun();
+}
+
 // Called from outside of the program, this is its loop.
-void LocalWindows::DoEvents() {
+void LocalWindows::LetRun() {
   do {
     RunPending();
     TellAtRest();
@@ -217,12 +222,12 @@ void LocalWindows::RunNextLater() {
   now_ = std::max(now_, next->first);
   Post(std::move(next->second));
   later_.erase(next);
-  DoEvents();
+  LetRun();
 }
 
 void LocalWindows::Advance(std::int64_t milliseconds) {
   const std::int64_t until = now_ + milliseconds;
-  DoEvents();
+  LetRun();
   while (!later_.empty() && later_.begin()->first <= until) RunNextLater();
   now_ = std::max(now_, until);
 }
@@ -234,7 +239,7 @@ void LocalWindows::RunLoop() {
 void LocalWindows::RunModal(WindowHandle window, const std::function<bool()>& open) {
   const Nested nested(*this);
   const Idle idle(depth_);
-  DoEvents();
+  Yield(YieldPoint::kModal);
   const std::shared_ptr<ShownWindow> shown = Desktop.Find(window);
   if (!open() || !shown || (Person && Person(*shown, open))) return;
   RunWhile(open);

@@ -25,6 +25,9 @@ inline constexpr std::uint32_t kMessageEndSession = 22;
 inline constexpr std::uint32_t kMessageDpiChanged = 736;
 inline constexpr wchar_t kTaskbarCreated[] = L"TaskbarCreated";
 
+// Where the program lets messages run.
+enum class YieldPoint : std::uint8_t { kDoEvents, kBox, kFileDialog, kMenu, kPopup, kModal };
+
 // A message without records and text.
 WindowMessage MessageTo(WindowHandle window, std::uint32_t number, std::int64_t wParam, std::int64_t lParam);
 
@@ -49,9 +52,13 @@ class LocalWindows final : public WindowSystem, private LocalProcess {
   std::function<bool(ShownWindow& window, const std::function<bool()>& open)> Person;
   // Meets a menu that popped up from a form.
   std::function<void(ShownPopup& popup)> PopupPerson;
+  // Hears of every place where messages run in the middle of something, before they do.
+  std::function<void(YieldPoint)> Yielding;
   // Whether there is such a file for an animation to play.
   std::function<bool(const std::wstring& path)> FileTest;
 
+  // Lets messages run, for those who show menus and boxes.
+  void Yield(YieldPoint point);
   // Lets time pass, with all that falls due in it.
   void Advance(std::int64_t milliseconds);
   // 0 without a main window.
@@ -82,6 +89,7 @@ class LocalWindows final : public WindowSystem, private LocalProcess {
   void DestroyMainWindow(WindowHandle window) override;
   void SetWindowHook(WindowHandle window, std::function<MessageResult(WindowMessage&)> hook) override;
   std::int32_t MouseScreenDpi() override { return Dpi; }
+  std::int32_t MainScreenDpi() override { return Dpi; }
   std::vector<Box> Screens() override;
   std::uint32_t RegisterWindowMessageA(const std::wstring& name) override { return session_->MessageNumber(name); }
   bool PostMessageA(WindowHandle window, std::uint32_t message, std::int64_t wParam, std::int64_t lParam) override;
@@ -92,7 +100,7 @@ class LocalWindows final : public WindowSystem, private LocalProcess {
   void SetForegroundWindow(WindowHandle window) override;
   void CancelModes() override;
   bool ClaimInstance(const std::wstring& name) override { return session_->Claim(name, *this); }
-  void DoEvents() override;
+  void DoEvents() override { Yield(YieldPoint::kDoEvents); }
   void RunLoop() override;
   void RunModal(WindowHandle window, const std::function<bool()>& open) override;
   Peers& peers() override { return peers_; }
@@ -120,6 +128,7 @@ class LocalWindows final : public WindowSystem, private LocalProcess {
   void MeetPopup(ShownPopup& popup) override;
   bool RunOne();
   void RunPending();
+  void LetRun();
   void TellAtRest();
   void RunWhile(const std::function<bool()>& going);
   void RunNextLater();

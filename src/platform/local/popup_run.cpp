@@ -26,14 +26,8 @@ std::int32_t ItemNumber(const LocalMenuEntry& entry) { return entry.popup != 0 ?
 
 }  // namespace
 
-PopupRun::PopupRun(MenuTree& tree, LocalWindows& windows, LocalDrawing& drawing, WindowHandle window,
-                   std::uint32_t selectedState)
-    : tree_(tree),
-      windows_(windows),
-      drawing_(drawing),
-      window_(window),
-      selectedState_(selectedState),
-      cancelModes_(windows.CancelledModes()) {}
+PopupRun::PopupRun(MenuTree& tree, LocalWindows& windows, LocalDrawing& drawing, const PopupLook& look)
+    : tree_(tree), windows_(windows), drawing_(drawing), look_(look), cancelModes_(windows.CancelledModes()) {}
 
 void PopupRun::Open(MenuHandle menu) {
   Measure(menu);
@@ -51,7 +45,7 @@ void PopupRun::Measure(MenuHandle menu) {
     if (entry.measuredDpi == windows_.Dpi) continue;
     MeasureRecord record{.controlType = kControlMenu, .itemID = ItemNumber(entry)};
     if (entry.IsOwnerDrawn()) {
-      WindowMessage message = MessageTo(window_, kMessageMeasureItem, 0, 0);
+      WindowMessage message = MessageTo(look_.window, kMessageMeasureItem, 0, 0);
       message.measure = &record;
       windows_.Deliver(message);
     } else {
@@ -75,7 +69,7 @@ void PopupRun::LayOut(PopupView& view) const {
     view.rects.push_back({border, top, right, top + entry.height});
     top += entry.height;
   }
-  view.context = drawing_.OpenContext(dpi, right + border, top + border, drawing_.GetSysColor(kColorMenu));
+  view.context = drawing_.OpenContext(dpi, right + border, top + border, look_.background);
 }
 
 void PopupRun::Draw(const PopupView& view, std::int32_t position) {
@@ -84,11 +78,11 @@ void PopupRun::Draw(const PopupView& view, std::int32_t position) {
   if (entry == nullptr || !entry->IsOwnerDrawn() || index >= view.rects.size()) return;
   const DrawRecord record{.controlType = kControlMenu,
                           .itemID = ItemNumber(*entry),
-                          .itemState = view.selected == position ? selectedState_ : 0,
+                          .itemState = view.selected == position ? look_.selectedState : 0,
                           .context = view.context,
                           .rect = view.rects[index]};
   drawing_.StartDrawing(record.context);
-  WindowMessage message = MessageTo(window_, kMessageDrawItem, 0, 0);
+  WindowMessage message = MessageTo(look_.window, kMessageDrawItem, 0, 0);
   message.draw = &record;
   windows_.Deliver(message);
 }
@@ -156,7 +150,7 @@ bool PopupRun::Perform(const MenuAction& action) {
 }
 
 void PopupRun::RightClick() {
-  WindowMessage message = MessageTo(window_, kMessageMenuRightButtonUp, Top().selected, Top().menu);
+  WindowMessage message = MessageTo(look_.window, kMessageMenuRightButtonUp, Top().selected, Top().menu);
   windows_.Deliver(message);
 }
 
@@ -226,10 +220,10 @@ void PopupRun::Execute(bool byKey) {
 
 // The program's messages go on while a menu is open. One of them may end the menu, or take it away.
 void PopupRun::LetOthersRun() {
-  windows_.DoEvents();
+  windows_.Yield(YieldPoint::kMenu);
   const bool gone =
       std::any_of(levels_.begin(), levels_.end(), [this](const PopupView& view) { return !tree_.Exists(view.menu); });
-  if (gone || windows_.Main() != window_ || windows_.CancelledModes() != cancelModes_) CloseFrom(0);
+  if (gone || windows_.Main() != look_.window || windows_.CancelledModes() != cancelModes_) CloseFrom(0);
 }
 
 }  // namespace burrowmark

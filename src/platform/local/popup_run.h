@@ -21,13 +21,18 @@ struct PopupView {
   std::int32_t selected = -1;  // position; -1 for none
 };
 
+struct PopupLook {
+  WindowHandle window = 0;          // hears of measuring and drawing
+  std::uint32_t selectedState = 0;  // what an entry's state is while it is selected
+  Color background = 0;
+};
+
 // Owner-drawn entries are measured when a popup opens for the first time after they or the scale changed, and drawn by
-// the window's hook on a canvas that has the colour of menus.
+// the window's hook on a canvas that has the background's colour.
 class PopupRun {
  public:
-  // All must outlive this object. `selectedState` is what an entry's state is while it is selected.
-  PopupRun(MenuTree& tree, LocalWindows& windows, LocalDrawing& drawing, WindowHandle window,
-           std::uint32_t selectedState);
+  // All must outlive this object.
+  PopupRun(MenuTree& tree, LocalWindows& windows, LocalDrawing& drawing, const PopupLook& look);
   ~PopupRun() { CloseFrom(0); }
   PopupRun(const PopupRun&) = delete;
   PopupRun& operator=(const PopupRun&) = delete;
@@ -70,8 +75,7 @@ class PopupRun {
   MenuTree& tree_;
   LocalWindows& windows_;
   LocalDrawing& drawing_;
-  WindowHandle window_;
-  std::uint32_t selectedState_;
+  PopupLook look_;
   std::size_t cancelModes_;
   std::vector<PopupView> levels_;  // open popups from the root on
   std::optional<std::int32_t> chosen_;

@@ -151,6 +151,10 @@ void ShownWindow::Mouse(WindowHandle control, MouseAction action, const MouseEve
   });
 }
 
+void ShownWindow::LoseMouse() {
+  Do([this] { form_->UserLoseMouse(); });
+}
+
 // --- menus and bars
 
 void ShownWindow::ChooseMenu(const MenuPath& path) {

@@ -166,6 +166,8 @@ class ShownWindow {
   std::vector<std::wstring> PanelTexts(WindowHandle statusBar) const;
   // The mouse at a point of a control, or of the client area for 0; in twips from its corner.
   void Mouse(WindowHandle control, MouseAction action, const MouseEvent& event);
+  // The system takes the mouse from the form while a button is held.
+  void LoseMouse();
 
   // In a list; rows and columns count from 0, and a row of -1 is the empty space below them.
   void ClickRow(WindowHandle list, std::int32_t row, std::int32_t button = kLeftButton, std::int32_t shift = 0);

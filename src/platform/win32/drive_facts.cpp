@@ -7,6 +7,7 @@
 #include "platform/characters.h"
 #include "platform/file_system.h"
 #include "platform/win32/quiet_drives.h"
+#include "platform/win32/system_library.h"
 
 namespace burrowmark {
 namespace {
@@ -23,13 +24,17 @@ std::wstring RootOf(wchar_t letter) { return {letter, L':', L'\\'}; }
 // The share that a drive was connected to, as this machine remembers it: the server isn't asked. Empty if none is
 // known.
 std::wstring ShareOf(wchar_t letter) {
+  // Loaded with the first drive of a network.
+  static const SystemLibrary library(L"mpr.dll");
+  const auto connection = library.Find<decltype(&::WNetGetConnectionW)>("WNetGetConnectionW");
+  if (connection == nullptr) return {};
   const std::wstring drive = {letter, L':'};
   std::wstring share(kUsualShare, L'\0');
   auto room = static_cast<DWORD>(share.size());
-  DWORD result = ::WNetGetConnectionW(drive.c_str(), share.data(), &room);
+  DWORD result = connection(drive.c_str(), share.data(), &room);
   if (result == ERROR_MORE_DATA) {
     share.resize(room);
-    result = ::WNetGetConnectionW(drive.c_str(), share.data(), &room);
+    result = connection(drive.c_str(), share.data(), &room);
   }
   // A drive that was connected before and isn't now keeps its share.
   if (result != NO_ERROR && result != ERROR_CONNECTION_UNAVAIL) return {};

@@ -366,9 +366,14 @@ bool FormWindow::PreviewKey(const MSG& message) const {
   return atControl && ::SendMessageW(message.hwnd, kReflected + WM_KEYDOWN, message.wParam, message.lParam) != 0;
 }
 
-void FormWindow::Mouse(const MouseMessage& mouse) const {
+void FormWindow::Mouse(const MouseMessage& mouse) {
   if (mouse.action == MouseAction::kDown) ::SetCapture(window_);
-  if (mouse.action == MouseAction::kUp && ::GetCapture() == window_) ::ReleaseCapture();
+  const bool anyHeld = ::GetKeyState(VK_LBUTTON) < 0 || ::GetKeyState(VK_RBUTTON) < 0;
+  if (mouse.action == MouseAction::kUp && !anyHeld && ::GetCapture() == window_) {
+    releasing_ = true;
+    ::ReleaseCapture();
+    releasing_ = false;
+  }
   form_->UserMouse(mouse.action, mouse.event);
 }
 
@@ -397,6 +402,10 @@ LRESULT FormWindow::Answer(UINT message, WPARAM wParam, LPARAM lParam) {
     return 0;
   }
   switch (message) {
+    case WM_CAPTURECHANGED:
+      // A box or another window over this one takes it, for instance.
+      if (!releasing_ && reinterpret_cast<HWND>(lParam) != window_) form_->UserLoseMouse();
+      return 0;
     case WM_CLOSE:
       form_->UserClose();
       return 0;

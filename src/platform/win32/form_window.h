@@ -79,7 +79,7 @@ class FormWindow final : public FormPeer {
   LRESULT EnterButtonId() const;
   bool PreviewKey(const MSG& message) const;
   void NoteInput(UINT message);
-  void Mouse(const MouseMessage& mouse) const;
+  void Mouse(const MouseMessage& mouse);
   void Lost();
   void RunCommand(UINT command);
   bool OpenMenu(HMENU menu);
@@ -115,6 +115,7 @@ class FormWindow final : public FormPeer {
   HWND focusBefore_ = nullptr;  // had it when the window was left
   HWND blockedOwner_ = nullptr;
   EntryMenus menus_;
+  bool releasing_ = false;    // the capture, by itself
   bool keyCameLast_ = false;  // not a button of the mouse
   IconImage bigIcon_;
   IconImage smallIcon_;

@@ -16,13 +16,18 @@ static_assert(kControlMenu == ODT_MENU);
 
 }  // namespace
 
-BorrowedContext::BorrowedContext(HDC context, HFONT font) : context_(context), saved_(::SaveDC(context)) {
-  ::SetBkMode(context, TRANSPARENT);
+BorrowedContext::BorrowedContext(HDC context, HFONT font)
+    : context_(context),
+      fontBefore_(::GetCurrentObject(context, OBJ_FONT)),
+      modeBefore_(::SetBkMode(context, TRANSPARENT)),
+      textColorBefore_(::GetTextColor(context)) {
   if (font != nullptr) ::SelectObject(context, font);
 }
 
 BorrowedContext::~BorrowedContext() {
-  if (saved_ != 0) ::RestoreDC(context_, saved_);
+  ::SelectObject(context_, fontBefore_);
+  ::SetBkMode(context_, modeBefore_);
+  ::SetTextColor(context_, textColorBefore_);
 }
 
 DecodedMessage::DecodedMessage(HWND window, UINT number, WPARAM wParam, LPARAM lParam, UINT selectedState,

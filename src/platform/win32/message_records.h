@@ -11,7 +11,7 @@
 namespace burrowmark {
 
 // A context that was handed to us for one drawing: text has no background and the menu's font, and afterwards all is as
-// it was, since the system goes on to draw the arrow of a group.
+// it was, since the system goes on to draw the arrow of a group. What was excluded from drawing stays so.
 class BorrowedContext {
  public:
   BorrowedContext(HDC context, HFONT font);
@@ -21,7 +21,9 @@ class BorrowedContext {
 
  private:
   HDC context_;
-  int saved_;
+  HGDIOBJ fontBefore_;
+  int modeBefore_;
+  COLORREF textColorBefore_;
 };
 
 // Decodes the records that a message points at, as long as it lives, and writes the answer of a measuring back.

@@ -11,6 +11,7 @@
 #include <string_view>
 
 #include "platform/win32/handles.h"
+#include "platform/win32/system_library.h"
 
 namespace burrowmark {
 namespace {
@@ -39,8 +40,22 @@ BOOL CALLBACK FindDialog(HWND window, LPARAM found) {
   return FALSE;
 }
 
+// Loaded with the first dialog: a program at rest has no use for it and for all that it loads in turn.
+struct CommonDialogs {
+  SystemLibrary library{L"comdlg32.dll"};
+  decltype(&::GetSaveFileNameW) save = library.Find<decltype(save)>("GetSaveFileNameW");
+  decltype(&::GetOpenFileNameW) open = library.Find<decltype(open)>("GetOpenFileNameW");
+  decltype(&::CommDlgExtendedError) error = library.Find<decltype(error)>("CommDlgExtendedError");
+};
+
 bool Ask(bool save, OPENFILENAMEW& dialog) {
-  return (save ? ::GetSaveFileNameW(&dialog) : ::GetOpenFileNameW(&dialog)) != FALSE;
+  static const CommonDialogs dialogs;
+  const auto call = save ? dialogs.save : dialogs.open;
+  if (call == nullptr) return false;
+  if (call(&dialog) != FALSE) return true;
+  if (dialogs.error == nullptr || dialogs.error() != FNERR_INVALIDFILENAME) return false;
+  dialog.lpstrFile[0] = L'\0';  // a name that can't be one doesn't keep the dialog away
+  return call(&dialog) != FALSE;
 }
 
 }  // namespace
@@ -66,12 +81,7 @@ std::optional<FileAnswer> Win32Dialogs::FileDialog(const FileRequest& request) {
   dialog.nMaxFile = static_cast<DWORD>(kLongestPath);
   dialog.lpstrTitle = request.title.c_str();
   dialog.Flags = OFN_EXPLORER | OFN_HIDEREADONLY | OFN_NOCHANGEDIR;
-  bool chosen = Ask(request.save, dialog);
-  if (!chosen && ::CommDlgExtendedError() == FNERR_INVALIDFILENAME) {
-    path[0] = L'\0';  // a name that can't be one doesn't keep the dialog away
-    chosen = Ask(request.save, dialog);
-  }
-  if (!chosen) return std::nullopt;
+  if (!Ask(request.save, dialog)) return std::nullopt;
   return FileAnswer{path.c_str(), static_cast<std::int32_t>(dialog.nFilterIndex)};
 }
 

@@ -32,6 +32,14 @@ bool Win32Drawing::IsHighContrast() {
          (contrast.dwFlags & HCF_HIGHCONTRASTON) != 0;
 }
 
+bool Win32Drawing::AppsAreDark() {
+  DWORD light = 1;
+  DWORD size = sizeof(light);
+  ::RegGetValueW(HKEY_CURRENT_USER, L"Software\\Microsoft\\Windows\\CurrentVersion\\Themes\\Personalize",
+                 L"AppsUseLightTheme", RRF_RT_REG_DWORD, nullptr, &light, &size);
+  return light == 0;
+}
+
 BrushHandle Win32Drawing::CreateSolidBrush(Color color) {
   return reinterpret_cast<INT_PTR>(::CreateSolidBrush(color & kColorBits));
 }
@@ -59,11 +67,16 @@ void Win32Drawing::DrawIconEx(DeviceContext context, std::int32_t x, std::int32_
   ::DrawIconEx(ToHdc(context), x, y, ToHicon(icon), width, height, 0, nullptr, flags);
 }
 
+void Win32Drawing::ExcludeClipRect(DeviceContext context, const Rect& rect) {
+  ::ExcludeClipRect(ToHdc(context), rect.left, rect.top, rect.right, rect.bottom);
+}
+
 DeviceContext Win32Drawing::MenuMeasureContext(std::int32_t dpi) { return FromHdc(font_.Context(dpi)); }
 
-std::int32_t Win32Drawing::GetCharWidth32A(DeviceContext context, wchar_t character) {
-  INT width = 0;
-  return ::GetCharWidth32W(ToHdc(context), character, character, &width) != FALSE ? width : 0;
+TextExtent Win32Drawing::GetTextExtentPoint32A(DeviceContext context, const std::wstring& text) {
+  SIZE size = {};
+  ::GetTextExtentPoint32W(ToHdc(context), text.c_str(), static_cast<int>(text.size()), &size);
+  return {static_cast<std::int32_t>(size.cx), static_cast<std::int32_t>(size.cy)};
 }
 
 std::int32_t Win32Drawing::MenuIconCount() { return kIconCount; }

@@ -18,6 +18,7 @@ class Win32Drawing final : public Drawing {
 
   Color GetSysColor(std::int32_t index) override;
   bool IsHighContrast() override;
+  bool AppsAreDark() override;
   BrushHandle CreateSolidBrush(Color color) override;
   bool DeleteObject(BrushHandle brush) override;
   void FillRect(DeviceContext context, const Rect& rect, BrushHandle brush) override;
@@ -26,8 +27,9 @@ class Win32Drawing final : public Drawing {
   void DrawTextA(DeviceContext context, const std::wstring& text, const Rect& rect, std::uint32_t format) override;
   void DrawIconEx(DeviceContext context, std::int32_t x, std::int32_t y, IconHandle icon, std::int32_t width,
                   std::int32_t height, std::uint32_t flags) override;
+  void ExcludeClipRect(DeviceContext context, const Rect& rect) override;
   DeviceContext MenuMeasureContext(std::int32_t dpi) override;
-  std::int32_t GetCharWidth32A(DeviceContext context, wchar_t character) override;
+  TextExtent GetTextExtentPoint32A(DeviceContext context, const std::wstring& text) override;
   std::int32_t MenuIconCount() override;
   IconHandle LoadMenuIcon(std::int32_t number, std::int32_t size) override;
 

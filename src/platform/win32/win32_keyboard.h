@@ -1,18 +1,15 @@
 // Keys of the real system's desktop.
 #pragma once
 
-#include <windows.h>
-
 #include <memory>
 
 #include "platform/keyboard.h"
 
 namespace burrowmark {
 
-// The hook is called in the message loop of the thread that installed it.
 class Win32Keyboard final : public Keyboard {
  public:
-  Win32Keyboard() = default;
+  Win32Keyboard();
   ~Win32Keyboard() override;
   Win32Keyboard(const Win32Keyboard&) = delete;
   Win32Keyboard& operator=(const Win32Keyboard&) = delete;
@@ -23,7 +20,9 @@ class Win32Keyboard final : public Keyboard {
   std::int16_t GetKeyState(std::int32_t key) override;
 
  private:
-  HHOOK hook_ = nullptr;
+  class HookThread;
+
+  std::unique_ptr<HookThread> thread_;  // none without a hook
 };
 
 }  // namespace burrowmark

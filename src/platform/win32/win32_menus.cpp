@@ -2,6 +2,9 @@
 
 #include <windows.h>
 
+#include <utility>
+#include <vector>
+
 #include "platform/win32/handles.h"
 #include "platform/win32/menu_right_click.h"
 #include "platform/win32/menu_style.h"
@@ -16,15 +19,22 @@ bool HasPosition(HMENU menu, std::int32_t position) {
   return position >= 0 && position < ::GetMenuItemCount(menu);  // -1 for what isn't a menu
 }
 
-// An entry without its popup. Its text is kept beside the mark of owner drawing, which the older calls can't do.
+// An entry without its popup and name. Its text is kept beside the mark of owner drawing, which the older calls can't
+// do.
 MENUITEMINFOW Entry(std::int32_t flags, std::int32_t id, const std::wstring& text) {
   MENUITEMINFOW entry = {};
   entry.cbSize = sizeof(entry);
-  entry.fMask = MIIM_FTYPE | MIIM_ID | MIIM_STRING;
+  entry.fMask = MIIM_FTYPE | MIIM_ID | MIIM_STRING | MIIM_DATA;
   entry.fType = static_cast<UINT>(flags) & (MFT_OWNERDRAW | MFT_SEPARATOR);
   entry.wID = static_cast<UINT>(id);
   entry.dwTypeData = const_cast<wchar_t*>(text.c_str());
   return entry;
+}
+
+bool IsDrawn(std::int32_t flags) { return (flags & kMenuOwnerDrawn) != 0; }
+
+void AddTo(std::vector<ULONG_PTR>& all, const std::vector<ULONG_PTR>& more) {
+  all.insert(all.end(), more.begin(), more.end());
 }
 
 // A popup that can be put into a menu.
@@ -58,7 +68,12 @@ MenuHandle Win32Menus::CreatePopupMenu() {
   return FromHmenu(popup);
 }
 
-bool Win32Menus::DestroyMenu(MenuHandle menu) { return ::DestroyMenu(ToHmenu(menu)) != FALSE; }
+bool Win32Menus::DestroyMenu(MenuHandle menu) {
+  const std::vector<ULONG_PTR> names = DataOfMenu(ToHmenu(menu));
+  if (::DestroyMenu(ToHmenu(menu)) == FALSE) return false;
+  names_.Remove(names);
+  return true;
+}
 
 bool Win32Menus::InsertMenuA(MenuHandle menu, std::int32_t position, std::int32_t flags, std::int32_t id,
                              const std::wstring& text) {
@@ -72,7 +87,10 @@ bool Win32Menus::InsertMenuA(MenuHandle menu, std::int32_t position, std::int32_
     if (!IsFreePopup(entry.hSubMenu, handle)) return false;
   }
   const int place = position < 0 || position > count ? count : position;
-  return ::InsertMenuItemW(handle, static_cast<UINT>(place), TRUE, &entry) != FALSE;
+  if (IsDrawn(flags)) entry.dwItemData = names_.Add(text);
+  if (::InsertMenuItemW(handle, static_cast<UINT>(place), TRUE, &entry) != FALSE) return true;
+  names_.Remove({entry.dwItemData});
+  return false;
 }
 
 bool Win32Menus::ModifyMenuA(MenuHandle menu, std::int32_t position, std::int32_t flags, std::int32_t id,
@@ -88,15 +106,28 @@ bool Win32Menus::ModifyMenuA(MenuHandle menu, std::int32_t position, std::int32_
     entry.hSubMenu = hasNewPopup ? ToHmenu(id) : nullptr;
     if (hasNewPopup && !IsFreePopup(entry.hSubMenu, handle)) return false;
   }
-  if (::SetMenuItemInfoW(handle, static_cast<UINT>(position), TRUE, &entry) == FALSE) return false;
+  std::vector<ULONG_PTR> going = {DataOfEntry(handle, static_cast<UINT>(position))};
+  const bool losesPopup = !keepsPopup && popupBefore != nullptr && popupBefore != entry.hSubMenu;
+  if (losesPopup) AddTo(going, DataOfMenu(popupBefore));
+  if (IsDrawn(flags)) entry.dwItemData = names_.Add(text);
+  if (::SetMenuItemInfoW(handle, static_cast<UINT>(position), TRUE, &entry) == FALSE) {
+    names_.Remove({entry.dwItemData});
+    return false;
+  }
   // Not every system frees a popup that has lost its entry.
-  if (!keepsPopup && popupBefore != entry.hSubMenu && ::IsMenu(popupBefore) != FALSE) ::DestroyMenu(popupBefore);
+  if (losesPopup && ::IsMenu(popupBefore) != FALSE) ::DestroyMenu(popupBefore);
+  names_.Remove(going);
   return true;
 }
 
 bool Win32Menus::DeleteMenu(MenuHandle menu, std::int32_t position, std::int32_t flags) {
   if ((flags & kMenuByPosition) == 0 || !HasPosition(ToHmenu(menu), position)) return false;
-  return ::DeleteMenu(ToHmenu(menu), static_cast<UINT>(position), MF_BYPOSITION) != FALSE;
+  const auto place = static_cast<UINT>(position);
+  std::vector<ULONG_PTR> going = {DataOfEntry(ToHmenu(menu), place)};
+  AddTo(going, DataOfMenu(::GetSubMenu(ToHmenu(menu), position)));
+  if (::DeleteMenu(ToHmenu(menu), place, MF_BYPOSITION) == FALSE) return false;
+  names_.Remove(going);
+  return true;
 }
 
 std::int32_t Win32Menus::GetMenuItemCount(MenuHandle menu) { return ::GetMenuItemCount(ToHmenu(menu)); }
@@ -106,17 +137,29 @@ std::int32_t Win32Menus::GetMenuItemID(MenuHandle menu, std::int32_t position) {
   return static_cast<std::int32_t>(::GetMenuItemID(ToHmenu(menu), position));
 }
 
-std::int32_t Win32Menus::TrackPopupMenu(MenuHandle menu, WindowHandle window) {
+std::int32_t Win32Menus::TrackPopupMenu(MenuHandle menu, WindowHandle window, Color background) {
   const std::int32_t dpi = dpi_.AtMouse();
   if (!IsMeasuredFor(dpi)) ForgetSizes(ToHmenu(menu));
   measuredDpi_ = dpi;
   measuredChanges_ = font_.Changes();
+  ShowBackground(ToHmenu(menu), background);
   POINT mouse = {};
   ::GetCursorPos(&mouse);
   const RightClickWatch watch;
   // The left button alone chooses: a right click is told to the window and chooses nothing.
   constexpr UINT kHow = TPM_LEFTALIGN | TPM_TOPALIGN | TPM_RETURNCMD;
   return ::TrackPopupMenu(ToHmenu(menu), kHow, mouse.x, mouse.y, 0, ToHwnd(window), nullptr);
+}
+
+// The brush before stays until the popups have the new one.
+void Win32Menus::ShowBackground(HMENU menu, Color background) {
+  Brush brush(::CreateSolidBrush(background));
+  MENUINFO info = {};
+  info.cbSize = sizeof(info);
+  info.fMask = MIM_BACKGROUND | MIM_APPLYTOSUBMENUS;
+  info.hbrBack = brush.get();
+  ::SetMenuInfo(menu, &info);
+  background_ = std::move(brush);
 }
 
 }  // namespace burrowmark

@@ -1,11 +1,22 @@
 // Popup menus of the real system.
 #pragma once
 
+#include <windows.h>
+
+#include <memory>
+#include <type_traits>
+
 #include "platform/menus.h"
+#include "platform/win32/entry_names.h"
 #include "platform/win32/menu_font.h"
 #include "platform/win32/screen_dpi.h"
 
 namespace burrowmark {
+
+struct DeleteBrush {
+  void operator()(HBRUSH brush) const { ::DeleteObject(brush); }
+};
+using Brush = std::unique_ptr<std::remove_pointer_t<HBRUSH>, DeleteBrush>;
 
 class Win32Menus final : public Menus {
  public:
@@ -22,13 +33,16 @@ class Win32Menus final : public Menus {
   bool DeleteMenu(MenuHandle menu, std::int32_t position, std::int32_t flags) override;
   std::int32_t GetMenuItemCount(MenuHandle menu) override;
   std::int32_t GetMenuItemID(MenuHandle menu, std::int32_t position) override;
-  std::int32_t TrackPopupMenu(MenuHandle menu, WindowHandle window) override;
+  std::int32_t TrackPopupMenu(MenuHandle menu, WindowHandle window, Color background) override;
 
  private:
+  void ShowBackground(HMENU menu, Color background);
   bool IsMeasuredFor(std::int32_t dpi) const { return dpi == measuredDpi_ && font_.Changes() == measuredChanges_; }
 
   const ScreenDpi& dpi_;
   const MenuFont& font_;
+  EntryNames names_;
+  Brush background_;  // of the popups since the last showing
   std::int32_t measuredDpi_ = 0;
   std::uint32_t measuredChanges_ = 0;
 };

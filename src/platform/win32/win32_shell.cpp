@@ -131,8 +131,12 @@ bool Win32Shell::RecycleFile(const std::wstring& path) {
 }
 
 std::int32_t Win32Shell::mciSendStringA(const std::wstring& command) {
+  // Loaded with the first command: a program at rest has no use for it.
+  static const SystemLibrary library(L"winmm.dll");
+  const auto send = library.Find<decltype(&::mciSendStringW)>("mciSendStringW");
+  if (send == nullptr) return MCIERR_CANNOT_LOAD_DRIVER;
   wchar_t answer[kMediaAnswer] = {};
-  return static_cast<std::int32_t>(::mciSendStringW(command.c_str(), answer, kMediaAnswer, nullptr));
+  return static_cast<std::int32_t>(send(command.c_str(), answer, kMediaAnswer, nullptr));
 }
 
 }  // namespace burrowmark

@@ -82,6 +82,8 @@ void Win32Windows::SetWindowHook(WindowHandle window, std::function<MessageResul
 
 std::int32_t Win32Windows::MouseScreenDpi() { return dpi_.AtMouse(); }
 
+std::int32_t Win32Windows::MainScreenDpi() { return dpi_.OfMonitor(::MonitorFromPoint({}, MONITOR_DEFAULTTOPRIMARY)); }
+
 std::vector<Box> Win32Windows::Screens() {
   std::vector<Box> screens;
   ::EnumDisplayMonitors(nullptr, nullptr, AddScreen, reinterpret_cast<LPARAM>(&screens));

@@ -25,6 +25,7 @@ class Win32Windows final : public WindowSystem {
   void DestroyMainWindow(WindowHandle window) override;
   void SetWindowHook(WindowHandle window, std::function<MessageResult(WindowMessage&)> hook) override;
   std::int32_t MouseScreenDpi() override;
+  std::int32_t MainScreenDpi() override;
   std::vector<Box> Screens() override;
 
   std::uint32_t RegisterWindowMessageA(const std::wstring& name) override;

@@ -22,6 +22,7 @@ WorkQueue::~WorkQueue() {
 }
 
 void WorkQueue::Post(std::function<void()> work) {
+  const std::lock_guard lock(mutex_);
   waiting_.push_back(std::move(work));
   // One message is on its way at a time, however much waits: the system's queue has an end.
   if (waiting_.size() == 1) ::PostMessageW(window_, kRunNext, 0, 0);
@@ -47,10 +48,14 @@ LRESULT CALLBACK WorkQueue::Procedure(HWND window, UINT message, WPARAM wParam, 
 }
 
 void WorkQueue::RunNext() {
-  if (waiting_.empty()) return;
-  const std::function<void()> work = std::move(waiting_.front());
-  waiting_.pop_front();
-  if (!waiting_.empty()) ::PostMessageW(window_, kRunNext, 0, 0);
+  std::function<void()> work;
+  {
+    const std::lock_guard lock(mutex_);
+    if (waiting_.empty()) return;
+    work = std::move(waiting_.front());
+    waiting_.pop_front();
+    if (!waiting_.empty()) ::PostMessageW(window_, kRunNext, 0, 0);
+  }
   work();
 }
 

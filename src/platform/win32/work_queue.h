@@ -7,6 +7,7 @@
 #include <deque>
 #include <functional>
 #include <map>
+#include <mutex>
 
 #include "platform/win32/window_class.h"
 
@@ -21,6 +22,7 @@ class WorkQueue {
   WorkQueue(const WorkQueue&) = delete;
   WorkQueue& operator=(const WorkQueue&) = delete;
 
+  // From any thread; the work runs on the one that made this.
   void Post(std::function<void()> work);
   void PostLater(std::int32_t milliseconds, std::function<void()> work);
 
@@ -31,7 +33,8 @@ class WorkQueue {
 
   WindowClass class_;
   HWND window_ = nullptr;
-  std::deque<std::function<void()>> waiting_;
+  std::mutex mutex_;
+  std::deque<std::function<void()>> waiting_;        // under the mutex
   std::map<UINT_PTR, std::function<void()>> later_;  // by timer
   UINT_PTR lastTimer_ = 0;
 };
