@@ -323,7 +323,8 @@ TEST_P(ViewsContract, ALabelIsEditedOnCommandAlone) {
   EXPECT_FALSE(screen_.EditsLabel(list_.Window()));
   EXPECT_EQ(Heard(), Texts()) << "Enter and Esc were the label's own";
   list_.BeforeLabelEdit = {};
-  list_.AfterLabelEdit = [](bool&, std::wstring&) { ADD_FAILURE() << "a row that goes takes its edit along"; };
+  list_.AfterLabelEdit =
+      tree_.AfterLabelEdit = [](bool&, std::wstring&) { ADD_FAILURE() << "a row that goes ends it"; };
   list_.StartLabelEdit();
   ASSERT_TRUE(screen_.EditsLabel(list_.Window()));
   list_.Clear();

@@ -232,7 +232,7 @@ TEST_F(OpenOrganize, LabelsAreRenamedInBothPanesAndBadOnesRefused) {
   scene_.ClickRow(L"Beta");
   machine_.user.NextBox(L"Cannot rename Delta: An item with the name you specified already exists.", kAnswerOk);
   rename(L"Delta");
-  for (const wchar_t* same : {L"Beta", L""}) rename(same);
+  for (const wchar_t* same : {L"Beta", L"", L"  "}) rename(same);
   EXPECT_EQ(scene_.Rows(), L"Omega|Beta|Delta");
   EXPECT_FALSE(form().Edited.Changed);
   scene_.Window().ClickNode(scene_.Tree(), L"Drives");
@@ -393,6 +393,11 @@ TEST_F(OpenOrganize, OpeningAsksAboutChangesAndABadFileChangesNothing) {
   machine_.user.NextBox(L"Do you want to save the changes you made to default.bwmk?", kAnswerNo);
   machine_.user.NextBox(L"Error opening configuration file bad.bwmk", kAnswerOk);
   form().Init(L"/OPEN C:\\bad.bwmk");
+  WriteOther();
+  machine_.files.SetFileAttributesA(L"C:\\default.bwmk", kFileReadOnly);
+  machine_.user.NextBox(L"Do you want to save the changes you made to default.bwmk?", kAnswerYes);
+  machine_.user.NextBox(L"Error saving configuration file default.bwmk", kAnswerOk);
+  form().Init(std::wstring(L"/OPEN ") + kOther);  // what couldn't be saved stays in the window
   EXPECT_TRUE(form().Edited.Changed);
   EXPECT_EQ(scene_.Window().caption, L"Organize Folders");
   form().SaveOnExit = false;
@@ -467,6 +472,19 @@ TEST_F(OpenOrganize, AnotherFileBecomesTheDefaultOne) {
   scene_.Window().Close();  // no question, though nothing counts as changed
   EXPECT_TRUE(FileHas(kOther, "Changed"));
   EXPECT_TRUE(MenuHas(L"Changed"));
+}
+
+TEST_F(OpenOrganize, DiscardedEditsDontReachTheNewDefaultFileEither) {
+  WriteOther();
+  form().Init(std::wstring(L"/OPEN ") + kOther);
+  machine_.user.NextBox(L"Do you want to make other.bwmk the default configuration file?", kAnswerYes);
+  machine_.user.NextBox(L"other.bwmk is now the default configuration file.", kAnswerOk);
+  scene_.Window().ChooseMenu({L"File", L"Set As Default"});
+  Change();
+  machine_.user.NextBox(L"Are you sure you want to exit and lose any changes", kAnswerYes);
+  scene_.Window().ChooseMenu({L"File", L"Exit Discarding Changes"});
+  EXPECT_FALSE(FileHas(kOther, "Changed") || MenuHas(L"Changed"));
+  EXPECT_EQ(app_.MainDocument.CurrentConfigFile, kOther);
 }
 
 }  // namespace
