@@ -9,7 +9,6 @@
 namespace burrowmark {
 namespace {
 
-constexpr wchar_t kTitle[] = L"Burrowmark";
 constexpr std::int32_t kGroupImage = 2;
 constexpr std::int32_t kDoublePaneImage = 4;
 

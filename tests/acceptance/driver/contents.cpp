@@ -88,7 +88,7 @@ HTREEITEM NextNode(HWND window, WPARAM relation, HTREEITEM node) {
 RECT NodeRectangle(HWND window, HTREEITEM node) {
   const RemoteMemory memory(window, sizeof(RECT));
   // The node's handle stands in the rectangle that the control fills.
-  memory.Write(0, &node, sizeof node);
+  memory.Write(0, &node, sizeof(HTREEITEM));
   RECT rectangle{};
   if (Ask(window, TVM_GETITEMRECT, TRUE, reinterpret_cast<LPARAM>(memory.At(0)))) {
     memory.Read(0, &rectangle, sizeof rectangle);
