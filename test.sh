@@ -85,14 +85,14 @@ tools/check_rooms.py
 
 build native
 unless_passed native-unit-tests build/native/tests/unit_tests -- build/native/tests/unit_tests --gtest_brief=1
-unless_passed native-contract-tests build/native/tests/contract_tests -- \
+unless_passed native-contract-tests build/native/tests/contract_tests tests/contract/fixtures/* -- \
   build/native/tests/contract_tests --gtest_brief=1
 unless_passed native-stress build/native/tests/stress_tests -- build/native/tests/stress_tests
 
 build windows
 unless_passed windows-unit-tests build/windows/tests/unit_tests.exe -- \
   under_wine build/windows/tests/unit_tests.exe --gtest_brief=1
-unless_passed windows-contract-tests build/windows/tests/contract_tests.exe -- \
+unless_passed windows-contract-tests build/windows/tests/contract_tests.exe tests/contract/fixtures/* -- \
   under_wine build/windows/tests/contract_tests.exe --gtest_brief=1
 
 # What a user's machine asks of the program file: size, libraries, hardening.
