@@ -55,7 +55,7 @@ TEST_F(Win32Bars, ImagesHaveTheSizeOfTheScaleAndTheirOwnPlaces) {
   RECT rect = {};
   ::GetWindowRect(ToHwnd(form_.Window()), &rect);
   ::SendMessageW(ToHwnd(form_.Window()), WM_DPICHANGED, MAKEWPARAM(192, 192), reinterpret_cast<LPARAM>(&rect));
-  for (const UINT message : {TB_GETIMAGELIST, TB_GETDISABLEDIMAGELIST}) {
+  for (const UINT message : {UINT{TB_GETIMAGELIST}, UINT{TB_GETDISABLEDIMAGELIST}}) {
     const auto list = reinterpret_cast<HIMAGELIST>(::SendMessageW(ToHwnd(bar_.Window()), message, 0, 0));
     int width = 0;
     int height = 0;
