@@ -10,7 +10,6 @@
 namespace burrowmark {
 namespace {
 
-constexpr auto kLeft = LocalUser::Button::kLeft;
 constexpr auto kRight = LocalUser::Button::kRight;
 
 class MenuInUse : public testing::Test {
