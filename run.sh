@@ -10,11 +10,8 @@ build windows burrowmark acceptance_driver
 
 if [ -n "${DISPLAY:-}" ] && xdpyinfo >/dev/null 2>&1; then
   say "starting on the screen; end it by closing the window, or with Ctrl+C here"
-  exec python3 tests/acceptance/on_screen.py build/windows/src/app/burrowmark.exe build/run
+  exec python3 tools/pictures/on_screen.py build/windows/src/app/burrowmark.exe build/run
 fi
 say "no screen: starting on a virtual one"
-python3 tests/acceptance/pictures.py --exe build/windows/src/app/burrowmark.exe \
-  --driver build/windows/tests/acceptance/driver/acceptance_driver.exe --build build/acceptance --output build/pictures
-python3 tests/acceptance/editor_pictures.py --exe build/windows/src/app/burrowmark.exe --dpi 96 \
-  --driver build/windows/tests/acceptance/driver/acceptance_driver.exe --build build/acceptance --output build/pictures
+python3 tools/pictures/pictures.py
 say "the pictures are in build/pictures"

@@ -99,12 +99,9 @@ unless_passed windows-contract-tests build/windows/tests/contract_tests.exe test
 unless_passed program-file build/windows/src/app/burrowmark.exe tools/check_program.sh -- \
   tools/check_program.sh build/windows/src/app/burrowmark.exe
 
-acceptance_tests() {
-  python3 tests/acceptance/run.py --exe build/windows/src/app/burrowmark.exe \
-    --driver build/windows/tests/acceptance/driver/acceptance_driver.exe --build build/acceptance
-}
+acceptance_tests() { python3 -B tests/acceptance/run.py; }
 mapfile -t acceptance_files < <(git ls-files -co --exclude-standard -- tests/acceptance/'*.py' assets/icons/'*.ico')
-unless_passed acceptance build/windows/src/app/burrowmark.exe "${acceptance_files[@]}" \
+unless_passed acceptance build/windows/src/app/burrowmark.exe "${acceptance_files[@]}" src/app/icons.rc \
   build/windows/tests/acceptance/driver/acceptance_driver.exe -- acceptance_tests
 
 build fuzz

@@ -1,32 +1,35 @@
 """The program under test on a desktop: installing it, starting it, and its menu as a user sees it."""
 
 import os
+import re
 import shutil
 import signal
 from dataclasses import dataclass
 from typing import List, Tuple
 
 import bwmk
-from harness import BOX_CLASS, MENU_CLASS, DriverFailure, NotInTime, Window, wait_for
+import pixels
+from harness import BOX_CLASS, MENU_CLASS, DesktopTest, DriverFailure, NotInTime, wait_for
 
 KEY = "Software\\Kestrelan\\Burrowmark"
 FOLDER = "C:\\Burrowmark"
 EXE = FOLDER + "\\burrowmark.exe"
 FOLDER_WINDOW = "ExplorerWClass"
+ROOT = ["Help", "Personal", "Options", "Organize Folders"]
 
-GROUP, SINGLE, DOUBLE, OPTIONS, HELP, ORGANIZE, OPEN_ALL = 2, 3, 4, 5, 6, 7, 12
+GROUP, SINGLE, DOUBLE, OPTIONS, HELP, ORGANIZE = range(2, 8)  # numbers of icons
 ENTRY_HEIGHT, SEPARATOR_HEIGHT = 19, 10
-COLOUR_MENU, COLOUR_HIGHLIGHT, COLOUR_SHADOW, COLOUR_LIGHT = 4, 13, 16, 20
-RED = (255, 0, 0)
+RED, WHITE = (255, 0, 0), (255, 255, 255)
 
 
 @dataclass
 class MenuEntry:
-    """A drawn entry, found by its icon; places are those of the screen."""
-    icon: int
-    top: int
-    left: int
+    """An entry or a separator; places are those of the screen."""
+    text: str
+    rectangle: Tuple[int, int, int, int]
+    separator: bool
     selected: bool
+    group: bool
 
 
 class Menu:
@@ -34,73 +37,49 @@ class Menu:
 
     def __init__(self, program, window):
         self.program = program
-        self.window: Window = window
+        self.window = window
 
-    def _scaled(self, pixels_at_96):
-        return pixels_at_96 * self.program.desktop.dpi // 96
-
-    def entries(self, picture=None) -> List[MenuEntry]:
-        desktop = self.program.desktop
-        picture = picture or desktop.picture()
-        left, top, right, bottom = self.window.rectangle
-        strip = (left, top, min(left + self._scaled(32), right), bottom)
-        ground, bar = desktop.colour(COLOUR_MENU), desktop.colour(COLOUR_HIGHLIGHT)
-        found = []
-        for number, image in self.program.icons().items():
-            for below in {ground, bar, RED}:
-                for x, y in picture.find(image, below, strip):
-                    entry = MenuEntry(number, y - self._scaled(2), x - self._scaled(4), False)
-                    # The bar reaches from the icon's right to the text, whether the icon has a frame or not.
-                    entry.selected = picture.pixel(entry.left + self._scaled(25), y) in (bar, RED)
-                    found.append(entry)
-        return sorted(found, key=lambda entry: entry.top)
-
-    def wait_entries(self, icons) -> List[MenuEntry]:
-        """Waits until the menu shows entries with just these icons, top to bottom."""
-        seen: List[List[int]] = [[]]
-
-        def shown():
-            entries = self.entries()
-            seen[0] = [entry.icon for entry in entries]
-            return entries if seen[0] == list(icons) else None
+    def entries(self) -> List[MenuEntry]:
+        """What the system says of the open menu; nothing once it is closed."""
         try:
-            return wait_for(shown, "the entries", 10)
-        except AssertionError:
-            raise AssertionError("the menu shows the icons %r, not %r" % (seen[0], list(icons)))
+            return [MenuEntry(**line) for line in self.program.desktop.driver("menu", self.window.handle)]
+        except DriverFailure:
+            return []
 
-    def separator_tops(self, picture) -> List[int]:
-        """Places of the drawn lines that divide the menu, as the top of the separator each belongs to."""
+    def wait_texts(self, texts) -> List[MenuEntry]:
+        """Waits until the menu holds entries with just these texts, top to bottom; separators aside."""
+        seen: List[List[str]] = [[]]
+
+        def there():
+            entries = [entry for entry in self.entries() if not entry.separator]
+            seen[0] = [entry.text for entry in entries]
+            return entries if seen[0] == list(texts) else None
+        return wait_for(there, lambda: "a menu of %r; it holds %r" % (list(texts), seen[0]), 10)
+
+    def wait_selected(self, text):
+        wait_for(lambda: [entry.text for entry in self.entries() if entry.selected] == [text],
+                 "the entry %r selected alone" % text, 10)
+
+    def icon_place(self, picture, entry, number):
+        """Where an unselected entry shows an icon, or None."""
         desktop = self.program.desktop
-        left, top, right, bottom = self.window.rectangle
-        shadow = desktop.colour(COLOUR_SHADOW)
-        x = (left + right) // 2
-        inner = range(top + 3, bottom - 3)
-        lines = [y for y in inner if picture.pixel(x, y) == shadow and picture.pixel(x, y - 1) != shadow]
-        return [y - self._scaled(4) for y in lines]
+        left, top, right, bottom = entry.rectangle
+        ground = picture.pixel(right - 4, top + 1)
+        return picture.find(desktop.icon(number), ground, (left, top, left + 32 * desktop.dpi // 96, bottom))
 
-    def shows_text(self, entry, text):
-        """True if an unselected entry shows just this text, compared pixel by pixel with the menu's own font."""
-        desktop = self.program.desktop
-        drawn = desktop.driver("menu-text", text)[0]
-        width, height = drawn["width"], drawn["height"]
-        wanted = bytes.fromhex(drawn["pixels"])
-        picture = desktop.picture()
-        left, top = entry.left + self._scaled(26), entry.top + self._scaled(2)
-        for y in range(min(height, self._scaled(ENTRY_HEIGHT - 2))):
-            for x in range(width):
-                at = (y * width + x) * 3
-                if any(abs(a - b) > 24 for a, b in zip(wanted[at:at + 3], picture.pixel(left + x, top + y))):
-                    return False
-        ground = desktop.colour(COLOUR_MENU)
-        rest = range(left + width + 2, min(left + width + 12, self.window.rectangle[2] - 4))
-        return all(picture.pixel(x, top + y) == ground for x in rest for y in range(height))
-
-    def wait_text(self, entry, text):
-        """Waits for it: the tip of the tray icon may lie over the menu for a moment."""
-        wait_for(lambda: self.shows_text(entry, text), "an entry with the text %r" % text, 10)
+    def shows_text(self, picture, entry):
+        """True if there is something dark behind the icon of an unselected entry."""
+        left, top, right, bottom = entry.rectangle
+        return any(max(picture.pixel(x, y)) < 100 for y in range(top + 2, bottom - 2)
+                   for x in range(left + 26 * self.program.desktop.dpi // 96, right - 4))
 
     def click(self, entry, button="left"):
-        self.program.desktop.click((entry.left + self._scaled(60), entry.top + self._scaled(9)), button)
+        left, top, _, bottom = entry.rectangle
+        self.program.desktop.click((left + 60 * self.program.desktop.dpi // 96, (top + bottom) // 2), button)
+
+    def wait_level(self):
+        """The level that opens beside this one."""
+        return self.program.wait_menu({self.window.handle})
 
     def open_level(self, entry):
         """Clicks on a group and gives its level."""
@@ -111,22 +90,21 @@ class Menu:
 
 def install(exe, folder):
     """Copies the program and what stands beside it."""
-    shutil.copy(exe, folder / "burrowmark.exe")
-    shutil.copy(exe.parent / "filecopy.avi", folder)
+    folder.mkdir(exist_ok=True)
+    for file in (exe, exe.parent / "filecopy.avi"):
+        shutil.copy(file, folder)
 
 
 class Program:
     """The program, installed into a folder of the desktop's drive C."""
 
-    def __init__(self, desktop, exe):
+    def __init__(self, desktop):
         self.desktop = desktop
         self.folder = desktop.prefix.host_path(FOLDER)
         self.file = self.folder / "default.bwmk"
         self.process = None
-        self._icons = {}
         shutil.rmtree(self.folder, ignore_errors=True)
-        self.folder.mkdir()
-        install(exe, self.folder)
+        install(desktop.settings.exe, self.folder)
         # Nothing of an earlier run; two generated groups off, so that the menu holds what the file says.
         desktop.driver("delete-key", "Software\\Kestrelan")
         self.set_option("AC0", False)
@@ -134,11 +112,6 @@ class Program:
 
     def set_option(self, name, value):
         self.desktop.driver("write-value", KEY + "\\Settings", name, "-1" if value else "0")
-
-    def icons(self):
-        if not self._icons:
-            self._icons = {number: self.desktop.icon(number) for number in range(1, 14)}
-        return self._icons
 
     def write_tree(self, *entries):
         bwmk.write(self.file, entries)
@@ -178,17 +151,21 @@ class Program:
                 self.desktop.exit_code(self.process, 5)
             except NotInTime:
                 pass
-        for process in self.desktop.processes("burrowmark.exe"):
+        for process in self.desktop.prefix.processes("burrowmark.exe"):
             try:
                 os.kill(process.pid, signal.SIGTERM)
             except ProcessLookupError:  # gone meanwhile
                 pass
-        for window in self.desktop.windows(FOLDER_WINDOW):
-            self._try(lambda: self.desktop.driver("close", window.handle))
-        wait_for(lambda: not self.desktop.windows(FOLDER_WINDOW), "the end of the folder windows")
-        wait_for(lambda: not self.desktop.processes("burrowmark.exe"), "the end of the program")
+        wait_for(self._no_folder_windows, "the end of the folder windows")
+        wait_for(lambda: not self.desktop.prefix.processes("burrowmark.exe"), "the end of the program")
         # The next test would take an icon that was left behind for its own.
         wait_for(lambda: self.desktop.find_tray_icon() is None, "the task bar without the icon")
+
+    def _no_folder_windows(self):
+        # One that is only coming is closed at a later look.
+        for window in self.desktop.windows(FOLDER_WINDOW):
+            self._try(lambda: self.desktop.driver("close", window.handle))
+        return not self.folder_commands()
 
     @staticmethod
     def _try(action):
@@ -215,24 +192,75 @@ class Program:
 
     def folder_commands(self):
         """Commands of the folder windows' processes; the task bar's own is none of them."""
-        return [process.command for process in self.desktop.processes("\\explorer.exe")
+        return [process.command for process in self.desktop.prefix.processes("\\explorer.exe")
                 if "/desktop" not in process.command]
 
     def wait_folder_window(self, title):
         return self.desktop.wait_window(FOLDER_WINDOW, title)
 
 
-def colour_place_of(program, menu, entry) -> Tuple[Tuple[int, int], Tuple[int, int, int]]:
-    """A pixel of an entry's icon that neither the menu's ground nor a bar behind it can show."""
-    picture = program.desktop.picture()
-    image = program.icons()[entry.icon]
-    x, y = entry.left + menu._scaled(4), entry.top + menu._scaled(2)
-    grounds = [program.desktop.colour(COLOUR_MENU), program.desktop.colour(COLOUR_HIGHLIGHT), RED, (255, 255, 255)]
+def colour_place_of(menu, entry, number) -> Tuple[Tuple[int, int], Tuple[int, int, int]]:
+    """A pixel of an entry's icon that nothing else shows where the icon comes to stand, and its colour."""
+    desktop = menu.program.desktop
+    left, top = wait_for(lambda: menu.icon_place(desktop.picture(), entry, number), "the icon of " + entry.text, 10)
+    picture, image = desktop.picture(), desktop.icon(number)
+    grounds = [picture.pixel(entry.rectangle[2] - 4, top), RED, WHITE]
 
-    def distance(place):
-        red, green, blue, opacity = image.pixels[place]
-        if opacity < 255:
-            return -1
-        return min(sum(abs(a - b) for a, b in zip((red, green, blue), ground)) for ground in grounds)
-    dx, dy = max(image.pixels, key=distance)
-    return (x + dx, y + dy), picture.pixel(x + dx, y + dy)
+    def strangeness(place):
+        return min(pixels.distance(image[place], ground) for ground in grounds) if image[place][3] == 255 else -1
+    dx, dy = max(image, key=strangeness)
+    return (left + dx, top + dy), picture.pixel(left + dx, top + dy)
+
+
+class ProgramTest(DesktopTest):
+    """A test case with the program installed anew, not yet started."""
+
+    def setUp(self):
+        self.program = Program(self.desktop)
+        self.addCleanup(self.program.end)
+
+    def start_with(self, *entries):
+        self.program.write_tree(*entries)
+        return self.program.start()
+
+    def open_root(self, tray, texts=tuple(ROOT)):
+        root = self.program.open_menu(tray)
+        return root, root.wait_texts(texts)
+
+    def open_personal(self, tray):
+        root, entries = self.open_root(tray)
+        return root.open_level(entries[1])
+
+    def close_menu(self):
+        while self.desktop.windows(MENU_CLASS):
+            self.desktop.keys("Esc")
+
+    def start_notepad(self):
+        """Another program, with the focus."""
+        self.desktop.start("notepad.exe")
+        notepad = self.desktop.wait_window("Notepad")
+        self.addCleanup(lambda: self.desktop.driver("close", notepad.handle))
+        self.desktop.click(notepad.middle)
+        self.desktop.wait_focus(notepad, "Edit")
+        return notepad
+
+    def texts_of(self, box):
+        return " ".join(child.title for child in self.desktop.children(box))
+
+    def answer(self, text, button):
+        """Waits for a box that says this and presses a button of it."""
+        box = self.program.wait_box()
+        self.assertIn(text, self.texts_of(box))
+        self.desktop.press(box, button)
+        self.desktop.wait_gone(box)
+
+    def wait_commands(self, *words):
+        """Waits until just these folder windows were asked for; as many processes run, and these are their words."""
+        wanted = sorted(words)
+        found = wait_for(lambda: len(self.program.folder_commands()) >= len(wanted) and self.program.folder_commands(),
+                         "the folder windows' processes")
+        self.assertEqual(sorted(re.sub(r"(?i)^.*?explorer\.exe ", "", command) for command in found), wanted)
+
+    def wait_file(self, captions):
+        wait_for(lambda: self.program.file.exists() and bwmk.captions(self.program.file) == captions,
+                 "the file with %r" % captions, 10)

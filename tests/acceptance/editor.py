@@ -1,21 +1,20 @@
 """The editor's window on a desktop, as a user finds it."""
 
-from harness import wait_for
+from harness import MENU_CLASS, wait_for
 
 FORM = "BurrowmarkForm"
-MENU = "#32768"
 TITLE = "Organize Folders"
+TREE, LIST, HEADER, STATUS = "SysTreeView32", "SysListView32", "SysHeader32", "msctls_statusbar32"
 
 
 class Editor:
     """The open window, found by its class and title."""
 
-    def __init__(self, program, title=TITLE):
+    def __init__(self, program, limit=20.0):
         self.desktop = program.desktop
-        self.program = program
-        self.window = self.desktop.wait_window(FORM, title)
+        self.window = self.desktop.wait_window(FORM, TITLE, limit)
         # The tree is filled before the window shows, the rest of its life comes by messages.
-        wait_for(lambda: self.tree(), "the nodes of the tree")
+        wait_for(self.tree, "the nodes of the tree")
 
     @classmethod
     def open(cls, program):
@@ -27,66 +26,61 @@ class Editor:
     def child(self, class_name):
         return next(child for child in self.desktop.children(self.window) if child.class_name == class_name)
 
-    def has_focus(self, class_name):
-        return self.child(class_name).focus
-
     # What it shows
+
+    def _lines(self, verb, class_name):
+        return self.desktop.driver(verb, self.child(class_name).handle)
 
     def tree(self):
         """The nodes that are there, as (depth, text)."""
-        return [(line["depth"], line["text"])
-                for line in self.desktop.driver("tree", self.child("SysTreeView32").handle)]
+        return [(line["depth"], line["text"]) for line in self._lines("tree", TREE)]
 
     def rows(self):
         """The rows, as lists of their columns' texts."""
         return [[line["text%d" % column] for column in range(sum(key.startswith("text") for key in line))]
-                for line in self.desktop.driver("list", self.child("SysListView32").handle)]
+                for line in self._lines("list", LIST)]
 
     def titles(self):
         return [row[0] for row in self.rows()]
 
+    def wait_titles(self, *titles):
+        wait_for(lambda: self.titles() == list(titles), lambda: "rows %r; they are %r" % (titles, self.titles()), 10)
+
     # What the user does
 
-    def node_place(self, text):
-        for line in self.desktop.driver("tree", self.child("SysTreeView32").handle):
-            if line["text"] == text:
-                return self._middle(line["rectangle"])
-        raise AssertionError("no node %r" % text)
-
-    def row_place(self, text):
-        for line in self.desktop.driver("list", self.child("SysListView32").handle):
-            if line["text0"] == text:
+    def _place(self, verb, class_name, key, text):
+        for line in self._lines(verb, class_name):
+            if line[key] == text:
                 left, top, _, bottom = line["rectangle"]
-                return left + 40 * self.desktop.dpi // 96, (top + bottom) // 2
-        raise AssertionError("no row %r" % text)
-
-    @staticmethod
-    def _middle(rectangle):
-        left, top, right, bottom = rectangle
-        return (left + right) // 2, (top + bottom) // 2
+                return left + 20 * self.desktop.dpi // 96, (top + bottom) // 2
+        raise AssertionError("nothing with the text %r" % text)
 
     def click_node(self, text, button="left"):
-        self.desktop.click(self.node_place(text), button)
+        self.desktop.click(self._place("tree", TREE, "text", text), button)
 
     def click_row(self, text, button="left"):
-        self.desktop.click(self.row_place(text), button)
+        self.desktop.click(self._place("list", LIST, "text0", text), button)
 
-    def wait_titles(self, titles):
-        seen = [None]
+    def rename(self, old, new):
+        self.click_row(old)
+        wait_for(lambda: any(line["text0"] == old and line["selected"] for line in self._lines("list", LIST)),
+                 "the row %r selected" % old)
+        self.desktop.wait_focus(self.window, LIST)
+        self.desktop.keys("F2")
+        self.desktop.wait_focus(self.window, "Edit")
+        self.desktop.keys("ctrl+a", "text:" + new, "Return")
+        wait_for(lambda: new in self.titles(), "the row's new title", 10)
 
-        def shown():
-            seen[0] = self.titles()
-            return seen[0] == list(titles)
-        try:
-            wait_for(shown, "the rows", 10)
-        except AssertionError:
-            raise AssertionError("the list shows %r, not %r" % (seen[0], list(titles)))
+    def click_first_header(self):
+        left, top, _, bottom = self.child(HEADER).rectangle
+        self.desktop.click((left + 40, (top + bottom) // 2))
 
     def wait_popup(self):
-        return self.desktop.wait_window(MENU, limit=10)
+        return self.desktop.wait_window(MENU_CLASS, limit=10)
 
     def close(self):
         self.desktop.driver("close", self.window.handle)
 
-    def wait_closed(self):
+    def close_and_wait(self):
+        self.close()
         self.desktop.wait_gone(self.window)

@@ -1,17 +1,18 @@
-"""A Windows desktop of its own for each test class: a virtual screen, a Wine prefix and the driver program within it.
+"""A Windows desktop for the tests: a virtual screen, a Wine prefix and the driver program within it.
 
     with Desktop(settings) as desktop:
         program = desktop.start("notepad.exe")
-        window = desktop.wait_window(class_name="Notepad")
+        window = desktop.wait_window("Notepad")
 
 Every wait polls a condition and has a limit; whatever a desktop started ends with it, also after a failure.
 """
 
-import atexit
+import contextlib
 import ctypes
 import fcntl
 import json
 import os
+import select
 import shutil
 import signal
 import subprocess
@@ -20,32 +21,51 @@ import time
 import unittest
 from dataclasses import dataclass
 from pathlib import Path
-from typing import List, Optional, Tuple
+from typing import Optional, Tuple
 
 import pixels
 
 REPOSITORY = Path(__file__).resolve().parents[2]
-ICONS = REPOSITORY / "assets" / "icons"
-TASK_BAR_HEIGHT = 20
 MENU_CLASS = "#32768"
 BOX_CLASS = "#32770"
+TRAY_ICON = 1  # its number
 POLL_SECONDS = 0.03
+# When a test class runs: long ones begin, those with a desktop of their own kind end, and what measures time is alone.
+FIRST, ANY, LAST, ALONE = range(4)
+# The drives beside C and Z: letter, kind as the system's own settings call it, label. That of V has no medium.
+DRIVES = (("a", "floppy", ""), ("d", "hd", ""), ("e", "cdrom", "Holiday"), ("n", "network", ""), ("u", "floppy", ""),
+          ("v", "floppy", None))
 
 
 @dataclass
 class Settings:
     """Where the programs and the build folder are."""
-    exe: Optional[Path]
+    exe: Path
     driver: Path
     build: Path
 
+    DEFAULTS = {"exe": "build/windows/src/app/burrowmark.exe", "build": "build/acceptance",
+                "driver": "build/windows/tests/acceptance/driver/acceptance_driver.exe"}
+
+    @classmethod
+    def add_options(cls, parser):
+        for name, path in cls.DEFAULTS.items():
+            parser.add_argument("--" + name, type=Path, default=os.environ.get("ACCEPTANCE_" + name, REPOSITORY / path))
+
+    @classmethod
+    def of(cls, options):
+        """What the options say; processes that are started from here get the same from their environment."""
+        for name in cls.DEFAULTS:
+            os.environ["ACCEPTANCE_" + name] = str(getattr(options, name).resolve())
+        settings = cls.from_environment()
+        for path in (settings.exe, settings.driver):
+            if not path.is_file():
+                raise SystemExit("not there: %s" % path)
+        return settings
+
     @classmethod
     def from_environment(cls):
-        windows = REPOSITORY / "build" / "windows"
-        exe = os.environ.get("BURROWMARK_EXE") or next(windows.rglob("burrowmark.exe"), None)
-        driver = os.environ.get("ACCEPTANCE_DRIVER") or windows / "tests/acceptance/driver/acceptance_driver.exe"
-        build = os.environ.get("ACCEPTANCE_BUILD") or REPOSITORY / "build" / "acceptance"
-        return cls(Path(exe).resolve() if exe else None, Path(driver).resolve(), Path(build).resolve())
+        return cls(**{name: Path(os.environ["ACCEPTANCE_" + name]) for name in cls.DEFAULTS})
 
 
 class NotInTime(AssertionError):
@@ -64,37 +84,20 @@ def wait_for(condition, what, limit=20.0):
         if result:
             return result
         if time.monotonic() > end:
-            raise NotInTime("not within %g s: %s" % (limit, what))
+            raise NotInTime("not within %g s: %s" % (limit, what() if callable(what) else what))
         time.sleep(POLL_SECONDS)
-
-
-def icon_path(number):
-    """The one file of icons with this number."""
-    [path] = ICONS.glob("%02d-*.ico" % number)
-    return path
 
 
 @dataclass
 class Window:
-    """A top-level window or, with an id and a text, a window within one."""
+    """A top-level window, or one within it."""
     handle: int
+    id: int
     class_name: str
     title: str
     rectangle: Tuple[int, int, int, int]
     visible: bool
-    enabled: bool
-    owner: int = 0
-    pid: int = 0
-    id: int = 0
-    focus: bool = False
-
-    @property
-    def width(self):
-        return self.rectangle[2] - self.rectangle[0]
-
-    @property
-    def height(self):
-        return self.rectangle[3] - self.rectangle[1]
+    focus: bool
 
     @property
     def middle(self):
@@ -108,15 +111,24 @@ class Process:
     pid: int
     command: str  # its words with a blank between them
 
-    def ticks(self):
-        """Processor time used so far, in clock ticks."""
-        stat = Path("/proc/%d/stat" % self.pid).read_text()
-        after_name = stat[stat.rindex(")") + 2:].split()
-        return int(after_name[11]) + int(after_name[12])
+    def processor_time(self):
+        """Nanoseconds used so far by all its threads."""
+        return sum(int(path.read_text().split()[0]) for path in Path("/proc/%d/task" % self.pid).glob("*/schedstat"))
+
+    def private_memory(self):
+        """Bytes in use that no other process shares: those of the program, and those of Wine's own heap."""
+        sizes = {False: 0, True: 0}
+        for line in Path("/proc/%d/smaps" % self.pid).read_text(errors="replace").splitlines():
+            words = line.split()
+            if not words[0].endswith(":"):
+                is_heap = words[-1] == "[heap]"
+            elif words[0] == "Anonymous:":
+                sizes[is_heap] += 1024 * int(words[1])
+        return sizes[False], sizes[True]
 
 
-def _end_with_parent():
-    """Runs in a child: it is told to end if the test run is killed."""
+def end_with_parent():
+    """Called in a child: it is told to end when its parent goes."""
     ctypes.CDLL(None).prctl(1, signal.SIGTERM)
 
 
@@ -128,11 +140,34 @@ class Prefix:
         self.path = self.folder / "prefix"
         self.home = self.folder / "home"
         self.drive_c = self.path / "drive_c"
-        kept = ("PATH", "LD_LIBRARY_PATH")
-        self.environment = {name: os.environ[name] for name in kept if name in os.environ}
+        self.environment = {name: os.environ[name] for name in ("PATH", "LD_LIBRARY_PATH") if name in os.environ}
         self.environment.update(
             HOME=str(self.home), WINEPREFIX=str(self.path), WINEARCH="win64", WINEDEBUG="-all", TZ="UTC",
             LC_ALL="C.UTF-8", WINEDLLOVERRIDES="mscoree,mshtml=;winemenubuilder.exe=d")
+
+    def make(self, desktop_size):
+        """Makes it in its folder, unless it is there, for a desktop of that size."""
+        ready = self.folder / "ready"
+        if ready.exists():
+            return
+        shutil.rmtree(self.folder, ignore_errors=True)
+        self.home.mkdir(parents=True)
+        try:
+            made = self.run("wineboot", "-i", limit=300)
+            self.run("wineserver", "-w")
+        finally:
+            self.end_server()
+        if made.returncode != 0 or not (self.path / "user.reg").exists():
+            raise RuntimeError("wineboot failed: " + made.stderr.decode(errors="replace"))
+        for link in self.drive_c.glob("users/*/*"):
+            if link.is_symlink():  # into the home; a copy shall have folders of its own
+                link.unlink()
+                link.mkdir()
+        self.add_registry("Software\\Wine\\WineDbg", {"ShowCrashDialog": 0})
+        self.add_registry("Software\\Wine\\Drivers", {"Audio": ""})
+        self.add_registry("Software\\Wine\\Explorer", {"Desktop": "shell"})
+        self.add_registry("Software\\Wine\\Explorer\\Desktops", {"shell": "%dx%d" % desktop_size})
+        ready.write_text("finished\n")
 
     def run(self, *words, limit=120):
         """Runs a host program in the prefix's environment to its end."""
@@ -145,58 +180,53 @@ class Prefix:
             return subprocess.CompletedProcess(words, done.returncode, output.read(), errors.read())
 
     def end_server(self):
-        """Ends every process of the prefix and waits until the last is gone."""
+        """Ends every process of the prefix, waits until the last is gone, and removes the folder of its socket."""
         self.run("wineserver", "-k", limit=30)
         self.run("wineserver", "-w", limit=30)
-
-    def forget_server(self):
-        """Removes the folder that the server leaves for its socket."""
         status = self.path.stat()
-        folder = Path("/tmp/.wine-%d/server-%x-%x" % (os.getuid(), status.st_dev, status.st_ino))
+        folder = "/tmp/.wine-%d/server-%x-%x" % (os.getuid(), status.st_dev, status.st_ino)
         shutil.rmtree(folder, ignore_errors=True)
 
     def host_path(self, path):
         """The host's path of a path on drive C."""
-        if not path.upper().startswith("C:\\"):
-            raise ValueError("no path on drive C: " + path)
+        assert path.upper().startswith("C:\\"), path
         return self.drive_c.joinpath(*path[3:].split("\\"))
+
+    def user_folder(self, path):
+        """A folder of the user's own, as of Wine's set-up."""
+        return next(self.drive_c.glob("users/*/AppData")).parent.joinpath(*path.split("\\"))
 
     def add_registry(self, key, values, machine=False):
         """Writes values of the current user, or of the machine, while no server runs: texts and numbers."""
         lines = ["", "[%s]" % key.replace("\\", "\\\\")]
         for name, value in values.items():
-            if isinstance(value, int):
-                lines.append('"%s"=dword:%08x' % (name, value))
-            else:
-                lines.append('"%s"="%s"' % (name, value.replace("\\", "\\\\").replace('"', '\\"')))
+            lines.append('"%s"=%s' % (name, "dword:%08x" % value if isinstance(value, int) else '"%s"' % value))
         with open(self.path / ("system.reg" if machine else "user.reg"), "a", encoding="utf-8") as file:
             file.write("\n".join(lines) + "\n")
 
+    def add_drives(self):
+        for letter, kind, label in DRIVES:
+            drive = self.folder / ("drive_" + letter)
+            if label is not None:
+                drive.mkdir()
+                (drive / ".windows-label").write_text(label + "\n")
+            (self.path / "dosdevices" / (letter + ":")).symlink_to(drive)
+            self.add_registry("Software\\Wine\\Drives", {letter + ":": kind}, machine=True)
 
-def _make_template(build):
-    """A finished prefix, made once for a build folder. A lock keeps two test runs from making it together."""
-    build.mkdir(parents=True, exist_ok=True)
-    template = Prefix(build / "template")
-    ready = template.folder / "ready"
-    with open(build / "template.lock", "w") as lock:
-        fcntl.flock(lock, fcntl.LOCK_EX)
-        if ready.exists():
-            return template
-        shutil.rmtree(template.folder, ignore_errors=True)
-        template.home.mkdir(parents=True)
-        try:
-            made = template.run("wineboot", "-i", limit=300)
-            template.run("wineserver", "-w", limit=120)
-        finally:
-            template.end_server()
-        if made.returncode != 0 or not (template.path / "user.reg").exists():
-            raise RuntimeError("wineboot failed: " + made.stderr.decode(errors="replace"))
-        template.add_registry("Software\\Wine\\WineDbg", {"ShowCrashDialog": 0})
-        template.add_registry("Software\\Wine\\Drivers", {"Audio": ""})
-        template.add_registry("Software\\Wine\\Explorer", {"Desktop": "shell"})
-        template.forget_server()
-        ready.write_text("finished\n")
-    return template
+    def processes(self, part=""):
+        """The prefix's processes whose command holds a text, in any letter case."""
+        mark = b"WINEPREFIX=" + os.fsencode(str(self.path))
+        found = []
+        for folder in Path("/proc").glob("[0-9]*"):
+            try:
+                if mark not in (folder / "environ").read_bytes().split(b"\0"):
+                    continue
+                command = (folder / "cmdline").read_bytes().rstrip(b"\0").replace(b"\0", b" ").decode(errors="replace")
+            except OSError:  # ended meanwhile, or another user's
+                continue
+            if command and part.lower() in command.lower():
+                found.append(Process(int(folder.name), command))
+        return found
 
 
 def _copy_file(source, target):
@@ -210,219 +240,167 @@ def _copy_file(source, target):
     return shutil.copy2(source, target)
 
 
-def _copy_prefix(template, folder):
+def _copy_template(build, folder):
+    """A prefix like a template that is made once for a build folder."""
+    build.mkdir(parents=True, exist_ok=True)
+    template = Prefix(build / "template")
+    with open(build / "template.lock", "w") as lock:
+        fcntl.flock(lock, fcntl.LOCK_EX)  # two test runs mustn't make it together
+        template.make((1024, 768))
     prefix = Prefix(folder)
     shutil.copytree(template.path, prefix.path, symlinks=True, copy_function=_copy_file)
-    shutil.copytree(template.home, prefix.home, symlinks=True)
-    # The user's folders are links into the home that the template had.
-    for link in prefix.drive_c.glob("users/*/*"):
-        if link.is_symlink():
-            target = os.readlink(link)
-            if target.startswith(str(template.home)):
-                link.unlink()
-                link.symlink_to(str(prefix.home) + target[len(str(template.home)):])
-                Path(os.readlink(link)).mkdir(parents=True, exist_ok=True)
+    prefix.home.mkdir()
+    prefix.add_drives()
     return prefix
 
 
-class Desktop:
-    """A running virtual screen with the Windows desktop of one prefix on it."""
+class Pointer:
+    """The screen's own pointer: one that a program moves is out of step with it for a moment."""
 
-    def __init__(self, settings, size=(1024, 768), dpi=96, prepare=None):
-        """`prepare` is called with the desktop when its prefix is there and nothing runs in it yet."""
-        self.settings = settings
-        self._prepare = prepare
-        self.size = size
-        self.dpi = dpi
-        self._folder = None
-        self._screen = None
-        self._holder = None
-        self._programs: List[subprocess.Popen] = []
-        self._colours = {}
-        self.prefix = None
+    BUTTONS = {"left": (1, 1), "right": (3, 1), "double": (1, 2)}  # number, clicks
+
+    def __init__(self, screen):
+        self._library, self._test = ctypes.CDLL("libX11.so.6"), ctypes.CDLL("libXtst.so.6")
+        self._library.XOpenDisplay.restype = ctypes.c_void_p
+        self._display = ctypes.c_void_p(self._library.XOpenDisplay(screen.encode()))
+        if not self._display:
+            raise RuntimeError("the screen isn't there")
+
+    def close(self):
+        self._library.XCloseDisplay(self._display)
+
+    def move(self, place):
+        self._test.XTestFakeMotionEvent(self._display, -1, *place, 0)
+        self._library.XSync(self._display, 0)
+
+    def click(self, place, button):
+        number, clicks = self.BUTTONS[button]
+        self.move(place)
+        for _ in range(clicks):
+            time.sleep(0.05)
+            for pressed in (1, 0):
+                self._test.XTestFakeButtonEvent(self._display, number, pressed, 0)
+            self._library.XSync(self._display, 0)
+
+
+class Desktop:
+    """A virtual screen with the Windows desktop of one prefix on it."""
+
+    def __init__(self, settings, size=(1024, 768), dpi=96):
+        self.settings, self.size, self.dpi = settings, size, dpi
+        self._ends = contextlib.ExitStack()
+        self._programs = []
 
     def __enter__(self):
-        self.start_desktop()
+        try:
+            self._start()
+        except BaseException:
+            self._ends.close()
+            raise
         return self
 
     def __exit__(self, *_):
-        self.stop()
+        """Ends all programs, the server and the screen, and removes the folder. Every step is tried."""
+        self._ends.close()
 
-    # Life
-
-    def start_desktop(self):
-        template = _make_template(self.settings.build)
+    def _start(self):
         runs = self.settings.build / "runs"
-        runs.mkdir(exist_ok=True)
-        self._folder = Path(tempfile.mkdtemp(dir=str(runs)))
-        atexit.register(self.stop)  # for a run that is interrupted
-        try:
-            self.prefix = _copy_prefix(template, self._folder)
-            self.prefix.add_registry("Software\\Wine\\Explorer\\Desktops", {"shell": "%dx%d" % self.size})
-            if self.dpi != 96:
-                self.prefix.add_registry("Control Panel\\Desktop", {"LogPixels": self.dpi})
-                self.prefix.add_registry("Software\\Wine\\Fonts", {"LogPixels": self.dpi})
-            shutil.copy(self.settings.driver, self.prefix.drive_c / "driver.exe")
-            if self._prepare is not None:
-                self._prepare(self)
-            self._start_screen()
-            # Keeps the task bar between two programs. Its input ends with this process, however that comes about.
-            self._holder = self._launch("C:\\driver.exe", "hold-desktop", stdin=subprocess.PIPE)
-            wait_for(self._task_bar, "the task bar", 60)
-        except BaseException:
-            self.stop()
-            raise
+        runs.mkdir(parents=True, exist_ok=True)
+        folder = tempfile.mkdtemp(dir=str(runs))
+        self._ends.callback(shutil.rmtree, folder)
+        self.prefix = _copy_template(self.settings.build, folder)
+        self.prefix.add_registry("Software\\Wine\\Explorer\\Desktops", {"shell": "%dx%d" % self.size})
+        self.prefix.add_registry("Control Panel\\Desktop", {"LogPixels": self.dpi})
+        self.prefix.add_registry("Software\\Wine\\Fonts", {"LogPixels": self.dpi})
+        shutil.copy(self.settings.driver, self.prefix.drive_c / "driver.exe")
+        self._start_screen()
+        self.pointer = Pointer(self.prefix.environment["DISPLAY"])
+        self._ends.callback(self.pointer.close)
+        self._ends.callback(self.prefix.end_server)
+        # It keeps the desktop, and its input ends with this process, however that comes about.
+        self._driver = self.start("C:\\driver.exe", stdin=subprocess.PIPE, stdout=subprocess.PIPE, bufsize=0)
+        self.wait_window("Shell_TrayWnd", limit=60)
 
     def _start_screen(self):
-        reading, writing = os.pipe()
-        try:
-            # Without -noreset the screen starts over when its last program goes, and loses one that just comes.
-            self._screen = subprocess.Popen(
-                ["Xvfb", "-displayfd", str(writing), "-screen", "0", "%dx%dx24" % self.size, "-nolisten", "tcp",
-                 "-noreset"],
-                pass_fds=[writing], stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
-                preexec_fn=_end_with_parent)
-            os.close(writing)
-            writing = None
-            with os.fdopen(reading, "rb") as pipe:
-                reading = None
-                # To the end of the line, which comes apart from the number: the screen ends if nobody takes it.
-                number = pipe.readline().strip()
-            if not number:
-                raise RuntimeError("the virtual screen didn't start")
-        finally:
-            for end in (reading, writing):
-                if end is not None:
-                    os.close(end)
+        # Without -noreset the screen starts over when its last program goes, and loses one that just comes.
+        screen = subprocess.Popen(
+            ["Xvfb", "-displayfd", "1", "-screen", "0", "%dx%dx24" % self.size, "-nolisten", "tcp", "-noreset"],
+            stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, preexec_fn=end_with_parent)
+        self._end_later(screen)
+        number = screen.stdout.readline().strip()
+        if not number:
+            raise RuntimeError("the virtual screen didn't start")
         self.prefix.environment["DISPLAY"] = ":" + number.decode()
 
-    def _task_bar(self):
-        return self.find_window(class_name="Shell_TrayWnd")
-
-    def stop(self):
-        """Ends all programs, the server and the screen, and removes the folder. Every step is tried."""
-        atexit.unregister(self.stop)
-        steps = []
-        if self.prefix is not None:
-            steps += [self.prefix.end_server, self.prefix.forget_server]
-        steps += [self._end_programs, self._end_screen]
-        if self._folder is not None:
-            steps.append(lambda: shutil.rmtree(self._folder))
-        failure = None
-        for step in steps:
-            try:
-                step()
-            except Exception as error:  # the first is told once all steps were tried
-                failure = failure or error
-        self._folder = None
-        self.prefix = None
-        if failure is not None:
-            raise failure
-
-    def _end_programs(self):
-        if self._holder is not None:
-            self._holder.stdin.close()
-            self._programs.append(self._holder)
-            self._holder = None
-        for program in self._programs:
-            if program.poll() is None:
-                program.terminate()
+    def _end_later(self, program):
+        def end():
+            program.terminate()
             program.wait(10)
-        self._programs = []
-
-    def _end_screen(self):
-        if self._screen is not None:
-            self._screen.terminate()
-            self._screen.wait(10)
-            self._screen = None
+            for stream in (program.stdin, program.stdout):
+                if stream is not None:
+                    stream.close()
+        self._ends.callback(end)
 
     # Programs
 
-    def start(self, *words):
+    def start(self, *words, **streams):
         """Starts a Windows program; its exit code is that of the object given back."""
-        program = self._launch(*words, stdin=subprocess.DEVNULL)
-        self._programs.append(program)
+        streams = {"stdin": subprocess.DEVNULL, "stdout": subprocess.DEVNULL, **streams}
+        program = subprocess.Popen(["wine", *words], env=self.prefix.environment, stderr=subprocess.DEVNULL, **streams)
+        self._end_later(program)
         return program
-
-    def _launch(self, *words, stdin):
-        return subprocess.Popen(["wine"] + list(words), env=self.prefix.environment, stdin=stdin,
-                                stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
 
     def exit_code(self, program, limit=20.0):
         """Waits for a program's end."""
         wait_for(lambda: program.poll() is not None, "the program's end", limit)
         return program.returncode
 
-    def processes(self, part=""):
-        """The prefix's processes whose command holds a text, in any letter case."""
-        mark = b"WINEPREFIX=" + os.fsencode(str(self.prefix.path))
-        found = []
-        for folder in Path("/proc").iterdir():
-            if not folder.name.isdigit():
-                continue
-            try:
-                if mark not in (folder / "environ").read_bytes().split(b"\0"):
-                    continue
-                words = (folder / "cmdline").read_bytes().rstrip(b"\0").split(b"\0")
-            except OSError:  # ended meanwhile, or another user's
-                continue
-            command = b" ".join(words).decode("utf-8", "replace")
-            if command and part.lower() in command.lower():
-                found.append(Process(int(folder.name), command))
-        return found
-
     # The driver
 
-    def driver(self, verb, *words, limit=30):
+    def driver(self, verb, *words, limit=30.0):
         """Runs a verb of the driver and gives its lines."""
-        # Once in a thousand calls or so the system ends with 1, without a word, ahead of the driver's first line: the
-        # verb hasn't begun, so nothing is done twice.
-        for _ in range(3):
-            done = self.prefix.run("wine", "C:\\driver.exe", verb, *[str(word) for word in words], limit=limit)
-            if done.returncode == 0 or done.stdout:
-                break
-        if done.returncode != 0:
-            raise DriverFailure("%s: exit code %d, %s" % (verb, done.returncode,
-                                                          done.stderr.decode(errors="replace").strip() or "no word"))
-        return [json.loads(line) for line in done.stdout.decode().splitlines()[1:]]
+        self._driver.stdin.write(("\t".join([verb, *map(str, words)]) + "\n").encode())
+        output = self._driver.stdout.fileno()
+        end = time.monotonic() + limit
+        answer = b""
+        while True:
+            if not select.select([output], [], [], max(0, end - time.monotonic()))[0]:
+                # What comes later must not be taken for the next verb's answer.
+                self._driver.kill()
+                raise DriverFailure("%s: no answer within %g s" % (verb, limit))
+            part = os.read(output, 1 << 16)
+            if not part:
+                raise DriverFailure("%s: the driver ended" % verb)
+            answer += part
+            lines = [json.loads(line) for line in answer.splitlines()] if part.endswith(b"\n") else [{}]
+            if "done" in lines[-1]:
+                if not lines[-1]["done"]:
+                    raise DriverFailure("%s: %s" % (verb, lines[-1]["failure"]))
+                return lines[:-1]
 
     def windows(self, class_name=None, title=None, visible=True):
-        found = []
-        for line in self.driver("windows"):
-            window = Window(line["handle"], line["class"], line["title"], tuple(line["rectangle"]), line["visible"],
-                            line["enabled"], owner=line["owner"], pid=line["pid"])
-            if (class_name in (None, window.class_name) and title in (None, window.title)
-                    and (window.visible or not visible)):
-                found.append(window)
-        return found
-
-    def find_window(self, class_name=None, title=None):
-        return next(iter(self.windows(class_name, title)), None)
+        """Top-level windows, front to back."""
+        windows = [Window(**line) for line in self.driver("windows")]
+        return [window for window in windows if class_name in (None, window.class_name)
+                and title in (None, window.title) and (window.visible or not visible)]
 
     def wait_window(self, class_name=None, title=None, limit=20.0):
-        return wait_for(lambda: self.find_window(class_name, title), "a window %r %r" % (class_name, title), limit)
+        return wait_for(lambda: self.windows(class_name, title), "a window %r %r" % (class_name, title), limit)[0]
 
-    def wait_gone(self, window, limit=20.0):
+    def wait_gone(self, window):
         wait_for(lambda: window.handle not in [each.handle for each in self.windows()],
-                 "the end of the window %r" % window.title, limit)
+                 "the end of the window %r" % window.title)
 
     def children(self, window):
-        return [Window(line["handle"], line["class"], line["text"], tuple(line["rectangle"]), line["visible"],
-                       line["enabled"], owner=line["parent"], id=line["id"], focus=line["focus"])
-                for line in self.driver("children", window.handle)]
+        return [Window(**line) for line in self.driver("children", window.handle)]
 
-    def move(self, place):
-        self._pointer("mousemove", place[0], place[1])
+    def wait_focus(self, window, class_name):
+        """Waits until a child of that class has the keyboard."""
+        wait_for(lambda: any(child.class_name == class_name and child.focus for child in self.children(window)),
+                 "the focus in " + class_name)
 
     def click(self, place, button="left"):
-        """By the screen's own pointer: one that a program moves is out of step with it for a moment."""
-        press = ("--repeat", 2, "--delay", 60, 1) if button == "double" else ({"left": 1, "right": 3}[button],)
-        self._pointer("mousemove", place[0], place[1], "sleep", 0.05, "click", *press)
-
-    def _pointer(self, *words):
-        done = self.prefix.run("xdotool", *[str(word) for word in words], limit=30)
-        if done.returncode != 0:
-            raise RuntimeError("the pointer doesn't move: " + done.stderr.decode(errors="replace"))
+        self.pointer.click(place, button)
 
     def keys(self, *words):
         self.driver("keys", *words)
@@ -430,19 +408,10 @@ class Desktop:
     def press(self, window, button_id):
         self.driver("press", window.handle, button_id)
 
-    def time_click(self, place, button, seen, colour, limit_ms=5000):
+    def time_click(self, place, seen, colour, limit_ms=5000):
         """Clicks and gives the microseconds from button-up until a popup menu covers the place `seen` ("opened") and
         until that place shows the colour ("drawn")."""
-        return self.driver("time-click", *place, button, *seen, "%02x%02x%02x" % colour, limit_ms)[0]
-
-    def screen_pid(self):
-        return self._screen.pid
-
-    def colour(self, index):
-        """A system colour as a triple."""
-        if not self._colours:
-            self._colours = {line["index"]: pixels.hex_colour(line["colour"]) for line in self.driver("colours")}
-        return self._colours[index]
+        return self.driver("time-click", *place, *seen, *colour, limit_ms)[0]
 
     def registry_text(self, key, name):
         """A value of the current user, or None."""
@@ -453,70 +422,69 @@ class Desktop:
 
     # The screen
 
-    def picture(self):
-        """What the screen shows now."""
-        done = self.prefix.run("import", "-silent", "-window", "root", "-depth", "8", "ppm:-", limit=30)
+    def picture(self, rectangle=None):
+        """What the screen, or a part of it, shows now."""
+        left, top, right, bottom = rectangle or (0, 0, *self.size)
+        part = "%dx%d+%d+%d" % (right - left, bottom - top, left, top)
+        done = self.prefix.run("import", "-silent", "-window", "root", "-crop", part, "-depth", "8", "ppm:-", limit=30)
         if done.returncode != 0:
             raise RuntimeError("no picture: " + done.stderr.decode(errors="replace"))
         return pixels.Picture.from_ppm(done.stdout)
 
+    def save_picture(self, path):
+        self.prefix.run("import", "-silent", "-window", "root", str(path), limit=30)
+
     def icon(self, number):
-        """An icon of the program in the size that this desktop draws it."""
-        return pixels.read_icon(icon_path(number), 16 * self.dpi // 96)
+        """An icon of the program in the size for this desktop."""
+        return pixels.read_icon(pixels.icon_path(number), 16 * self.dpi // 96)
 
     def find_tray_icon(self):
         """The middle of the program's icon in the task bar, or None."""
-        picture = self.picture()
-        bar = self._task_bar()
-        if bar is None:
-            return None
-        image = self.icon(1)
-        # The tray is a window of its own at the bar's end; what lies under the icon is the colour to its left.
-        left, top, right, bottom = bar.rectangle
-        ground = picture.pixel(right - 2, top + 1)
-        found = picture.find(image, ground, bar.rectangle)
-        if not found:
-            return None
-        x, y = found[0]
-        return x + image.width // 2, y + image.height // 2
+        size = 22 * self.dpi // 96
+        _, top, right, bottom = self.wait_window("Shell_TrayWnd").rectangle
+        corner = self.picture((right - size, top, right, bottom))
+        # The tray is a window of its own; its edge has the colour that lies under the icon too.
+        ground = corner.pixel(corner.width - 2, 1)
+        found = corner.find(self.icon(TRAY_ICON), ground, (0, 0, corner.width, corner.height))
+        return (right - size // 2, (top + bottom) // 2) if found else None
+
+
+_shared: Optional[Desktop] = None
+
+
+def shared_desktop(size, dpi):
+    """The desktop of this process that all tests of one size and resolution share, one after the other."""
+    global _shared
+    if _shared is None or (_shared.size, _shared.dpi) != (size, dpi):
+        end_shared_desktop()
+        _shared = Desktop(Settings.from_environment(), size, dpi).__enter__()
+    return _shared
+
+
+def end_shared_desktop():
+    global _shared
+    ended, _shared = _shared, None
+    if ended is not None:
+        ended.__exit__()
 
 
 class DesktopTest(unittest.TestCase):
-    """Test case with a desktop for its class. A test that fails leaves a picture of the screen."""
+    """Test case on a shared desktop. A test that fails leaves a picture of the screen."""
 
+    turn = ANY
     size = (1024, 768)
     dpi = 96
-    prepare = None  # what is done to the prefix before the desktop starts
-    desktop: Desktop
 
     @classmethod
     def setUpClass(cls):
-        cls.settings = Settings.from_environment()
-        cls.desktop = Desktop(cls.settings, cls.size, cls.dpi, cls.prepare)
-        cls.desktop.start_desktop()
-        cls.addClassCleanup(cls.desktop.stop)
+        cls.desktop = shared_desktop(cls.size, cls.dpi)
 
-    def run(self, result=None):
-        # The picture has to be taken before the clean-up, which the usual hooks come too late for.
-        for name in ("setUp", self._testMethodName):
-            setattr(self, name, self._with_picture(getattr(self, name)))
-        return super().run(result)
-
-    def _with_picture(self, function):
-        def call():
-            try:
-                function()
-            except unittest.SkipTest:
-                raise
-            except Exception:
-                self._keep_picture()
-                raise
-        return call
-
-    def _keep_picture(self):
-        folder = self.settings.build / "failures"
-        folder.mkdir(parents=True, exist_ok=True)
+    def _callTestMethod(self, method):
+        # Here and not in a hook: before the clean-up changes the screen.
         try:
-            self.desktop.picture().save_png(folder / (self.id().split(".", 1)[-1] + ".png"))
-        except Exception as error:  # must not hide the failure itself
-            print("no picture of the failure: %s" % error)
+            super()._callTestMethod(method)
+        except Exception:
+            folder = self.desktop.settings.build / "failures"
+            folder.mkdir(parents=True, exist_ok=True)
+            self.desktop.save_picture(folder / (self.id() + ".png"))
+            raise

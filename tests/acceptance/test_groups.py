@@ -3,12 +3,8 @@
 import struct
 
 import bwmk
-from burrowmark import GROUP, HELP, OPTIONS, ORGANIZE
+from burrowmark import ROOT, ProgramTest
 from harness import wait_for
-from pictures import with_drives
-from test_menu import MenuTest
-
-FLOPPY, DISK, NETWORK, DISC, REMOVABLE = 8, 9, 10, 11, 13
 
 
 def shell_link(target):
@@ -23,38 +19,40 @@ def shell_link(target):
     return header + bytes(12) + info + volume + path + b"\0"
 
 
-class FirstTree(MenuTest):
-    def recent(self):
-        return next(self.desktop.prefix.drive_c.glob("users/*/AppData/Roaming/Microsoft/Windows/Recent"))
-
-    def captions(self):
-        return [record.caption for record in bwmk.read(self.program.file) if record.owner == "MIT_GROUP_USER"]
-
+class FirstStart(ProgramTest):
     def test_recent_documents_bring_their_folders(self):
         self.program.make_folders("C:\\Work\\Letters", "C:\\Work\\Plans")
         (self.desktop.prefix.host_path("C:\\Work\\Letters") / "a.txt").write_text("a")
-        links = {"a": "C:\\Work\\Letters\\a.txt", "b": "C:\\Work\\Plans", "c": "C:\\Gone\\x.txt"}
-        for name, target in links.items():
-            link = self.recent() / (name + ".lnk")
-            link.write_bytes(shell_link(target))
+        recent = self.desktop.prefix.user_folder("AppData\\Roaming\\Microsoft\\Windows\\Recent")
+        for name, target in (("a", "Work\\Letters\\a.txt"), ("b", "Work\\Plans"), ("c", "Gone\\x.txt")):
+            link = recent / (name + ".lnk")
+            link.write_bytes(shell_link("C:\\" + target))
             self.addCleanup(link.unlink)
-        self.program.start()
-        self.assertEqual(sorted(self.captions()), ["Letters", "Plans"])
+        self.program.file.write_bytes(b"")  # as good as none
+        tray = self.program.start()
+        self.assertEqual(sorted(bwmk.captions(self.program.file)), ["Letters", "Plans"])
+        before = self.program.file.read_bytes()
+        self.program.end()
+        tray = self.program.start()
+        self.open_personal(tray).wait_texts(bwmk.captions(self.program.file))
+        self.assertEqual(self.program.file.read_bytes(), before, "a start leaves a good file as it was")
 
     def test_without_recent_documents_the_folders_of_the_drives_come(self):
-        self.program.start()
-        captions = self.captions()
+        self.assertFalse(self.program.file.exists())
+        self.open_root(self.program.start())
+        captions = bwmk.captions(self.program.file)
         self.assertIn("C_Burrowmark", captions)
         self.assertIn("C_windows", captions)
         self.assertLessEqual(len(captions), 25)
 
 
-class SystemFolders(MenuTest):
+class SystemFolders(ProgramTest):
     def test_the_group_stands_in_menu_and_file(self):
         self.program.set_option("AC0", True)
-        tray = self.program.start()
-        root = self.program.open_menu(tray)
-        root.wait_entries([HELP, GROUP, GROUP, OPTIONS, ORGANIZE])
+        root = self.program.open_menu(self.program.start())
+        texts = [entry.text for entry in wait_for(root.entries, "the entries") if not entry.separator]
+        self.assertEqual([text for text in texts if text in ROOT], ROOT)
+        self.assertEqual(len(texts), 5)
         records = bwmk.read(self.program.file)
         paths = {record.caption: record.folder for record in records if record.owner == "MIT_PATHS_SYSTEM_W"}
         self.assertEqual(paths.get("System32", "").lower(), "c:\\windows\\system32")
@@ -72,72 +70,36 @@ class SystemFolders(MenuTest):
         return place.is_dir()
 
 
-def with_a_label_and_a_missing_medium(desktop):
-    with_drives(desktop)
-    (desktop.prefix.folder / "drive_e" / ".windows-label").write_text("Holiday\n")
-    (desktop.prefix.path / "dosdevices" / "v:").symlink_to(desktop.prefix.folder / "not there")
-    desktop.prefix.add_registry("Software\\Wine\\Drives", {"v:": "floppy"}, machine=True)
-
-
-class Drives(MenuTest):
-    prepare = staticmethod(with_a_label_and_a_missing_medium)
-
-    def test_every_kind_of_drive_has_its_entry(self):
-        self.program.set_option("AC1", True)
-        self.program.write_tree(bwmk.folder("One", "C:\\One"))
-        root = self.program.open_menu(self.program.start())
-        drives = root.open_level(root.wait_entries([HELP, GROUP, GROUP, OPTIONS, ORGANIZE])[2])
-        entries = drives.wait_entries([FLOPPY, DISK, DISK, DISC, NETWORK, REMOVABLE, REMOVABLE, DISK])
-        texts = ("A: (3.5-Inch Floppy Disk)", "C:", "D:", "E: (Holiday)", "N:", "U: (Removable Disk)",
-                 "V: (Removable Disk)", "Z:")
-        for entry, text in zip(entries, texts):
-            self.assertTrue(drives.shows_text(entry, text), text)
-
-
-class ComingDrives(MenuTest):
-    def drives(self, tray, icons):
+class Drives(ProgramTest):
+    def wait_drives(self, tray, texts):
         root = self.program.open_menu(tray)
-        level = root.open_level(root.wait_entries([HELP, GROUP, GROUP, OPTIONS, ORGANIZE])[2])
-        entries = level.wait_entries(icons)
-        shown = [text for entry, text in zip(entries, self.texts) if level.shows_text(entry, text)]
-        self.desktop.keys("Esc", "Esc")
-        self.program.wait_no_menu()
-        return shown
+        entries = [entry for entry in wait_for(root.entries, "the entries") if entry.group]
+        root.open_level(entries[1]).wait_texts(texts)
+        self.close_menu()
 
-    def test_drives_come_and_go_between_two_openings(self):
+    def test_every_kind_of_drive_has_its_entry_and_drives_come_and_go(self):
         self.program.set_option("AC1", True)
-        self.program.write_tree(bwmk.folder("One", "C:\\One"))
-        tray = self.program.start()
-        self.texts = ["C:", "Z:"]
-        self.assertEqual(self.drives(tray, [DISK, DISK]), self.texts)
+        tray = self.start_with(bwmk.folder("One", "C:\\One"))
+        drives = ["A: (3.5-Inch Floppy Disk)", "C:", "D:", "E: (Holiday)", "N:", "U: (Removable Disk)",
+                  "V: (Removable Disk)", "Z:"]
+        self.wait_drives(tray, drives)
         folder = self.desktop.prefix.folder / "drive_q"
         folder.mkdir()
         self.desktop.driver("add-drive", "q", folder)
-        self.texts = ["C:", "Q:", "Z:"]
-        self.assertEqual(self.drives(tray, [DISK, DISK, DISK]), self.texts)
-        self.desktop.driver("remove-drive", "q")
-        self.texts = ["C:", "Z:"]
-        self.assertEqual(self.drives(tray, [DISK, DISK]), self.texts)
+        try:
+            self.wait_drives(tray, drives[:5] + ["Q:"] + drives[5:])
+        finally:
+            self.desktop.driver("remove-drive", "q")
+        self.wait_drives(tray, drives)
 
 
-class HotKeys(MenuTest):
-    def start_with_hot_keys(self):
+class HotKeys(ProgramTest):
+    def test_shift_ctrl_digit_opens_every_item_of_its_code_while_another_program_has_the_focus(self):
         self.program.set_option("ADVC7", True)
         self.program.make_folders("C:\\Five", "C:\\Other", "C:\\Six")
-        self.program.write_tree(bwmk.folder("Five", "C:\\Five", hot_key=53), bwmk.folder("Six", "C:\\Six", hot_key=54),
-                                bwmk.folder("Other", "C:\\Other", hot_key=53))
-        self.program.start()
-
-    def test_shift_ctrl_digit_opens_every_item_of_its_code_while_another_program_has_the_focus(self):
-        self.start_with_hot_keys()
-        self.desktop.start("notepad.exe")
-        notepad = self.desktop.wait_window("Notepad")
-        self.addCleanup(lambda: self.desktop.driver("close", notepad.handle))
-        self.desktop.click(notepad.middle)
+        self.start_with(bwmk.folder("Five", "C:\\Five", hot_key=53), bwmk.folder("Six", "C:\\Six", hot_key=54),
+                        bwmk.folder("Other", "C:\\Other", hot_key=53))
+        self.start_notepad()
         self.desktop.keys("ctrl+6")
         self.desktop.keys("shift+ctrl+5")
-        wait_for(lambda: len(self.program.folder_commands()) == 2, "two folder windows' processes")
-        commands = " ".join(sorted(self.program.folder_commands()))
-        self.assertIn("C:\\Five", commands)
-        self.assertIn("C:\\Other", commands)
-        self.assertNotIn("C:\\Six", commands)
+        self.wait_commands("C:\\Five", "C:\\Other")

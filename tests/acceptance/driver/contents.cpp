@@ -4,41 +4,14 @@
 
 #include <commctrl.h>
 
-#include "driver.h"
+#include <cstring>
+
+#include "remote.h"
 
 namespace driver {
 namespace {
 
 constexpr int kTextLength = 512;
-
-// A block of memory in the process that owns a window.
-class RemoteMemory {
- public:
-  RemoteMemory(HWND window, std::size_t size) {
-    DWORD id = 0;
-    GetWindowThreadProcessId(window, &id);
-    process_ = OpenProcess(PROCESS_VM_OPERATION | PROCESS_VM_READ | PROCESS_VM_WRITE, FALSE, id);
-    if (process_ != nullptr) memory_ = VirtualAllocEx(process_, nullptr, size, MEM_COMMIT, PAGE_READWRITE);
-    if (memory_ == nullptr) throw Failure("the window's process gives no memory");
-  }
-  RemoteMemory(const RemoteMemory&) = delete;
-  RemoteMemory& operator=(const RemoteMemory&) = delete;
-  ~RemoteMemory() {
-    VirtualFreeEx(process_, memory_, 0, MEM_RELEASE);
-    CloseHandle(process_);
-  }
-  std::byte* At(std::size_t offset) const { return static_cast<std::byte*>(memory_) + offset; }
-  void Write(std::size_t offset, const void* data, std::size_t size) const {
-    if (!WriteProcessMemory(process_, At(offset), data, size, nullptr)) throw Failure("the memory can't be written");
-  }
-  void Read(std::size_t offset, void* data, std::size_t size) const {
-    if (!ReadProcessMemory(process_, At(offset), data, size, nullptr)) throw Failure("the memory can't be read");
-  }
-
- private:
-  HANDLE process_ = nullptr;
-  void* memory_ = nullptr;
-};
 
 LRESULT Ask(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
   DWORD_PTR result = 0;
@@ -48,7 +21,7 @@ LRESULT Ask(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
   return static_cast<LRESULT>(result);
 }
 
-// A record, and behind it the buffer that its text pointer shows to.
+// A record in the control's process, and behind it a buffer for a text.
 template <class Record>
 class RemoteRecord {
  public:
@@ -64,7 +37,7 @@ class RemoteRecord {
   }
 
   // The control may have pointed the record at a text of its own.
-  std::wstring TextOf(const wchar_t* address) const {
+  std::wstring TextAt(const wchar_t* address) const {
     wchar_t text[kTextLength + 1] = {};
     const auto offset = static_cast<std::size_t>(reinterpret_cast<const std::byte*>(address) - memory_.At(0));
     memory_.Read(offset, text, kTextLength * 2);
@@ -81,91 +54,66 @@ RECT OnScreen(HWND window, RECT rectangle) {
   return rectangle;
 }
 
-HTREEITEM NextNode(HWND window, WPARAM relation, HTREEITEM node) {
-  return reinterpret_cast<HTREEITEM>(Ask(window, TVM_GETNEXTITEM, relation, reinterpret_cast<LPARAM>(node)));
-}
-
-RECT NodeRectangle(HWND window, HTREEITEM node) {
-  const RemoteMemory memory(window, sizeof(RECT));
-  // The node's handle stands in the rectangle that the control fills.
-  memory.Write(0, &node, sizeof(HTREEITEM));
-  RECT rectangle{};
-  if (Ask(window, TVM_GETITEMRECT, TRUE, reinterpret_cast<LPARAM>(memory.At(0)))) {
-    memory.Read(0, &rectangle, sizeof rectangle);
-    rectangle = OnScreen(window, rectangle);
+struct Tree {
+  explicit Tree(HWND control) : window(control), items(control), rectangles(control) {}
+  HTREEITEM Next(WPARAM relation, HTREEITEM node) const {
+    return reinterpret_cast<HTREEITEM>(Ask(window, TVM_GETNEXTITEM, relation, reinterpret_cast<LPARAM>(node)));
   }
-  return rectangle;
-}
+  HWND window;
+  RemoteRecord<TVITEMW> items;
+  RemoteRecord<RECT> rectangles;
+};
 
-void PrintNodes(HWND window, const RemoteRecord<TVITEMW>& remote, HTREEITEM node, int depth) {
-  for (; node != nullptr; node = NextNode(window, TVGN_NEXT, node)) {
+void PrintNodes(const Tree& tree, HTREEITEM node, int depth) {
+  for (; node != nullptr; node = tree.Next(TVGN_NEXT, node)) {
     TVITEMW record{};
-    record.mask = TVIF_TEXT | TVIF_STATE | TVIF_IMAGE;
+    record.mask = TVIF_TEXT;
     record.hItem = node;
-    record.stateMask = ~0U;
-    record.pszText = remote.TextAddress();
+    record.pszText = tree.items.TextAddress();
     record.cchTextMax = kTextLength;
-    if (!remote.Ask(TVM_GETITEMW, 0, record)) throw Failure("a node doesn't answer");
+    if (!tree.items.Ask(TVM_GETITEMW, 0, record)) throw Failure("a node doesn't answer");
+    RECT rectangle{};
+    std::memcpy(&rectangle, &node, sizeof(HTREEITEM));  // the control looks for it there
+    tree.rectangles.Ask(TVM_GETITEMRECT, TRUE, rectangle);
     Line()
         .Add("depth", std::int64_t{depth})
-        .Add("text", remote.TextOf(record.pszText))
-        .Add("image", std::int64_t{record.iImage})
-        .Add("state", std::int64_t{record.state})
-        .Add("rectangle", NodeRectangle(window, node));
-    PrintNodes(window, remote, NextNode(window, TVGN_CHILD, node), depth + 1);
+        .Add("text", tree.items.TextAt(record.pszText))
+        .Add("rectangle", OnScreen(tree.window, rectangle));
+    PrintNodes(tree, tree.Next(TVGN_CHILD, node), depth + 1);
   }
-}
-
-int ColumnCount(HWND list) {
-  const auto header = reinterpret_cast<HWND>(Ask(list, LVM_GETHEADER, 0, 0));
-  const int columns = header != nullptr ? static_cast<int>(Ask(header, HDM_GETITEMCOUNT, 0, 0)) : 0;
-  return columns > 0 ? columns : 1;
-}
-
-std::wstring CellText(const RemoteRecord<LVITEMW>& remote, int row, int column) {
-  LVITEMW record{};
-  record.mask = LVIF_TEXT;
-  record.iSubItem = column;
-  record.pszText = remote.TextAddress();
-  record.cchTextMax = kTextLength;
-  remote.Ask(LVM_GETITEMTEXTW, static_cast<WPARAM>(row), record);
-  return remote.TextOf(record.pszText);
-}
-
-RECT RowRectangle(HWND window, int row) {
-  const RemoteMemory memory(window, sizeof(RECT));
-  RECT rectangle{};
-  rectangle.left = LVIR_BOUNDS;
-  memory.Write(0, &rectangle, sizeof rectangle);
-  if (Ask(window, LVM_GETITEMRECT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(memory.At(0)))) {
-    memory.Read(0, &rectangle, sizeof rectangle);
-  }
-  return OnScreen(window, rectangle);
 }
 
 }  // namespace
 
 void ListTree(Words& words) {
   const HWND window = words.Window();
-  words.End();
   if (ClassOf(window) != WC_TREEVIEWW) throw Failure("the window is no tree view");
-  const RemoteRecord<TVITEMW> remote(window);
-  PrintNodes(window, remote, NextNode(window, TVGN_ROOT, nullptr), 0);
+  const Tree tree(window);
+  PrintNodes(tree, tree.Next(TVGN_ROOT, nullptr), 0);
 }
 
 void ListList(Words& words) {
   const HWND window = words.Window();
-  words.End();
   if (ClassOf(window) != WC_LISTVIEWW) throw Failure("the window is no list view");
-  const RemoteRecord<LVITEMW> remote(window);
-  const int rows = static_cast<int>(Ask(window, LVM_GETITEMCOUNT, 0, 0));
-  const int columns = ColumnCount(window);
-  for (int row = 0; row < rows; ++row) {
+  const RemoteRecord<LVITEMW> items(window);
+  const RemoteRecord<RECT> rectangles(window);
+  const auto header = reinterpret_cast<HWND>(Ask(window, LVM_GETHEADER, 0, 0));
+  const LRESULT columns = header != nullptr ? Ask(header, HDM_GETITEMCOUNT, 0, 0) : 1;
+  const LRESULT rows = Ask(window, LVM_GETITEMCOUNT, 0, 0);
+  for (LRESULT row = 0; row < rows; ++row) {
+    const auto index = static_cast<WPARAM>(row);
+    RECT rectangle{LVIR_BOUNDS, 0, 0, 0};
+    rectangles.Ask(LVM_GETITEMRECT, index, rectangle);
     Line line;
-    line.Add("state", static_cast<std::int64_t>(Ask(window, LVM_GETITEMSTATE, static_cast<WPARAM>(row), 0xFFFF)))
-        .Add("rectangle", RowRectangle(window, row));
+    line.Add("selected", Ask(window, LVM_GETITEMSTATE, index, LVIS_SELECTED) != 0)
+        .Add("rectangle", OnScreen(window, rectangle));
     for (int column = 0; column < columns; ++column) {
-      line.Add(("text" + std::to_string(column)).c_str(), CellText(remote, row, column));
+      LVITEMW record{};
+      record.iSubItem = column;
+      record.pszText = items.TextAddress();
+      record.cchTextMax = kTextLength;
+      items.Ask(LVM_GETITEMTEXTW, index, record);
+      line.Add(("text" + std::to_string(column)).c_str(), items.TextAt(record.pszText));
     }
   }
 }

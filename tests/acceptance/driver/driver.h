@@ -11,12 +11,8 @@
 
 namespace driver {
 
-// Ends the verb with exit code 1 and this text on the error output.
+// Ends the verb with this text.
 struct Failure : std::runtime_error {
-  using std::runtime_error::runtime_error;
-};
-// The same with exit code 2: the words of the call make no sense.
-struct BadCall : std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
@@ -30,8 +26,8 @@ class Words {
   std::wstring Text();
   std::int64_t Number();  // decimal or 0x...
   int Int() { return static_cast<int>(Number()); }
+  POINT Point();
   HWND Window();  // the number of a window that is there
-  void End() const;
 
  private:
   std::vector<std::wstring> words_;
@@ -59,45 +55,14 @@ class Line {
 
 std::wstring ClassOf(HWND window);
 
-using VerbFunction = void (*)(Words& words);
-struct Verb {
-  const wchar_t* name;
-  const wchar_t* usage;
-  VerbFunction run;
-};
-
-// windows.cpp
-void ListWindows(Words& words);
-void ListChildren(Words& words);
-void PressButton(Words& words);
-void CloseWindow(Words& words);
-void SendOrPost(Words& words, bool post);
-void SetText(Words& words);
-void ShowForeground(Words& words);
-void BringForward(Words& words);
-
-// contents.cpp
-void ListTree(Words& words);
-void ListList(Words& words);
-
-// input.cpp
-void MovePointer(Words& words);
-void Click(Words& words);
-void Drag(Words& words);
-void PressKeys(Words& words);
-void TimeClick(Words& words);
-
-// drives.cpp
-void AddDrive(Words& words);
-void RemoveDrive(Words& words);
-
-// facts.cpp
-void ShowColours(Words& words);
-void ShowMenuText(Words& words);
-void ShowMetrics(Words& words);
-void ReadValue(Words& words);
-void WriteValue(Words& words);
-void DeleteKey(Words& words);
-void HoldDesktop(Words& words);
+// The verbs, which main.cpp tells apart.
+using Verb = void(Words& words);
+Verb ListWindows, ListChildren, PressButton, CloseWindow, BringForward;  // windows.cpp
+Verb ListTree, ListList;                                                 // contents.cpp
+Verb ListMenu;                                                           // menus.cpp
+Verb ShowCounters;                                                       // counters.cpp
+Verb PressKeys, TimeClick;                                               // input.cpp
+Verb AddDrive, RemoveDrive;                                              // drives.cpp
+Verb ReadValue, WriteValue, DeleteKey;                                   // registry.cpp
 
 }  // namespace driver

@@ -48,15 +48,9 @@ void Define(WCHAR letter, ULONG type, const std::string& folder) {
 
 void AddDrive(Words& words) {
   const WCHAR letter = words.Text().at(0);
-  const std::string folder = Utf8(words.Text());
-  words.End();
-  Define(letter, DRIVE_FIXED, folder);
+  Define(letter, DRIVE_FIXED, Utf8(words.Text()));
 }
 
-void RemoveDrive(Words& words) {
-  const WCHAR letter = words.Text().at(0);
-  words.End();
-  Define(letter, DRIVE_NO_ROOT_DIR, {});
-}
+void RemoveDrive(Words& words) { Define(words.Text().at(0), DRIVE_NO_ROOT_DIR, {}); }
 
 }  // namespace driver

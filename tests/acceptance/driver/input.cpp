@@ -1,30 +1,12 @@
-// Verbs that act as the user's hand: pointer and keyboard by SendInput.
+// Verbs that press keys, and one that clicks and watches the clock.
 #include <algorithm>
-#include <cwctype>
+#include <iterator>
 #include <optional>
 
 #include "driver.h"
 
 namespace driver {
 namespace {
-
-struct Button {
-  const wchar_t* name;
-  DWORD down;
-  DWORD up;
-};
-
-constexpr Button kButtons[] = {
-    {L"left", MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP},
-    {L"right", MOUSEEVENTF_RIGHTDOWN, MOUSEEVENTF_RIGHTUP},
-};
-
-const Button& ButtonNamed(const std::wstring& name) {
-  for (const Button& button : kButtons) {
-    if (name == button.name) return button;
-  }
-  throw BadCall("no such button: " + Utf8(name));
-}
 
 void Send(INPUT input) {
   if (SendInput(1, &input, sizeof input) != 1) throw Failure("the input was refused");
@@ -37,63 +19,35 @@ void SendMouse(DWORD flags) {
   Send(input);
 }
 
-// Warps the pointer, then says that the mouse moved there: some menus follow only a movement.
-void MoveTo(int x, int y) {
-  SetCursorPos(x, y);
-  INPUT input{};
-  input.type = INPUT_MOUSE;
-  input.mi.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE;
-  const int width = std::max(1, GetSystemMetrics(SM_CXSCREEN) - 1);
-  const int height = std::max(1, GetSystemMetrics(SM_CYSCREEN) - 1);
-  // Absolute positions run from 0 to 65535 over the screen; half a pixel up keeps the rounding on the pixel meant.
-  input.mi.dx = static_cast<LONG>((static_cast<std::int64_t>(x) * 65535 + width / 2) / width);
-  input.mi.dy = static_cast<LONG>((static_cast<std::int64_t>(y) * 65535 + height / 2) / height);
-  Send(input);
-}
-
 struct KeyName {
   const wchar_t* name;
   WORD key;
-  bool extended;
 };
 
 constexpr KeyName kKeys[] = {
-    {L"Return", VK_RETURN, false}, {L"Esc", VK_ESCAPE, false},     {L"Tab", VK_TAB, false},
-    {L"Space", VK_SPACE, false},   {L"Backspace", VK_BACK, false}, {L"Up", VK_UP, true},
-    {L"Down", VK_DOWN, true},      {L"Left", VK_LEFT, true},       {L"Right", VK_RIGHT, true},
-    {L"Home", VK_HOME, true},      {L"End", VK_END, true},         {L"PageUp", VK_PRIOR, true},
-    {L"PageDown", VK_NEXT, true},  {L"Insert", VK_INSERT, true},   {L"Delete", VK_DELETE, true},
-    {L"Apps", VK_APPS, true},      {L"shift", VK_SHIFT, false},    {L"ctrl", VK_CONTROL, false},
-    {L"alt", VK_MENU, false},      {L"win", VK_LWIN, true},
+    {L"Return", VK_RETURN}, {L"Esc", VK_ESCAPE},  {L"Space", VK_SPACE},  {L"Backspace", VK_BACK},
+    {L"Up", VK_UP},         {L"Down", VK_DOWN},   {L"Left", VK_LEFT},    {L"Right", VK_RIGHT},
+    {L"Home", VK_HOME},     {L"End", VK_END},     {L"Apps", VK_APPS},    {L"F2", VK_F2},
+    {L"F6", VK_F6},         {L"shift", VK_SHIFT}, {L"ctrl", VK_CONTROL}, {L"alt", VK_MENU},
 };
+constexpr WORD kExtended[] = {VK_UP, VK_DOWN, VK_LEFT, VK_RIGHT, VK_HOME, VK_END, VK_APPS};
 
-struct Key {
-  WORD code;
-  bool extended;
-  bool shifted;
-};
-
-Key KeyNamed(const std::wstring& name) {
-  for (const KeyName& row : kKeys) {
-    if (name == row.name) return {row.key, row.extended, false};
-  }
-  if (name.size() == 1) {
-    const SHORT scan = VkKeyScanW(name[0]);
-    if (scan != -1) return {static_cast<WORD>(scan & 0xFF), false, (scan & 0x100) != 0};
-  }
-  if (name.size() > 1 && name[0] == L'F' && std::all_of(name.begin() + 1, name.end(), std::iswdigit)) {
-    const int number = std::stoi(name.substr(1));
-    if (number >= 1 && number <= 24) return {static_cast<WORD>(VK_F1 + number - 1), false, false};
-  }
-  throw BadCall("no such key: " + Utf8(name));
+WORD KeyNamed(const std::wstring& name) {
+  const auto* row =
+      std::find_if(std::begin(kKeys), std::end(kKeys), [&name](const KeyName& key) { return name == key.name; });
+  if (row != std::end(kKeys)) return row->key;
+  const SHORT scan = name.size() == 1 ? VkKeyScanW(name[0]) : SHORT{-1};
+  if (scan == -1 || (scan & 0x100) != 0) throw Failure("no such key: " + Utf8(name));
+  return static_cast<WORD>(scan & 0xFF);
 }
 
-void SendKey(const Key& key, bool up) {
+void SendKey(WORD key, bool up) {
+  const bool extended = std::find(std::begin(kExtended), std::end(kExtended), key) != std::end(kExtended);
   INPUT input{};
   input.type = INPUT_KEYBOARD;
-  input.ki.wVk = key.code;
-  input.ki.wScan = static_cast<WORD>(MapVirtualKeyW(key.code, MAPVK_VK_TO_VSC));
-  input.ki.dwFlags = (up ? KEYEVENTF_KEYUP : 0U) | (key.extended ? KEYEVENTF_EXTENDEDKEY : 0U);
+  input.ki.wVk = key;
+  input.ki.wScan = static_cast<WORD>(MapVirtualKeyW(key, MAPVK_VK_TO_VSC));
+  input.ki.dwFlags = (up ? KEYEVENTF_KEYUP : 0U) | (extended ? KEYEVENTF_EXTENDEDKEY : 0U);
   Send(input);
 }
 
@@ -109,28 +63,15 @@ void TypeText(std::wstring_view text) {
   }
 }
 
-// The keys of a word such as ctrl+shift+F2, those held down first.
-std::vector<Key> ChordOf(const std::wstring& word) {
-  std::vector<Key> chord;
-  std::size_t begin = 0;
-  for (std::size_t plus; (plus = word.find(L'+', begin)) != std::wstring::npos && plus > begin; begin = plus + 1) {
-    chord.push_back(KeyNamed(word.substr(begin, plus - begin)));
+// A word such as ctrl+shift+F2: all down in their order, then up.
+void PressChord(const std::wstring& word) {
+  std::vector<WORD> keys;
+  for (std::size_t begin = 0, plus = 0; plus != std::wstring::npos; begin = plus + 1) {
+    plus = word.find(L'+', begin);
+    keys.push_back(KeyNamed(word.substr(begin, plus - begin)));
   }
-  const Key last = KeyNamed(word.substr(begin));
-  if (last.shifted) chord.push_back(KeyNamed(L"shift"));
-  chord.push_back(last);
-  return chord;
-}
-
-void PressChord(const std::vector<Key>& chord) {
-  for (const Key& key : chord) SendKey(key, false);
-  std::for_each(chord.rbegin(), chord.rend(), [](const Key& key) { SendKey(key, true); });
-}
-
-COLORREF ColourOf(const std::wstring& rrggbb) {
-  if (rrggbb.size() != 6) throw BadCall("a colour has six hexadecimal digits");
-  const auto value = static_cast<DWORD>(std::stoul(rrggbb, nullptr, 16));
-  return RGB((value >> 16) & 0xFF, (value >> 8) & 0xFF, value & 0xFF);
+  for (const WORD key : keys) SendKey(key, false);
+  std::for_each(keys.rbegin(), keys.rend(), [](WORD key) { SendKey(key, true); });
 }
 
 // A popup menu's window that holds this point of the screen.
@@ -143,18 +84,6 @@ bool MenuCovers(POINT point) {
   return false;
 }
 
-class ScreenDC {
- public:
-  ScreenDC() : dc_(GetDC(nullptr)) {}
-  ScreenDC(const ScreenDC&) = delete;
-  ScreenDC& operator=(const ScreenDC&) = delete;
-  ~ScreenDC() { ReleaseDC(nullptr, dc_); }
-  COLORREF Pixel(POINT point) const { return GetPixel(dc_, point.x, point.y); }
-
- private:
-  HDC dc_;
-};
-
 std::int64_t Microseconds() {
   LARGE_INTEGER now{};
   LARGE_INTEGER frequency{};
@@ -165,46 +94,6 @@ std::int64_t Microseconds() {
 
 }  // namespace
 
-void MovePointer(Words& words) {
-  const int x = words.Int();
-  const int y = words.Int();
-  words.End();
-  MoveTo(x, y);
-}
-
-void Click(Words& words) {
-  const int x = words.Int();
-  const int y = words.Int();
-  const std::wstring name = words.More() ? words.Text() : L"left";
-  words.End();
-  const bool twice = name == L"double";
-  const Button& button = ButtonNamed(twice ? L"left" : name);
-  MoveTo(x, y);
-  for (int i = 0; i < (twice ? 2 : 1); ++i) {
-    SendMouse(button.down);
-    SendMouse(button.up);
-  }
-}
-
-void Drag(Words& words) {
-  const int x = words.Int();
-  const int y = words.Int();
-  const int toX = words.Int();
-  const int toY = words.Int();
-  const Button& button = ButtonNamed(words.More() ? words.Text() : L"left");
-  words.End();
-  MoveTo(x, y);
-  SendMouse(button.down);
-  // In small steps with pauses: a drag begins only once the pointer has been seen to travel.
-  constexpr int kSteps = 12;
-  for (int step = 1; step <= kSteps; ++step) {
-    Sleep(30);
-    MoveTo(x + (toX - x) * step / kSteps, y + (toY - y) * step / kSteps);
-  }
-  Sleep(200);
-  SendMouse(button.up);
-}
-
 void PressKeys(Words& words) {
   constexpr std::wstring_view kTextMark = L"text:";
   while (words.More()) {
@@ -212,35 +101,29 @@ void PressKeys(Words& words) {
     if (word.rfind(kTextMark, 0) == 0) {
       TypeText(std::wstring_view(word).substr(kTextMark.size()));
     } else {
-      PressChord(ChordOf(word));
+      PressChord(word);
     }
   }
 }
 
 void TimeClick(Words& words) {
-  const int x = words.Int();
-  const int y = words.Int();
-  const Button& button = ButtonNamed(words.Text());
-  const int pixelX = words.Int();
-  const int pixelY = words.Int();
-  const POINT point{pixelX, pixelY};
-  const COLORREF colour = ColourOf(words.Text());
+  const POINT place = words.Point();
+  const POINT seen = words.Point();
+  const auto red = words.Number(), green = words.Number(), blue = words.Number();
+  const auto colour = static_cast<COLORREF>(red | (green << 8) | (blue << 16));
   const std::int64_t limit = words.Number() * 1000;
-  words.End();
 
-  const ScreenDC screen;
-  if (MenuCovers(point) || screen.Pixel(point) == colour) throw Failure("the colour is there already");
-  MoveTo(x, y);
-  SendMouse(button.down);
+  const HDC screen = GetDC(nullptr);  // for as long as the driver runs
+  if (MenuCovers(seen) || GetPixel(screen, seen.x, seen.y) == colour) throw Failure("the colour is there already");
+  SetCursorPos(place.x, place.y);
+  SendMouse(MOUSEEVENTF_LEFTDOWN);
   const std::int64_t start = Microseconds();
-  SendMouse(button.up);
+  SendMouse(MOUSEEVENTF_LEFTUP);
   std::optional<std::int64_t> opened;
-  std::int64_t looks = 0;
   while (Microseconds() - start < limit) {
-    ++looks;
-    if (!opened && MenuCovers(point)) opened = Microseconds() - start;
-    if (opened && screen.Pixel(point) == colour) {
-      Line().Add("opened", *opened).Add("drawn", Microseconds() - start).Add("looks", looks);
+    if (!opened && MenuCovers(seen)) opened = Microseconds() - start;
+    if (opened && GetPixel(screen, seen.x, seen.y) == colour) {
+      Line().Add("opened", *opened).Add("drawn", Microseconds() - start);
       return;
     }
     Sleep(1);

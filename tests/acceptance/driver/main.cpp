@@ -1,56 +1,58 @@
-// acceptance_driver.exe VERB WORDS...: does one thing inside the desktop of the program under test, prints JSON lines
-// and ends. Exit code 0: done; 1: couldn't be done; 2: a call that makes no sense.
+// Looks and acts inside the desktop of the program under test, until its input ends. Each line of input is a verb and
+// its words with tabs between them; what comes back are JSON lines, and behind them one that says how it went.
 #include <cstdio>
-#include <cwchar>
+#include <iostream>
+#include <map>
+#include <sstream>
+#include <thread>
 
 #include "driver.h"
 
 namespace driver {
 namespace {
 
-constexpr Verb kVerbs[] = {
-    {L"windows", L"  all top-level windows, front to back", ListWindows},
-    {L"children", L"WINDOW  all windows within a window", ListChildren},
-    {L"press", L"WINDOW ID  presses a button of a dialog", PressButton},
-    {L"close", L"WINDOW  asks a window to close", CloseWindow},
-    {L"post", L"WINDOW MESSAGE WPARAM LPARAM", [](Words& words) { SendOrPost(words, true); }},
-    {L"send", L"WINDOW MESSAGE WPARAM LPARAM  waits 5 s at most", [](Words& words) { SendOrPost(words, false); }},
-    {L"text", L"WINDOW TEXT  sets the text of a control", SetText},
-    {L"foreground", L"  the window in front and the one with the focus", ShowForeground},
-    {L"activate", L"WINDOW  brings a window to the front", BringForward},
-    {L"tree", L"WINDOW  the nodes of a tree view", ListTree},
-    {L"list", L"WINDOW  the rows of a list view", ListList},
-    {L"move", L"X Y", MovePointer},
-    {L"click", L"X Y [left|right|double]", Click},
-    {L"drag", L"X Y X2 Y2 [left|right]", Drag},
-    {L"keys", L"KEY...  as Down, ctrl+shift+F2, a, or text:Any text", PressKeys},
-    {L"time-click", L"X Y BUTTON PX PY RRGGBB LIMIT_MS  from button-up to that colour within a popup menu", TimeClick},
-    {L"add-drive", L"LETTER FOLDER  a fixed drive at a folder of the host", AddDrive},
-    {L"remove-drive", L"LETTER", RemoveDrive},
-    {L"colours", L"  the system colours", ShowColours},
-    {L"menu-text", L"TEXT  the picture of a text in the menu's font", ShowMenuText},
-    {L"metrics", L"  screen, work area, dots per inch", ShowMetrics},
-    {L"read-value", L"KEY NAME  a value below the current user's key", ReadValue},
-    {L"write-value", L"KEY NAME TEXT", WriteValue},
-    {L"hold-desktop", L"  keeps the desktop alive until its input ends", HoldDesktop},
-    {L"delete-key", L"KEY  with all below it; none there is fine", DeleteKey},
+const std::map<std::wstring, Verb*> kVerbs = {
+    {L"windows", ListWindows},       // all top-level windows, front to back
+    {L"children", ListChildren},     // WINDOW: all windows within it
+    {L"press", PressButton},         // WINDOW ID: a button of a dialog
+    {L"close", CloseWindow},         // WINDOW
+    {L"activate", BringForward},     // WINDOW: brings it to the front
+    {L"tree", ListTree},             // WINDOW: the nodes of a tree view
+    {L"list", ListList},             // WINDOW: the rows of a list view
+    {L"menu", ListMenu},             // WINDOW: the entries of an open popup menu
+    {L"counters", ShowCounters},     // WINDOW: what its process holds of the system
+    {L"keys", PressKeys},            // KEY...: as Down, ctrl+shift+F2, a, or text:Any text
+    {L"time-click", TimeClick},      // X Y PX PY RED GREEN BLUE LIMIT_MS: button-up to that colour within a popup menu
+    {L"add-drive", AddDrive},        // LETTER FOLDER: a fixed drive at a folder of the host
+    {L"remove-drive", RemoveDrive},  // LETTER
+    {L"read-value", ReadValue},      // KEY NAME, below the current user's key
+    {L"write-value", WriteValue},    // KEY NAME TEXT
+    {L"delete-key", DeleteKey},      // KEY: with all below it; none there is fine
 };
 
-int Usage() {
-  for (const Verb& verb : kVerbs) std::fprintf(stderr, "%s %s\n", Utf8(verb.name).c_str(), Utf8(verb.usage).c_str());
-  return 2;
+std::wstring Wide(const std::string& text) {
+  std::wstring wide(text.size(), L'\0');
+  const int size = static_cast<int>(text.size());
+  wide.resize(static_cast<std::size_t>(MultiByteToWideChar(CP_UTF8, 0, text.data(), size, wide.data(), size)));
+  return wide;
 }
 
-int Run(const std::wstring& name, Words words) {
-  for (const Verb& verb : kVerbs) {
-    if (name != verb.name) continue;
-    // Ahead of all a verb does: a caller that saw no such line knows that nothing was done.
-    Line().Add("verb", name);
-    std::fflush(stdout);
-    verb.run(words);
-    return 0;
+void Answer(const std::string& line) {
+  std::vector<std::wstring> words;
+  std::istringstream stream(line);
+  for (std::string word; std::getline(stream, word, '\t');) words.push_back(Wide(word));
+  std::wstring failure;
+  try {
+    Verb* const verb = kVerbs.at(words.at(0));
+    words.erase(words.begin());
+    Words rest(std::move(words));
+    verb(rest);
+    if (rest.More()) throw Failure("a word too many");
+  } catch (const std::exception& thrown) {
+    failure = Wide(thrown.what());
   }
-  return Usage();
+  Line().Add("done", failure.empty()).Add("failure", failure);
+  std::fflush(stdout);
 }
 
 }  // namespace
@@ -65,30 +67,21 @@ std::string Utf8(std::wstring_view text) {
 }
 
 std::wstring Words::Text() {
-  if (!More()) throw BadCall("a word is missing");
+  if (!More()) throw Failure("a word is missing");
   return words_[next_++];
 }
 
-std::int64_t Words::Number() {
-  const std::wstring word = Text();
-  std::size_t used = 0;
-  try {
-    const std::int64_t number = std::stoll(word, &used, 0);
-    if (used == word.size()) return number;
-  } catch (const std::logic_error&) {
-    used = 0;
-  }
-  throw BadCall("no number: " + Utf8(word));
+std::int64_t Words::Number() { return std::stoll(Text()); }
+
+POINT Words::Point() {
+  const int x = Int();
+  return {x, Int()};
 }
 
 HWND Words::Window() {
   const auto window = reinterpret_cast<HWND>(static_cast<std::intptr_t>(Number()));
   if (!IsWindow(window)) throw Failure("no such window");
   return window;
-}
-
-void Words::End() const {
-  if (More()) throw BadCall("a word too many: " + Utf8(words_[next_]));
 }
 
 Line::~Line() { std::printf("{%s}\n", text_.c_str()); }
@@ -130,17 +123,17 @@ Line& Line::AddHandle(const char* name, HWND window) {
 
 }  // namespace driver
 
-int wmain(int count, wchar_t** words) {
+int main() {
   // Without this the system would answer in scaled pixels on a screen of more than 96 dots per inch.
   SetProcessDpiAwarenessContext(DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE_V2);
-  if (count < 2) return driver::Usage();
-  try {
-    return driver::Run(words[1], driver::Words({words + 2, words + count}));
-  } catch (const driver::BadCall& failure) {
-    std::fprintf(stderr, "%s\n", failure.what());
-    return 2;
-  } catch (const std::exception& failure) {
-    std::fprintf(stderr, "%s\n", failure.what());
-    return 1;
+  // The system takes a desktop down, task bar and all, a second after its last thread went, and it counts one too few
+  // after a program with a keyboard hook. So there are some to spare.
+  constexpr int kHolders = 16;
+  for (int i = 0; i < kHolders; ++i) {
+    std::thread([] {
+      GetDesktopWindow();
+      Sleep(INFINITE);
+    }).detach();
   }
+  for (std::string line; std::getline(std::cin, line);) driver::Answer(line);
 }
