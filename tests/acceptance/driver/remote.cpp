@@ -67,6 +67,7 @@ std::vector<std::uint64_t> CallThere(HWND window, const std::vector<RemoteCall>&
   std::vector<RemoteCall> done(calls.size());
   memory.Read(callsAt, done.data(), callsSize);
   std::vector<std::uint64_t> results;
+  results.reserve(done.size());
   for (const RemoteCall& call : done) results.push_back(call.functionOrResult);
   return results;
 }
