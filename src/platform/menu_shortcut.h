@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "platform/ui_bar_peers.h"
+#include "platform/peers/ui_bar_peers.h"
 
 namespace burrowmark {
 

@@ -8,7 +8,7 @@
 
 #include "platform/drawing.h"
 #include "platform/menus.h"
-#include "platform/ui_peers.h"
+#include "platform/peers/ui_peers.h"
 #include "platform/window_handle.h"
 
 namespace burrowmark {

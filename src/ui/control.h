@@ -23,7 +23,7 @@
 #include <utility>
 #include <vector>
 
-#include "platform/ui_peers.h"
+#include "platform/peers/ui_peers.h"
 
 namespace burrowmark {
 

@@ -9,7 +9,7 @@
 #include <utility>
 #include <vector>
 
-#include "platform/ui_bar_peers.h"
+#include "platform/peers/ui_bar_peers.h"
 #include "ui/menu_doors.h"
 
 namespace burrowmark {

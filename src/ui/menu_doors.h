@@ -3,7 +3,7 @@
 
 #include <vector>
 
-#include "platform/ui_bar_peers.h"
+#include "platform/peers/ui_bar_peers.h"
 
 namespace burrowmark {
 

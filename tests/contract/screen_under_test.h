@@ -9,8 +9,8 @@
 #include <vector>
 
 #include "platform/drawing.h"
+#include "platform/peers/ui_control.h"
 #include "platform/twips.h"
-#include "platform/ui_control.h"
 #include "platform/window_handle.h"
 
 namespace burrowmark {

@@ -9,11 +9,11 @@
 #include <string>
 #include <vector>
 
-#include "platform/win32/entry_names.h"
 #include "platform/win32/handles.h"
-#include "platform/win32/menu_letters.h"
-#include "platform/win32/message_records.h"
+#include "platform/win32/menus/entry_names.h"
+#include "platform/win32/menus/menu_letters.h"
 #include "platform/win32/win32_platform.h"
+#include "platform/win32/windows/message_records.h"
 
 namespace burrowmark {
 namespace {

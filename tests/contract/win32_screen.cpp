@@ -6,9 +6,9 @@
 #include <algorithm>
 
 #include "platform/key_codes.h"
-#include "platform/local/menu_text.h"
-#include "platform/ui_bar_peers.h"
-#include "platform/win32/form_window.h"
+#include "platform/local/menus/menu_text.h"
+#include "platform/peers/ui_bar_peers.h"
+#include "platform/win32/windows/form_window.h"
 
 namespace burrowmark {
 namespace {

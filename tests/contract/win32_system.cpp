@@ -4,7 +4,7 @@
 #include <filesystem>
 
 #include "platform/characters.h"
-#include "platform/win32/file_handle.h"
+#include "platform/win32/files/file_handle.h"
 #include "platform/win32/system_library.h"
 #include "platform/win32/win32_platform.h"
 #include "tests/contract/system_under_test.h"

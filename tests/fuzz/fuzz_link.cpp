@@ -4,7 +4,7 @@
 #include <iostream>
 #include <string_view>
 
-#include "platform/local/link_file.h"
+#include "platform/local/links/link_file.h"
 #include "platform/local/local_facts.h"
 
 namespace burrowmark {

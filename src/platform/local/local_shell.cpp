@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "platform/local/link_file.h"
+#include "platform/local/links/link_file.h"
 
 namespace burrowmark {
 namespace {

@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
+#include "platform/local/disk/local_file_system.h"
 #include "platform/local/faults.h"
-#include "platform/local/local_file_system.h"
 #include "platform/shell.h"
 #include "platform/system_facts.h"
 

@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "platform/characters.h"
-#include "platform/local/disk.h"
+#include "platform/local/disk/disk.h"
 
 namespace burrowmark {
 namespace {

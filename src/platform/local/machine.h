@@ -6,21 +6,21 @@
 #include <string>
 #include <string_view>
 
-#include "platform/local/drive_folders.h"
+#include "platform/local/disk/drive_folders.h"
+#include "platform/local/disk/local_file_system.h"
 #include "platform/local/faults.h"
 #include "platform/local/local_clock.h"
-#include "platform/local/local_dialogs.h"
-#include "platform/local/local_drawing.h"
 #include "platform/local/local_facts.h"
-#include "platform/local/local_file_system.h"
-#include "platform/local/local_keyboard.h"
-#include "platform/local/local_menus.h"
-#include "platform/local/local_registry.h"
-#include "platform/local/local_session.h"
 #include "platform/local/local_shell.h"
-#include "platform/local/local_user.h"
-#include "platform/local/local_windows.h"
-#include "platform/local/menu_tree.h"
+#include "platform/local/menus/local_menus.h"
+#include "platform/local/menus/menu_tree.h"
+#include "platform/local/person/local_dialogs.h"
+#include "platform/local/person/local_keyboard.h"
+#include "platform/local/person/local_session.h"
+#include "platform/local/person/local_user.h"
+#include "platform/local/registry/local_registry.h"
+#include "platform/local/screen/local_drawing.h"
+#include "platform/local/screen/local_windows.h"
 #include "platform/platform.h"
 
 namespace burrowmark {

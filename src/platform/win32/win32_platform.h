@@ -2,18 +2,18 @@
 #pragma once
 
 #include "platform/platform.h"
-#include "platform/win32/menu_font.h"
-#include "platform/win32/screen_dpi.h"
+#include "platform/win32/files/win32_file_system.h"
+#include "platform/win32/menus/menu_font.h"
+#include "platform/win32/menus/win32_drawing.h"
+#include "platform/win32/menus/win32_menus.h"
+#include "platform/win32/shell/win32_registry.h"
+#include "platform/win32/shell/win32_shell.h"
 #include "platform/win32/win32_clock.h"
-#include "platform/win32/win32_dialogs.h"
-#include "platform/win32/win32_drawing.h"
 #include "platform/win32/win32_facts.h"
-#include "platform/win32/win32_file_system.h"
-#include "platform/win32/win32_keyboard.h"
-#include "platform/win32/win32_menus.h"
-#include "platform/win32/win32_registry.h"
-#include "platform/win32/win32_shell.h"
-#include "platform/win32/win32_windows.h"
+#include "platform/win32/windows/screen_dpi.h"
+#include "platform/win32/windows/win32_dialogs.h"
+#include "platform/win32/windows/win32_keyboard.h"
+#include "platform/win32/windows/win32_windows.h"
 
 namespace burrowmark {
 

@@ -1,0 +1,105 @@
+#include "platform/local/disk/disk.h"
+
+#include <fcntl.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <chrono>
+#include <fstream>
+#include <iterator>
+
+#ifdef _WIN32
+#include <io.h>
+#include <sys/stat.h>
+#else
+#include <unistd.h>
+#endif
+
+#include "platform/characters.h"
+#include "platform/local/local_clock.h"
+
+namespace burrowmark {
+namespace {
+
+// The C library offers the same four calls on both systems, under different names.
+#ifdef _WIN32
+int OpenNew(const std::filesystem::path& path) {
+  return _wopen(path.c_str(), _O_WRONLY | _O_CREAT | _O_EXCL | _O_BINARY | _O_NOINHERIT, _S_IREAD | _S_IWRITE);
+}
+std::ptrdiff_t WriteSome(int descriptor, const char* bytes, std::size_t count) {
+  return _write(descriptor, bytes, static_cast<unsigned>(count));
+}
+bool Sync(int descriptor) { return _commit(descriptor) == 0; }
+bool CloseDescriptor(int descriptor) { return _close(descriptor) == 0; }
+#else
+constexpr mode_t kNewFileMode = 0666;
+int OpenNew(const std::filesystem::path& path) {
+  return open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, kNewFileMode);
+}
+std::ptrdiff_t WriteSome(int descriptor, const char* bytes, std::size_t count) {
+  return write(descriptor, bytes, count);
+}
+bool Sync(int descriptor) { return fsync(descriptor) == 0; }
+bool CloseDescriptor(int descriptor) { return close(descriptor) == 0; }
+#endif
+
+constexpr std::size_t kLargestWrite = 1U << 20;
+
+}  // namespace
+
+std::filesystem::path DiskName(std::wstring_view name) {
+  const std::string bytes = ToUtf8(name);
+  return std::u8string(bytes.begin(), bytes.end());
+}
+
+std::wstring NameFromDisk(const std::filesystem::path& path) {
+  const std::u8string bytes = path.u8string();
+  return FromUtf8(std::string(bytes.begin(), bytes.end()));
+}
+
+bool ReadDiskFile(const std::filesystem::path& path, std::string& bytes) {
+  bytes.clear();
+  std::error_code error;
+  if (!std::filesystem::is_regular_file(path, error)) return false;
+  std::ifstream in(path, std::ios::binary);
+  if (!in) return false;
+  bytes.assign(std::istreambuf_iterator<char>(in), {});
+  if (!in.bad()) return true;
+  bytes.clear();
+  return false;
+}
+
+std::optional<LocalTime> DiskFileTime(const std::filesystem::path& path) {
+  std::error_code error;
+  const auto written = std::filesystem::last_write_time(path, error);
+  if (error) return std::nullopt;
+  const auto age = std::filesystem::file_time_type::clock::now() - written;
+  const auto onClock = std::chrono::system_clock::now() - age;
+  return LocalClock::Split(
+      std::chrono::system_clock::to_time_t(std::chrono::time_point_cast<std::chrono::system_clock::duration>(onClock)));
+}
+
+DiskFile::DiskFile(const std::filesystem::path& path) : descriptor_(OpenNew(path)) {}
+
+DiskFile::~DiskFile() { Close(); }
+
+bool DiskFile::Write(std::string_view bytes) {
+  while (IsOpen() && !bytes.empty()) {
+    const std::ptrdiff_t written = WriteSome(descriptor_, bytes.data(), std::min(bytes.size(), kLargestWrite));
+    if (written < 0 && errno == EINTR) continue;
+    if (written <= 0) return false;
+    bytes.remove_prefix(static_cast<std::size_t>(written));
+  }
+  return IsOpen();
+}
+
+bool DiskFile::Flush() { return IsOpen() && Sync(descriptor_); }
+
+bool DiskFile::Close() {
+  if (!IsOpen()) return false;
+  const bool closed = CloseDescriptor(descriptor_);
+  descriptor_ = -1;
+  return closed;
+}
+
+}  // namespace burrowmark
