@@ -23,8 +23,10 @@ bool IsDevice(std::wstring_view name) {
 
 }  // namespace
 
+bool HasBadFileChars(std::wstring_view text) { return std::any_of(text.begin(), text.end(), IsBadFileChar); }
+
 std::wstring RemoveBadFileChars(std::wstring_view text) {
-  if (std::none_of(text.begin(), text.end(), IsBadFileChar)) return std::wstring(text);
+  if (!HasBadFileChars(text)) return std::wstring(text);
   std::wstring kept;
   kept.reserve(text.size());
   std::remove_copy_if(text.begin(), text.end(), std::back_inserter(kept), IsBadFileChar);

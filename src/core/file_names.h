@@ -9,6 +9,7 @@ namespace burrowmark {
 // The characters that a file name can't hold.
 inline constexpr std::wstring_view kBadFileChars = L"\\/:*?\"<>|";
 
+bool HasBadFileChars(std::wstring_view text);
 std::wstring RemoveBadFileChars(std::wstring_view text);
 // Each bad character becomes "-".
 std::wstring ReplaceBadFileChars(std::wstring_view text);

@@ -3,7 +3,13 @@
 #include <algorithm>
 #include <utility>
 
+#include "core/numbers.h"
+
 namespace burrowmark {
+
+std::wstring HotKeyText(std::int32_t KeyboardCode) {
+  return KeyboardCode < 0 ? std::wstring() : L"Shift+Ctrl+" + DecimalText(KeyboardCode - kFirstHotKey);
+}
 
 bool HotKeyItemExists(const Application& app, const clsMenuItem& item) {
   return std::any_of(app.HotKeyItems.Items.begin(), app.HotKeyItems.Items.end(),

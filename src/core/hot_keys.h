@@ -5,6 +5,13 @@
 
 namespace burrowmark {
 
+// Codes of the ten hot keys: the virtual-key codes of the digits in the main row.
+inline constexpr std::int32_t kFirstHotKey = 48;
+inline constexpr std::int32_t kLastHotKey = 57;
+
+// Text of a hot key's code: "Shift+Ctrl+5" for 53, empty for none.
+std::wstring HotKeyText(std::int32_t KeyboardCode);
+
 // True if an item of that name is in `HotKeyItems`.
 bool HotKeyItemExists(const Application& app, const clsMenuItem& item);
 

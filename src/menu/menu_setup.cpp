@@ -7,7 +7,6 @@
 #include <vector>
 
 #include "core/failure.h"
-#include "core/file_names.h"
 #include "core/hot_keys.h"
 #include "core/menu_entries.h"
 #include "core/store_copy.h"
@@ -185,8 +184,6 @@ std::shared_ptr<clsMenuCollection> DefaultTree(Application& app) {
   AddFixedEntries(app, *store, app.AC[Appearance::kSystemFolders]);
   return store;
 }
-
-bool HasBadFileChars(std::wstring_view text) { return text.find_first_of(kBadFileChars) != std::wstring_view::npos; }
 
 bool ItemNamed(const std::wstring& name, const clsMenuCollection& store) { return store.ItemExists(name); }
 

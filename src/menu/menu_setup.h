@@ -32,7 +32,6 @@ void RebuildMainMenu(Application& app);
 // The tree of a first start.
 std::shared_ptr<clsMenuCollection> DefaultTree(Application& app);
 
-bool HasBadFileChars(std::wstring_view text);
 bool ItemNamed(const std::wstring& name, const clsMenuCollection& store);
 
 }  // namespace burrowmark

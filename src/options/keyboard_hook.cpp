@@ -1,22 +1,14 @@
 #include "options/keyboard_hook.h"
 
 #include "core/hot_keys.h"
-#include "core/numbers.h"
 #include "menu/menu_actions.h"
 
 namespace burrowmark {
 namespace {
 
-constexpr std::uint32_t kFirstDigit = 48;  // virtual-key codes of the main row
-constexpr std::uint32_t kLastDigit = 57;
 constexpr int kKeyDownBit = 0x8000;
 
 }  // namespace
-
-std::wstring HotKeyText(std::int32_t KeyboardCode) {
-  if (KeyboardCode < 0) return {};
-  return L"Shift+Ctrl+" + DecimalText(KeyboardCode - static_cast<std::int32_t>(kFirstDigit));
-}
 
 void KeyboardHook::HookKeyboard() {
   if (IsHooked()) return;
@@ -32,11 +24,11 @@ void KeyboardHook::UnhookKeyboard() {
 // Every key of the desktop passes here, on a thread of its own, so the digits are asked for first. Whose code it is, is
 // looked up in the loop.
 void KeyboardHook::KeyboardProc(std::int64_t message, const KeyRecord& key) {
-  if (message != kMessageKeyDown || key.vkCode < kFirstDigit || key.vkCode > kLastDigit) return;
+  const auto code = static_cast<std::int32_t>(key.vkCode);
+  if (message != kMessageKeyDown || code < kFirstHotKey || code > kLastHotKey) return;
   Keyboard& keyboard = app_.platform.keyboard;
   if ((keyboard.GetKeyState(kKeyControl) & kKeyDownBit) == 0) return;
   if ((keyboard.GetKeyState(kKeyShift) & kKeyDownBit) == 0) return;
-  const auto code = static_cast<std::int32_t>(key.vkCode);
   app_.platform.windows.Post([this, code] { HotKeyPressed(code); });
 }
 

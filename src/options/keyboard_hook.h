@@ -3,14 +3,10 @@
 
 #include <cstdint>
 #include <set>
-#include <string>
 
 #include "core/application.h"
 
 namespace burrowmark {
-
-// Text of a hot key's code: "Shift+Ctrl+5" for 53, empty for none.
-std::wstring HotKeyText(std::int32_t KeyboardCode);
 
 // Watches the keys of the whole desktop while it is installed. A key is never swallowed.
 class KeyboardHook {

@@ -1,6 +1,5 @@
 #include "core/file_names.h"
 #include "core/text.h"
-#include "menu/menu_setup.h"
 #include "organize/enabling.h"
 #include "organize/frm_organize.h"
 #include "organize/node_keys.h"

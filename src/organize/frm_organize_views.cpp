@@ -2,7 +2,7 @@
 
 #include "core/dates.h"
 #include "core/form_services.h"
-#include "core/numbers.h"
+#include "core/hot_keys.h"
 #include "organize/frm_organize.h"
 #include "organize/node_keys.h"
 
@@ -11,7 +11,6 @@ namespace {
 
 constexpr std::int16_t kRootImage = 1;
 constexpr Color kGrey = 0x808080;
-constexpr std::int32_t kFirstHotKey = 48;
 
 // Columns behind the first, as the list counts them.
 enum SubItem : std::size_t { kType = 1, kKeyboard, kTarget, kDescription, kModified, kCreated };
@@ -36,10 +35,6 @@ std::wstring ParentKey(const clsMenuItem& item) {
 }
 
 bool IsRoot(const std::wstring& key) { return key == MIT_HF_ROOT; }
-
-std::wstring KeyboardText(std::int32_t code) {
-  return code < 0 ? std::wstring() : L"Shift+Ctrl+" + DecimalText(code - kFirstHotKey);
-}
 
 std::wstring DateText(Date date, const SystemFacts& system) {
   return date == 0 ? L"Never" : DefaultDateText(date, system);
@@ -226,7 +221,7 @@ void frmOrganize::WriteColumns(ListItem& row, const clsMenuItem& item) {
   row.Tag = item.FolderPath;
   row.SetToolTipText(item.UserDescription);
   row.SetSubItem(kType, openAll ? L"Open-All Shortcut" : item.Description);
-  row.SetSubItem(kKeyboard, KeyboardText(item.KeyboardCode));
+  row.SetSubItem(kKeyboard, HotKeyText(item.KeyboardCode));
   row.SetForeColor(kKeyboard, app_.ADVC[Advanced::kHotKeys] ? kColorOfControl : kGrey);
   row.SetSubItem(kTarget, item.FolderPath);
   row.SetForeColor(kTarget, item.SubMenu() || openAll ? kGrey : kColorOfControl);
