@@ -3,8 +3,9 @@
 namespace burrowmark {
 
 Platform Application::WithBoxes(const Platform& system) {
-  return {system.registry, system.files,   system.system, system.clock, system.windows,
-          system.menus,    system.drawing, system.shell,  dialogs_,     system.keyboard};
+  return {system.registry,  system.files,   system.system, system.clock, system.windows,
+          system.menus,     system.drawing, system.shell,  dialogs_,     system.keyboard,
+          system.clipboard, system.workers, system.network};
 }
 
 void Application::BringForward() {

@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "core/failure.h"
+#include "core/folder_tests.h"
 #include "core/registry.h"
 #include "core/registry_keys.h"
 #include "core/services.h"
@@ -23,8 +24,9 @@ std::int32_t Launch(Application& app, const wchar_t* verb, const std::wstring& f
   return app.platform.shell.ShellExecuteA(verb, file, parameters, kNoDirectory, kShowNormal);
 }
 
-bool MayOpen(Application& app, const clsMenuItem& item) {
-  return item.ItemType != MIT_PATH || FolderOrDriveExists(app.platform.files, item.FolderPath);
+// A server that doesn't answer couldn't show its folder either.
+bool MayOpen(FolderTests& tests, const clsMenuItem& item) {
+  return item.ItemType != MIT_PATH || tests.Test(item.FolderPath) == FolderAnswer::kThere;
 }
 
 void LaunchItem(Application& app, clsMenuItem& item) {
@@ -56,7 +58,8 @@ void OfferDeletionLater(Application& app, const std::shared_ptr<clsMenuCollectio
   if (!app.GC[General::kAskForDeletingDead]) return;
   app.Requests.Add([&app, store = std::weak_ptr<clsMenuCollection>(store), item] {
     const std::shared_ptr<clsMenuCollection> there = store.lock();
-    if (there && StandsIn(*there, item) && !MayOpen(app, *item)) OfferDeletion(app, there, item);
+    FolderTests tests(app.platform);
+    if (there && StandsIn(*there, item) && !MayOpen(tests, *item)) OfferDeletion(app, there, item);
   });
 }
 
@@ -68,6 +71,16 @@ std::vector<ItemRef> ShortcutsBeside(const clsMenuCollection& store, const clsMe
     if (item->OwnerName() == openAll.OwnerName() && item->ItemType == MIT_PATH) items.push_back(item);
   }
   return items;
+}
+
+bool OpenTested(Application& app, FolderTests& tests, const std::shared_ptr<clsMenuCollection>& store,
+                const ItemRef& item) {
+  if (MayOpen(tests, *item)) {
+    LaunchItem(app, *item);
+    return true;
+  }
+  if (app.GC[General::kAskForDeletingDead]) OfferDeletion(app, store, item);
+  return false;
 }
 
 }  // namespace
@@ -89,29 +102,27 @@ void MenuItemChosen(Application& app, const std::shared_ptr<clsMenuCollection>& 
 }
 
 bool OpenMenuItem(Application& app, const std::shared_ptr<clsMenuCollection>& store, const ItemRef& item) {
-  if (MayOpen(app, *item)) {
-    LaunchItem(app, *item);
-    return true;
-  }
-  if (app.GC[General::kAskForDeletingDead]) OfferDeletion(app, store, item);
-  return false;
+  FolderTests tests(app.platform);
+  return OpenTested(app, tests, store, item);
 }
 
 void OpenAllMenuItem(Application& app, const std::shared_ptr<clsMenuCollection>& store, const ItemRef& item) {
   const Busy walk(app.Requests, BusyWith::kWalk);
+  FolderTests tests(app.platform);
   for (const ItemRef& shortcut : ShortcutsBeside(*store, *item)) {
-    if (StandsIn(*store, shortcut)) OpenMenuItem(app, store, shortcut);
+    if (StandsIn(*store, shortcut)) OpenTested(app, tests, store, shortcut);
   }
 }
 
 bool OpenHotKeyItem(Application& app, std::int32_t KeyboardCode) {
   bool result = false;
   const HotKeyList list = app.HotKeyItems;
+  FolderTests tests(app.platform);
   for (const ItemRef& item : list.Items) {
     if (item->KeyboardCode != KeyboardCode) continue;
     const bool isOpenAll = item->ItemType == MIT_OPENALL;
     for (const ItemRef& shortcut : isOpenAll ? ShortcutsBeside(*list.Store, *item) : std::vector<ItemRef>{item}) {
-      result = MayOpen(app, *shortcut);
+      result = MayOpen(tests, *shortcut);
       if (result) {
         LaunchItem(app, *shortcut);
       } else {

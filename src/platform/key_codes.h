@@ -22,6 +22,7 @@ inline constexpr std::int32_t kKeyCodeInsert = 45;
 inline constexpr std::int32_t kKeyCodeDelete = 46;
 inline constexpr std::int32_t kKeyCodeApps = 93;  // opens a context menu
 inline constexpr std::int32_t kKeyCodeF2 = 113;
+inline constexpr std::int32_t kKeyCodeF4 = 115;
 inline constexpr std::int32_t kKeyCodeF5 = 116;
 inline constexpr std::int32_t kKeyCodeF6 = 117;
 inline constexpr std::int32_t kKeyCodeF10 = 121;

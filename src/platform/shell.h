@@ -56,6 +56,9 @@ class Shell {
   // Moves a file, or a folder with all that is in it, to the Recycle Bin. False if it stays, as it does where there is
   // no bin. Nothing is shown unless the system wants to ask about what is too large for the bin.
   virtual bool RecycleFile(const std::wstring& path) = 0;
+  // Shows the shell's own properties of a file or a folder over a window. They go when they are closed, or with the
+  // program. False if there are none.
+  virtual bool ShowProperties(WindowHandle owner, const std::wstring& path) = 0;
   // A command to a media device; the system's error number, 0 on success.
   virtual std::int32_t mciSendStringA(const std::wstring& command) = 0;
 };

@@ -1,10 +1,11 @@
 #include "projection/link_tree.h"
 
-#include <map>
+#include <memory>
 #include <vector>
 
 #include "core/file_names.h"
 #include "core/services.h"
+#include "core/text.h"
 #include "platform/characters.h"
 
 namespace burrowmark {
@@ -20,6 +21,23 @@ bool IsOwnLink(Application& app, const std::wstring& path) {
 
 bool IsOwnFile(Application& app, const std::wstring& path) {
   return EqualIgnoringCase(GetFileName(path), L"Desktop.ini") || IsOwnLink(app, path);
+}
+
+// One's own links below a folder that lead to a server which doesn't answer.
+void AddSilentLinks(Application& app, const std::wstring& folder, FolderTests& tests, LinkFiles& links) {
+  std::vector<FolderEntry> entries;
+  app.platform.files.ListFolder(folder, entries);
+  for (const FolderEntry& entry : entries) {
+    const std::wstring path = folder + L"\\" + entry.name;
+    const bool isFolder = (entry.attributes & kFileDirectory) != 0;
+    if (isFolder && !entry.isLink) AddSilentLinks(app, path, tests, links);
+    ShellLink link;
+    std::string bytes;
+    const bool silent = !isFolder && app.platform.shell.ReadShellLink(path, link) &&
+                        link.description == kLinkDescription && IsNetworkPlace(app.platform.files, link.target) &&
+                        tests.Test(link.target) == FolderAnswer::kNoAnswer;
+    if (silent && app.platform.files.ReadWholeFile(path, bytes)) links[UpperCaseText(path)] = {link.target, bytes};
+  }
 }
 
 // What a folder holds, at any depth.
@@ -60,7 +78,8 @@ void WipeFolder(Application& app, const std::wstring& folder) {
 
 class LinkTree {
  public:
-  LinkTree(Application& app, const std::wstring& root) : app_(app), root_(root) {}
+  LinkTree(Application& app, const std::wstring& root, FolderTests& tests, const LinkFiles& silent)
+      : app_(app), root_(root), tests_(tests), silent_(silent) {}
 
   void Add(const clsMenuItem& item) {
     const std::wstring parent = FolderOf(item.OwnerName());
@@ -86,10 +105,20 @@ class LinkTree {
 
   void WriteLink(const clsMenuItem& item, const std::wstring& parent) {
     if (item.OpenType != MIT_PATH_SHORTCUT && item.OpenType != MIT_PATH_EXPLORER) return;
-    if (!FolderOrDriveExists(app_.platform.files, item.FolderPath)) return;
+    const FolderAnswer answer = tests_.Test(item.FolderPath);
+    if (answer == FolderAnswer::kMissing) return;
     const std::wstring path = parent + L"\\" + FileNameOf(item.Caption()) + L".lnk";
+    if (answer == FolderAnswer::kNoAnswer) return PutBack(path, item.FolderPath);
     if (FileExists(app_.platform.files, path) && !IsOwnLink(app_, path)) return;
     app_.platform.shell.WriteShellLink(path, {item.FolderPath, kLinkDescription, kShowNormal});
+  }
+
+  // Nothing that asks the server again.
+  void PutBack(const std::wstring& path, const std::wstring& target) {
+    const auto found = silent_.find(UpperCaseText(path));
+    if (found == silent_.end() || !EqualIgnoringCase(found->second.target, target)) return;
+    const std::unique_ptr<OutputFile> file = app_.platform.files.CreateNewFile(path);
+    if (file && file->Write(found->second.bytes)) file->Close();
   }
 
   void MakeGroupFolder(const clsMenuItem& group, const std::wstring& folder) {
@@ -105,16 +134,29 @@ class LinkTree {
 
   Application& app_;
   std::wstring root_;
+  FolderTests& tests_;
+  const LinkFiles& silent_;
   std::map<std::wstring, std::wstring> folders_;  // by the group's name
 };
 
 }  // namespace
 
-void WriteLinkTree(Application& app, const clsMenuCollection& store, const std::wstring& root) {
+LinkFiles SilentLinks(Application& app, const clsMenuCollection& store, const std::wstring& root, FolderTests& tests) {
+  LinkFiles links;
+  for (std::int32_t i = 1; i <= store.Count(); ++i) {
+    if (!IsNetworkPlace(app.platform.files, store.Item(i)->FolderPath)) continue;
+    AddSilentLinks(app, root, tests, links);
+    break;
+  }
+  return links;
+}
+
+void WriteLinkTree(Application& app, const clsMenuCollection& store, const std::wstring& root, FolderTests& tests,
+                   const LinkFiles& silent) {
   // While a box is open the store may change.
   std::vector<ItemRef> items;
   for (std::int32_t i = 1; i <= store.Count(); ++i) items.push_back(store.Item(i));
-  LinkTree tree(app, root);
+  LinkTree tree(app, root, tests, silent);
   for (const ItemRef& item : items) tree.Add(*item);
 }
 

@@ -62,8 +62,10 @@ void RefreshOrganizedFolders(Application& app, const ProjectionTarget& target,
   if (!MayReplace(app, root)) return SwitchOff(app, target.option);
   EnsureRoot(app, root, target.value);
   if (!app.ADVC[Advanced::kWithSystemFolders]) shown = CopyGroup(app.platform.clock, *shown, MIT_GROUP_USER);
+  FolderTests tests(app.platform);
+  const LinkFiles silent = SilentLinks(app, *shown, root, tests);
   WipeLinkTree(app, root);
-  WriteLinkTree(app, *shown, root);
+  WriteLinkTree(app, *shown, root, tests, silent);
   if (OrganizedFoldersExist(app, target)) WriteDesktopIni(app, root);
   if (!ShowMessage) return;
   app.platform.dialogs.MessageBoxA(app.MainWindow, L"Organized Folders have been restored.", target.restoredTitle,

@@ -32,7 +32,8 @@ void ComboBox::SetListIndex(std::int32_t index) {
 }
 
 bool ComboBox::UsesKey(std::int32_t keyCode, std::int32_t shift) const {
-  return (shift & kCtrlMask) == 0 && keyCode >= kKeyCodePageUp && keyCode <= kKeyCodeDown;
+  const bool moves = keyCode >= kKeyCodePageUp && keyCode <= kKeyCodeDown;
+  return (shift & kCtrlMask) == 0 && (moves || keyCode == kKeyCodeF4);
 }
 
 void ComboBox::UserChoose(std::int32_t index) {

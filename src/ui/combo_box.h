@@ -14,7 +14,8 @@ class ComboBox final : public ControlOf<ComboBoxState, ComboBoxPeer> {
  public:
   ComboBox(ControlParent& parent, std::wstring name, const Box& place);
 
-  // Another entry is chosen, whoever did that; not where the list is cleared.
+  // Another entry is chosen, whoever did that; not where the list is cleared. What the user passes in the open list
+  // isn't chosen until that closes, and Esc closes it as it was. With a closed list each arrow key is a choice.
   std::function<void()> Click;
 
   void AddItem(std::wstring text);  // at the end

@@ -1,5 +1,7 @@
 #include "ui/control.h"
 
+#include "platform/key_codes.h"
+
 namespace burrowmark {
 
 Control::Control(ControlParent& parent, std::wstring name, const Box& place)
@@ -34,6 +36,11 @@ void Control::SetTabStop(bool tabStop) {
   if (ControlPeer* peer = ThePeer()) peer->TabStopChanged();
 }
 
+void Control::SetToolTipText(std::wstring text) {
+  if (!Assign(toolTip_, std::move(text))) return;
+  if (ControlPeer* peer = ThePeer()) peer->ToolTipChanged();
+}
+
 bool Control::HasFocus() const { return form_.ActiveControl() == this; }
 
 void Control::SetFocus() {
@@ -61,10 +68,20 @@ void Control::UserMouse(MouseAction action, const MouseEvent& event) {
 }
 
 bool Control::UserKeyDown(std::int32_t keyCode, std::int32_t shift) {
-  if (!KeyDown || !IsReachable()) return false;
+  if ((!KeyDown && !KeyPress) || !IsReachable()) return false;
   const ControlSite::Running running(form_);
   Raise(KeyDown, keyCode, shift);
-  return keyCode == 0 || !IsReachable();
+  if (keyCode == 0 || !IsReachable()) return true;
+  // A form presses its buttons with these two keys, and no character comes of them.
+  const bool forForm = keyCode == kKeyCodeReturn || keyCode == kKeyCodeEscape;
+  return forForm && (shift & (kCtrlMask | kAltMask)) == 0 && UserKeyPress(keyCode) == 0;
+}
+
+std::int32_t Control::UserKeyPress(std::int32_t character) {
+  if (!KeyPress || !IsReachable()) return character;
+  const ControlSite::Running running(form_);
+  Raise(KeyPress, character);
+  return IsReachable() ? character : 0;
 }
 
 bool Control::IsReachable() const { return visible_ && enabled_ && parent_.IsReachable(); }

@@ -113,6 +113,9 @@ class Control : public virtual ControlState {
   std::function<void(const MouseEvent&)> MouseUp;
   // A key code of 0 keeps the key from everybody else.
   std::function<void(std::int32_t& KeyCode, std::int32_t Shift)> KeyDown;
+  // A character is typed, Enter (13), Esc (27) and Backspace (8) among it, and nobody kept its key. The control gets
+  // what it is changed to, and 0 keeps it from everybody: an Enter doesn't press the form's button then.
+  std::function<void(std::int32_t& KeyAscii)> KeyPress;
 
   const std::wstring& Name() const { return name_; }
   // 0 while the form isn't loaded.
@@ -126,6 +129,8 @@ class Control : public virtual ControlState {
   void SetEnabled(bool enabled);
   bool TabStop() const final { return tabStop_; }
   void SetTabStop(bool tabStop);
+  const std::wstring& ToolTipText() const final { return toolTip_; }
+  void SetToolTipText(std::wstring text);
 
   bool HasFocus() const;
   // Does nothing unless the form is loaded and the user could go there too.
@@ -140,6 +145,7 @@ class Control : public virtual ControlState {
   void UserFocus(bool has) final;
   void UserMouse(MouseAction action, const MouseEvent& event) final;
   bool UserKeyDown(std::int32_t keyCode, std::int32_t shift) final;
+  std::int32_t UserKeyPress(std::int32_t character) final;
 
  protected:
   ~Control() = default;
@@ -172,6 +178,7 @@ class Control : public virtual ControlState {
   bool visible_ = true;
   bool enabled_ = true;
   bool tabStop_ = true;
+  std::wstring toolTip_;
 };
 
 // A control of one kind: what its peer reads, and the peer.

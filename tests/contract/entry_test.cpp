@@ -188,6 +188,62 @@ TEST_P(EntryContract, AnEntryIsChosenByMouseAndKeys) {
   EXPECT_EQ(Heard(), Texts({"cboList", "cboList"}));
 }
 
+TEST_P(EntryContract, AChoiceCountsOnceWhenTheListCloses) {
+  form_.cmdOk.SetCancel(true);
+  form_.OnKey = [this](std::int32_t key, std::int32_t) {
+    if (key != kKeyCodeF4) form_.Say("key " + std::to_string(key));
+    return false;
+  };
+  form_.cboList.SetListIndex(0);
+  form_.Show();
+  form_.cboList.SetFocus();
+  Heard();
+  for (const std::int32_t end : {kKeyCodeEscape, kKeyCodeReturn}) {
+    for (const std::int32_t key : {kKeyCodeF4, kKeyCodeDown, kKeyCodeDown}) Press(key);
+    EXPECT_EQ(form_.cboList.Text(), L"zero") << "what is passed isn't chosen";
+    Press(end);
+  }
+  EXPECT_EQ(Heard(), Texts({"cboList"})) << "keys of the list are nobody else's";
+  EXPECT_EQ(form_.cboList.Text(), L"two");
+  Press(kKeyCodeEscape);
+  EXPECT_EQ(Heard(), Texts({"cmdOk"}));
+}
+
+TEST_P(EntryContract, ATypedCharacterCanBeKeptOrBecomeAnother) {
+  form_.cmdOk.SetCancel(true);
+  std::vector<std::int32_t> told;
+  form_.txtName.KeyPress = [&told](std::int32_t& KeyAscii) {
+    told.push_back(KeyAscii);
+    if (KeyAscii == L'a') KeyAscii = L'A';
+    if (KeyAscii < L' ' || KeyAscii == L'x') KeyAscii = 0;
+  };
+  form_.Show();
+  form_.txtName.SetFocus();
+  Type(L"xay");
+  for (const std::int32_t key : {kKeyCodeReturn, kKeyCodeEscape, kKeyCodeBackspace}) Press(key);
+  EXPECT_EQ(form_.txtName.Text(), L"Ayabcdef");
+  EXPECT_EQ(told, (std::vector<std::int32_t>{L'x', L'a', L'y', 13, 27, 8}));
+  EXPECT_EQ(Heard(), Texts({"txtName=Aabcdef", "txtName=Ayabcdef"})) << "no button is pressed by what was kept";
+  int enters = 0;
+  form_.txtLines.KeyPress = [&enters](std::int32_t&) { ++enters; };
+  form_.txtLines.SetFocus();
+  Press(kKeyCodeReturn);
+  EXPECT_EQ(form_.txtLines.Text(), L"\r\n");
+  EXPECT_EQ(enters, 1);
+}
+
+TEST_P(EntryContract, AToolTipIsShownAndChanged) {
+  form_.cmdIn.SetToolTipText(L"Presses");
+  form_.Show();
+  form_.lblName.SetToolTipText(L"Marks");
+  EXPECT_EQ(screen_.ToolTipOf(form_.cmdIn.Window()), L"Presses");
+  EXPECT_EQ(screen_.ToolTipOf(form_.lblName.Window()), L"Marks");
+  form_.cmdIn.SetToolTipText(L"");
+  form_.lblName.SetToolTipText(L"Marks && more");
+  EXPECT_EQ(screen_.ToolTipOf(form_.cmdIn.Window()), L"");
+  EXPECT_EQ(screen_.ToolTipOf(form_.lblName.Window()), L"Marks && more");
+}
+
 TEST_P(EntryContract, ATabComesToTheFrontByMouseAndKeys) {
   form_.Show();
   EXPECT_EQ(screen_.TabOf(form_.tabAll.Window()), 0);

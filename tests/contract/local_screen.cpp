@@ -67,6 +67,8 @@ WindowHandle ScreenUnderTest::OwnerOf(WindowHandle form) { return side_->Form(fo
 
 bool ScreenUnderTest::IsDefault(WindowHandle button) { return side_->Control(button)->isDefault; }
 
+std::wstring ScreenUnderTest::ToolTipOf(WindowHandle control) { return side_->Control(control)->toolTip; }
+
 Rect ScreenUnderTest::PlaceOf(WindowHandle control) {
   const ShownControl* shown = side_->Control(control);
   Rect place = shown->place;

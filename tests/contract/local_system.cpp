@@ -38,8 +38,19 @@ class LocalSystem final : public SystemUnderTest {
     for (const std::int32_t key : keys) machine_.keyboard.Down(key);
     for (auto key = keys.rbegin(); key != keys.rend(); ++key) machine_.keyboard.Up(*key);
   }
+  std::shared_ptr<void> HoldClipboard() override {
+    machine_.clipboard.IsHeld = true;
+    return {nullptr, [this](void*) { machine_.clipboard.IsHeld = false; }};
+  }
+  std::function<void()> Slowly(std::function<void()> work) override {
+    machine_.workers.Takes = kSlow;
+    return work;
+  }
+  void LetPass(std::int32_t milliseconds) override { machine_.windows.Advance(milliseconds); }
 
  private:
+  static constexpr std::int32_t kSlow = 300;
+
   fs::path folder_ = fs::temp_directory_path() / UniqueName();
   LocalMachine machine_{folder_};
   ScreenUnderTest screen_{machine_};

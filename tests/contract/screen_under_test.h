@@ -36,6 +36,8 @@ class ScreenUnderTest {
   WindowHandle OwnerOf(WindowHandle form);
   // Drawn as the button that Enter presses.
   bool IsDefault(WindowHandle button);
+  // What shows while the mouse rests on a control; empty for nothing.
+  std::wstring ToolTipOf(WindowHandle control);
   // Pixels within the form's client area.
   Rect PlaceOf(WindowHandle control);
   Size ClientOf(WindowHandle form);

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <fstream>
+#include <functional>
 #include <iterator>
 #include <memory>
 #include <random>
@@ -33,6 +34,12 @@ class SystemUnderTest {
   virtual void PressKeys(const std::vector<std::int32_t>& keys) = 0;
   // False where there is no desktop that keys could be pressed on.
   virtual bool TakesKeys() { return true; }
+  // Keeps the clipboard as another program does, until the object goes.
+  virtual std::shared_ptr<void> HoldClipboard() = 0;
+  // The same work, but it takes 300 milliseconds.
+  virtual std::function<void()> Slowly(std::function<void()> work) = 0;
+  // Lets time pass, and the messages that come in it run.
+  virtual void LetPass(std::int32_t milliseconds) = 0;
   virtual ScreenUnderTest& screen() = 0;
   // Wine stands in for Windows and does some things otherwise.
   virtual bool IsWine() const { return false; }

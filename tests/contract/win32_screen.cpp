@@ -152,6 +152,20 @@ WindowHandle ScreenUnderTest::OwnerOf(WindowHandle form) { return FromHwnd(::Get
 
 bool ScreenUnderTest::IsDefault(WindowHandle button) { return (Send(button, WM_GETDLGCODE) & DLGC_DEFPUSHBUTTON) != 0; }
 
+std::wstring ScreenUnderTest::ToolTipOf(WindowHandle control) {
+  const HWND form = ::GetAncestor(ToHwnd(control), GA_ROOT);
+  wchar_t text[kTextLength] = {};
+  TTTOOLINFOW tool = {};
+  tool.cbSize = TTTOOLINFOW_V1_SIZE;
+  tool.hwnd = form;
+  tool.uId = static_cast<UINT_PTR>(control);
+  tool.lpszText = text;
+  for (HWND tips = nullptr; (tips = ::FindWindowExW(nullptr, tips, TOOLTIPS_CLASSW, nullptr)) != nullptr;) {
+    if (::GetWindow(tips, GW_OWNER) == form) Send(FromHwnd(tips), TTM_GETTEXTW, kTextLength, &tool);
+  }
+  return text;
+}
+
 Rect ScreenUnderTest::PlaceOf(WindowHandle control) {
   RECT rect = {};
   ::GetWindowRect(ToHwnd(control), &rect);

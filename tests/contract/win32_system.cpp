@@ -2,6 +2,8 @@
 #include <windows.h>
 
 #include <filesystem>
+#include <future>
+#include <thread>
 
 #include "platform/characters.h"
 #include "platform/win32/files/file_handle.h"
@@ -15,6 +17,7 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr UINT kPage1252 = 1252;
+constexpr DWORD kSlow = 300;
 
 // The name of a file for the system below Wine; empty on Windows.
 std::wstring NameBelow(const std::wstring& path) {
@@ -49,6 +52,31 @@ void SendKey(std::int32_t key, DWORD flags) {
   MSG message = {};
   while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != FALSE) ::DispatchMessageW(&message);
 }
+
+// A thread of its own holds the clipboard, as another program's would.
+class HeldClipboard {
+ public:
+  HeldClipboard() {
+    std::promise<void> opened;
+    thread_ = std::thread([this, &opened] {
+      ::OpenClipboard(nullptr);
+      opened.set_value();
+      end_.get_future().wait();
+      ::CloseClipboard();
+    });
+    opened.get_future().wait();
+  }
+  ~HeldClipboard() {
+    end_.set_value();
+    thread_.join();
+  }
+  HeldClipboard(const HeldClipboard&) = delete;
+  HeldClipboard& operator=(const HeldClipboard&) = delete;
+
+ private:
+  std::promise<void> end_;
+  std::thread thread_;
+};
 
 class Win32System final : public SystemUnderTest {
  public:
@@ -97,6 +125,20 @@ class Win32System final : public SystemUnderTest {
     const bool isDown = ::GetAsyncKeyState(VK_F24) < 0;
     SendKey(VK_F24, KEYEVENTF_KEYUP);
     return isDown;
+  }
+  std::shared_ptr<void> HoldClipboard() override { return std::make_shared<HeldClipboard>(); }
+  std::function<void()> Slowly(std::function<void()> work) override {
+    return [work = std::move(work)] {
+      ::Sleep(kSlow);
+      work();
+    };
+  }
+  void LetPass(std::int32_t milliseconds) override {
+    for (const ULONGLONG end = ::GetTickCount64() + static_cast<ULONGLONG>(milliseconds); ::GetTickCount64() < end;) {
+      platform_.platform().windows.DoEvents();
+      ::Sleep(1);
+    }
+    platform_.platform().windows.DoEvents();
   }
   bool IsWine() const override {
     return ::GetProcAddress(::GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;

@@ -68,6 +68,22 @@ TEST_F(OrganizedFolders, GroupsAreFoldersAndShortcutsAreLinks) {
   EXPECT_FALSE(files_.FileExists(kDesktop + std::wstring(L"\\A\\Desktop.ini")));
 }
 
+TEST_F(OrganizedFolders, ALinkWhoseServerDoesNotAnswerStays) {
+  scene_.AddGroup(L"GA", L"A");
+  for (const wchar_t* name : {L"Kept", L"Moved"}) scene_.AddShortcut(name, name, L"\\\\dead\\share", L"GA");
+  Project();
+  const std::wstring kept = std::wstring(kDesktop) + L"\\A\\Kept.lnk";
+  const std::string bytes = machine_.BytesOf(kept);
+  store_.GetMenuItemFromName(L"Moved")->FolderPath = L"\\\\dead\\other";
+  Add(L"S", L"S");
+  scene_.AddShortcut(L"New", L"New", L"\\\\dead\\share", L"GA");
+  machine_.faults.SilentPlaces = {L"\\\\DEAD"};
+  Project();
+  EXPECT_EQ(Tree(), L"A[Kept.lnk] S.lnk");
+  EXPECT_EQ(machine_.BytesOf(kept), bytes);
+  EXPECT_EQ(machine_.workers.VainWaits, 1U);
+}
+
 TEST_F(OrganizedFolders, OtherItemsArePassedOver) {
   scene_.AddGroup(L"G", L"Empty");
   store_.AddNewMenuItem({.OwnerName = L"G", .ItemType = MIT_OPENALL});

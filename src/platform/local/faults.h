@@ -4,10 +4,18 @@
 #include <cstddef>
 #include <optional>
 #include <set>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
 namespace burrowmark {
+
+// A server that is away was asked: what asked it would wait for good. Only work that the interface thread doesn't wait
+// for may come to that.
+class SilentPlace : public std::logic_error {
+ public:
+  using std::logic_error::logic_error;
+};
 
 // Every call of the local file system and the local registry, and those of the other families that may fail, ask
 // `Strikes` first, under the seam's name of the call ("CreateNewFile", "Write", "RegSetValueExA" ...), and fail as the
@@ -30,14 +38,18 @@ class Faults {
   // Standing conditions of the disk and the registry.
   std::optional<std::size_t> DiskRoom;  // bytes that can still be written; a Write past it is cut short and fails
   std::set<std::wstring> HeldOpen;      // files that another program holds open without sharing, upper case
+  std::set<std::wstring> SilentPlaces;  // servers ("\\\\SERVER") and drives ("X:") that never answer, upper case
   std::set<std::wstring> FoldersWithoutNewFiles;  // folders in which no file can be made, upper case
   // Registry keys that can't be opened for writing, nor any below them: full path, upper case, as in
   // "HKEY_CURRENT_USER\SOFTWARE".
   std::set<std::wstring> RefusedKeys;
 
+  // Throws SilentPlace if the call asks one of those.
   bool Strikes(const char* call, const std::wstring& subject);
 
  private:
+  void MeetSilence(const std::string& call, const std::wstring& subject) const;
+
   std::size_t calls_ = 0;
   std::size_t failed_ = 0;
   std::size_t failFrom_ = 0;  // 0: nothing fails

@@ -76,6 +76,12 @@ bool LocalShell::RecycleFile(const std::wstring& path) {
   return true;
 }
 
+bool LocalShell::ShowProperties(WindowHandle, const std::wstring& path) {
+  if (faults_.Strikes("ShowProperties", path) || !files_.AttributesOf(path)) return false;
+  Properties.push_back(path);
+  return true;
+}
+
 std::int32_t LocalShell::mciSendStringA(const std::wstring& command) {
   MediaCommands.push_back(command);
   return 0;

@@ -35,7 +35,8 @@ class LocalShell final : public Shell {
   std::vector<Launch> Launches;
   std::vector<HelpCall> HelpCalls;
   std::vector<std::wstring> MediaCommands;
-  std::vector<std::wstring> Recycled;  // what went into the bin
+  std::vector<std::wstring> Recycled;    // what went into the bin
+  std::vector<std::wstring> Properties;  // whose properties were shown
   // What it answers.
   std::int32_t LaunchResult = 42;
   bool HelpOpens = true;
@@ -55,6 +56,7 @@ class LocalShell final : public Shell {
   bool ReadShellLink(const std::wstring& path, ShellLink& link) override;
   bool WriteShellLink(const std::wstring& path, const ShellLink& link) override;
   bool RecycleFile(const std::wstring& path) override;
+  bool ShowProperties(WindowHandle owner, const std::wstring& path) override;
   std::int32_t mciSendStringA(const std::wstring& command) override;
 
  private:

@@ -49,7 +49,9 @@ LocalMachine::LocalMachine(fs::path folder, std::shared_ptr<LocalSession> sessio
       user(windows, shell),
       menus(menuTree_, windows, drawing, facts, user, uiFaults),
       dialogs(user, windows),
-      keyboard(uiFaults) {
+      keyboard(uiFaults),
+      workers(windows),
+      network(drives, faults) {
   windows.FileTest = [this](const std::wstring& path) { return HasFile(path); };
   if (fs::exists(folder_ / "drives")) return;
   fs::create_directories(folder_);

@@ -11,9 +11,12 @@
 #include "platform/local/faults.h"
 #include "platform/local/local_clock.h"
 #include "platform/local/local_facts.h"
+#include "platform/local/local_network.h"
 #include "platform/local/local_shell.h"
+#include "platform/local/local_workers.h"
 #include "platform/local/menus/local_menus.h"
 #include "platform/local/menus/menu_tree.h"
+#include "platform/local/person/local_clipboard.h"
 #include "platform/local/person/local_dialogs.h"
 #include "platform/local/person/local_keyboard.h"
 #include "platform/local/person/local_session.h"
@@ -35,7 +38,10 @@ class LocalMachine {
   LocalMachine(const LocalMachine&) = delete;
   LocalMachine& operator=(const LocalMachine&) = delete;
 
-  Platform platform() { return {registry, files, facts, clock, windows, menus, drawing, shell, dialogs, keyboard}; }
+  Platform platform() {
+    return {registry, files,   facts,    clock,     windows, menus,  drawing,
+            shell,    dialogs, keyboard, clipboard, workers, network};
+  }
 
   // Another process on this machine: the two find each other's windows and claimed names.
   std::unique_ptr<LocalMachine> AnotherProcess();
@@ -75,6 +81,9 @@ class LocalMachine {
   LocalMenus menus;
   LocalDialogs dialogs;
   LocalKeyboard keyboard;
+  LocalClipboard clipboard;
+  LocalWorkers workers;
+  LocalNetwork network;
 };
 
 }  // namespace burrowmark

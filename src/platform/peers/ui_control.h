@@ -33,10 +33,16 @@ class ControlState {
   virtual bool Enabled() const = 0;
   virtual bool TabStop() const = 0;  // the Tab key stops here, in the order in which the controls were made
 
+  // Shows while the mouse rests on the control; empty for none.
+  virtual const std::wstring& ToolTipText() const = 0;
+
   virtual void UserFocus(bool has) = 0;
   virtual void UserMouse(MouseAction action, const MouseEvent& event) = 0;
   // A key while the control has the focus, ahead of what the system makes of it. True: nobody else shall have it.
   virtual bool UserKeyDown(std::int32_t keyCode, std::int32_t shift) = 0;
+  // A character that a key made, ahead of what the control makes of it; Enter and Esc are told by UserKeyDown already.
+  // The one to go on with, 0 for none.
+  virtual std::int32_t UserKeyPress(std::int32_t character) = 0;
 
  protected:
   ControlState() = default;
@@ -66,6 +72,7 @@ class ControlPeer : public Peer {
   virtual void VisibleChanged() = 0;
   virtual void EnabledChanged() = 0;
   virtual void TabStopChanged() = 0;
+  virtual void ToolTipChanged() = 0;
   // The form has another scale: place and font are worked out again.
   virtual void ScaleChanged() = 0;
   virtual void TakeFocus() = 0;

@@ -52,7 +52,8 @@ class ComboBoxState : public virtual ControlState {
   ~ComboBoxState() = default;
 };
 
-// Its list opens for up to twelve entries at a time.
+// Its list opens for up to twelve entries at a time. While it is open keys go nowhere else, save for Tab; a click or
+// Enter chooses, which is told when it has closed, and Esc gives up.
 class ComboBoxPeer : public ControlPeer {
  public:
   virtual void ItemAdded() = 0;  // the last one

@@ -6,14 +6,17 @@
 #include "platform/win32/menus/menu_font.h"
 #include "platform/win32/menus/win32_drawing.h"
 #include "platform/win32/menus/win32_menus.h"
+#include "platform/win32/shell/win32_network.h"
 #include "platform/win32/shell/win32_registry.h"
 #include "platform/win32/shell/win32_shell.h"
 #include "platform/win32/win32_clock.h"
 #include "platform/win32/win32_facts.h"
 #include "platform/win32/windows/screen_dpi.h"
+#include "platform/win32/windows/win32_clipboard.h"
 #include "platform/win32/windows/win32_dialogs.h"
 #include "platform/win32/windows/win32_keyboard.h"
 #include "platform/win32/windows/win32_windows.h"
+#include "platform/win32/windows/win32_workers.h"
 
 namespace burrowmark {
 
@@ -21,7 +24,8 @@ namespace burrowmark {
 class Win32Platform {
  public:
   Platform platform() {
-    return {registry_, files_, facts_, clock_, windows_, menus_, drawing_, shell_, dialogs_, keyboard_};
+    return {registry_, Files(),  facts_,    clock_,     windows_, menus_,      drawing_,
+            shell_,    dialogs_, keyboard_, clipboard_, workers_, TheNetwork()};
   }
 
  private:
@@ -31,8 +35,17 @@ class Win32Platform {
     return version.major;
   }
 
+  // Work that hangs may come back to these two at any time until the process ends.
+  static FileSystem& Files() {
+    static auto* const files = new Win32FileSystem;
+    return *files;
+  }
+  static Network& TheNetwork() {
+    static auto* const network = new Win32Network;
+    return *network;
+  }
+
   Win32Registry registry_;
-  Win32FileSystem files_;
   Win32Facts facts_;
   Win32Clock clock_;
   ScreenDpi screenDpi_;
@@ -43,6 +56,8 @@ class Win32Platform {
   Win32Windows windows_{menuFont_, screenDpi_, MajorVersion()};
   Win32Dialogs dialogs_;
   Win32Keyboard keyboard_;
+  Win32Clipboard clipboard_;
+  Win32Workers workers_{windows_};
 };
 
 }  // namespace burrowmark

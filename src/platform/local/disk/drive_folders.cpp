@@ -1,5 +1,6 @@
 #include "platform/local/disk/drive_folders.h"
 
+#include <algorithm>
 #include <system_error>
 #include <utility>
 
@@ -116,6 +117,19 @@ bool DriveFolders::MakeFolders(const WindowsPath& path) const {
     if (!IsFolder(place)) return false;
   }
   return true;
+}
+
+std::vector<std::wstring> DriveFolders::SharesOf(std::wstring_view server) const {
+  std::vector<std::wstring> shares;
+  const auto folder =
+      FindChild(folder_ / kShares, server.substr(std::min(server.find_first_not_of(L'\\'), server.size())));
+  std::error_code error;
+  if (!folder) return shares;
+  for (const fs::directory_entry& share : fs::directory_iterator(*folder, error)) {
+    shares.push_back(NameFromDisk(share.path().filename()));
+  }
+  std::sort(shares.begin(), shares.end());
+  return shares;
 }
 
 }  // namespace burrowmark

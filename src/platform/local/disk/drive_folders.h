@@ -5,7 +5,9 @@
 #include <filesystem>
 #include <map>
 #include <optional>
+#include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/local/disk/drive_book.h"
 #include "platform/local/disk/windows_path.h"
@@ -44,6 +46,8 @@ class DriveFolders {
   // Makes the folder with all its parents, and the share if it stands on one. False if a file is in the way or the
   // drive is missing.
   bool MakeFolders(const WindowsPath& path) const;
+  // The shares of a server ("\\\\server"), in the order of their names.
+  std::vector<std::wstring> SharesOf(std::wstring_view server) const;
 
  private:
   std::filesystem::path Root(const WindowsPath& path) const;

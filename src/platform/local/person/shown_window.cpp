@@ -30,6 +30,19 @@ bool SameLetter(wchar_t one, wchar_t other) {
   return std::towlower(static_cast<std::wint_t>(one)) == std::towlower(static_cast<std::wint_t>(other));
 }
 
+// The character that a key makes besides what it does itself; 0 for none, and for those that are typed as a text.
+std::int32_t CharacterOf(std::int32_t keyCode, std::int32_t shift) {
+  if (keyCode == kKeyCodeBackspace || keyCode == kKeyCodeSpace) return keyCode;
+  const bool isLetter = keyCode >= 'A' && keyCode <= 'Z';
+  return isLetter && (shift & kCtrlMask) != 0 ? keyCode - 'A' + 1 : 0;
+}
+
+// The character that is left of one when the control has been told.
+std::int32_t PressCharacter(const ShownControl* control, std::int32_t character) {
+  const auto door = control == nullptr ? nullptr : control->UserKeyPress;
+  return door ? door(character) : character;
+}
+
 // One that can be clicked.
 std::size_t FindButton(const ShownControl& toolbar, const std::wstring& key) {
   const auto& buttons = toolbar.buttons;
@@ -113,12 +126,15 @@ void ShownWindow::Type(const std::wstring& text) {
   const ShownControl* focused = Focused();
   if (focused == nullptr || !focused->UserType) throw std::logic_error("the focus is where nothing can be typed");
   Do([this, text] {
-    for (const wchar_t character : text) {
-      const ShownControl* target = Focused();
-      const auto door = target == nullptr ? nullptr : target->UserType;
-      if (door) door(std::wstring(1, character));
-    }
+    for (const wchar_t character : text) TypeCharacter(character);
   });
+}
+
+void ShownWindow::TypeCharacter(wchar_t character) const {
+  const std::int32_t left = PressCharacter(Focused(), static_cast<std::int32_t>(character));
+  const ShownControl* target = Focused();
+  const auto door = left == 0 || target == nullptr ? nullptr : target->UserType;
+  if (door) door(std::wstring(1, static_cast<wchar_t>(left)));
 }
 
 void ShownWindow::Choose(WindowHandle control, std::int32_t index) {
@@ -328,10 +344,17 @@ void ShownWindow::Report() {
 
 void ShownWindow::RunKey(std::int32_t keyCode, std::int32_t shift) {
   if (ShownControl* edited = Edited()) return RunEditKey(*edited, keyCode);
+  if (const ShownControl* focused = Focused(); focused != nullptr && focused->listOpen && keyCode != kKeyCodeTab) {
+    return RunOwnKey(keyCode, shift);
+  }
   if (form_->UserKey(keyCode, shift)) return;
   if (const ShownControl* focused = Focused(); focused != nullptr && focused->UserKeyDown) {
     const auto door = focused->UserKeyDown;
     if (door(keyCode, shift) || !IsOpen()) return;
+  }
+  if (const std::int32_t character = CharacterOf(keyCode, shift);
+      character != 0 && PressCharacter(Focused(), character) == 0) {
+    return;
   }
   switch (keyCode) {
     case kKeyCodeTab:
@@ -347,10 +370,13 @@ void ShownWindow::RunKey(std::int32_t keyCode, std::int32_t shift) {
     default:
       break;
   }
-  if (const ShownControl* focused = IsOpen() ? Focused() : nullptr; focused != nullptr && focused->PressKey) {
-    const auto press = focused->PressKey;
-    press(keyCode, shift);
-  }
+  if (IsOpen()) RunOwnKey(keyCode, shift);
+}
+
+void ShownWindow::RunOwnKey(std::int32_t keyCode, std::int32_t shift) {
+  const ShownControl* focused = Focused();
+  const auto press = focused == nullptr ? nullptr : focused->PressKey;
+  if (press) press(keyCode, shift);
 }
 
 void ShownWindow::PressEnter() { ClickOn(WithWindow(form_->EnterButton())); }

@@ -65,6 +65,7 @@ struct ShownControl {
   bool useMnemonic = true;  // "&" of the text marks a character
   bool playing = false;     // an animation whose file is there
   Alignment alignment = Alignment::kLeft;
+  std::wstring toolTip;
 
   TextSelection selection;                    // of a text box
   bool multiLine = false;                     // likewise
@@ -75,7 +76,8 @@ struct ShownControl {
   bool border = false;                        // likewise
   CheckValue check = CheckValue::kUnchecked;  // of a check box or an option
   std::vector<std::wstring> items;            // of a combo box; the tabs of a strip
-  std::int32_t index = -1;                    // which of them is chosen
+  std::int32_t index = -1;                    // which of them is chosen, or marked in an open list
+  bool listOpen = false;                      // of a combo box: keys go nowhere else
 
   WindowHandle parent = 0;  // the form, or the control that it is in
 
@@ -88,6 +90,7 @@ struct ShownControl {
   std::function<void(bool)> UserFocus;  // doors; empty where there is none, and once the control has gone
   std::function<void(MouseAction, const MouseEvent&)> UserMouse;
   std::function<bool(std::int32_t keyCode, std::int32_t shift)> UserKeyDown;
+  std::function<std::int32_t(std::int32_t character)> UserKeyPress;  // the character to go on with
   std::function<void()> UserClick;
   std::function<void(std::int32_t keyCode, std::int32_t shift)> PressKey;  // what the control itself does with a key
   std::function<void(const std::wstring&)> UserType;
@@ -217,6 +220,8 @@ class ShownWindow {
   void PressTwice(WindowHandle control, const MouseEvent& event);
   void RunEditKey(ShownControl& edited, std::int32_t keyCode);
   void RunKey(std::int32_t keyCode, std::int32_t shift);
+  void RunOwnKey(std::int32_t keyCode, std::int32_t shift);
+  void TypeCharacter(wchar_t character) const;
   void RunMnemonic(wchar_t character);
   void MoveFocus(bool backwards);
   void EnterByKey(ShownControl* control);

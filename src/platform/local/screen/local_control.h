@@ -31,6 +31,8 @@ class LocalControl : public KindPeer {
     shown_->UserKeyDown = [&state](std::int32_t keyCode, std::int32_t shift) {
       return state.UserKeyDown(keyCode, shift);
     };
+    shown_->UserKeyPress = [&state](std::int32_t character) { return state.UserKeyPress(character); };
+    ToolTipChanged();
     PlaceChanged();
     form_->controls.push_back(shown_);
   }
@@ -46,6 +48,7 @@ class LocalControl : public KindPeer {
     shown_->UserFocus = nullptr;
     shown_->UserMouse = nullptr;
     shown_->UserKeyDown = nullptr;
+    shown_->UserKeyPress = nullptr;
     shown_->UserClick = nullptr;
     shown_->PressKey = nullptr;
     shown_->UserButtonClick = nullptr;
@@ -70,6 +73,7 @@ class LocalControl : public KindPeer {
     LeaveIfUnusable();
   }
   void TabStopChanged() final { shown_->tabStop = state_->TabStop(); }
+  void ToolTipChanged() final { shown_->toolTip = state_->ToolTipText(); }
   void ScaleChanged() final { PlaceChanged(); }
   void TakeFocus() final {
     if (desktop_.Active() == form_) form_->SetFocus(shown_.get());

@@ -1,5 +1,8 @@
 #include "platform/local/screen/local_entry_controls.h"
 
+#include <algorithm>
+#include <optional>
+
 #include "platform/key_codes.h"
 
 namespace burrowmark {
@@ -16,6 +19,30 @@ std::int32_t StepAt(const std::wstring& text, std::int32_t at) {
 std::int32_t StepBefore(const std::wstring& text, std::int32_t at) {
   if (at <= 0) return 0;
   return StepAt(text, at - 2) == 2 ? 2 : 1;
+}
+
+// Where a key leads from an entry; none for a key that leads nowhere.
+std::optional<std::int32_t> EntryBy(std::int32_t keyCode, std::int32_t from, std::int32_t last) {
+  switch (keyCode) {
+    case kKeyCodeUp:
+      return std::min(std::max(from - 1, 0), last);
+    case kKeyCodeDown:
+      return std::min(from + 1, last);
+    case kKeyCodeHome:
+      return std::min(0, last);
+    case kKeyCodeEnd:
+      return last;
+    default:
+      return std::nullopt;
+  }
+}
+
+std::int32_t LastOf(const ComboBoxState& box) { return static_cast<std::int32_t>(box.Items().size()) - 1; }
+
+// Opens the list of a combo box, or closes it.
+bool TurnsList(std::int32_t keyCode, std::int32_t shift) {
+  const bool isArrow = keyCode == kKeyCodeUp || keyCode == kKeyCodeDown;
+  return keyCode == kKeyCodeF4 || (isArrow && (shift & kAltMask) != 0);
 }
 
 }  // namespace
@@ -80,8 +107,17 @@ void LocalTextBox::Report(const std::wstring& text, const TextSelection& selecti
 LocalComboBox::LocalComboBox(LocalProcess& process, LocalDesktop& desktop, WindowHandle parent, ComboBoxState& box)
     : LocalControl(process, desktop, parent, ShownKind::kComboBox, box) {
   Shown().useMnemonic = false;
-  Shown().UserChoose = [&box](std::int32_t index) { box.UserChoose(index); };
-  Shown().PressKey = [this](std::int32_t keyCode, std::int32_t) { Press(keyCode); };
+  Shown().UserChoose = [this](std::int32_t index) {
+    Mark(index);
+    Close(true);
+  };
+  Shown().UserFocus = [this, &box](bool has) {
+    if (!has && Shown().listOpen) Close(false);
+    box.UserFocus(has);
+  };
+  Shown().PressKey = [this](std::int32_t keyCode, std::int32_t shift) {
+    Shown().listOpen ? PressInList(keyCode, shift) : Press(keyCode, shift);
+  };
   ItemsChanged();
 }
 
@@ -90,26 +126,34 @@ void LocalComboBox::ItemsChanged() {
   IndexChanged();
 }
 
-void LocalComboBox::IndexChanged() {
-  const std::int32_t index = Control().ListIndex();
+void LocalComboBox::IndexChanged() { Mark(Control().ListIndex()); }
+
+void LocalComboBox::Mark(std::int32_t index) {
   Shown().index = index;
   Shown().text = index < 0 ? L"" : Control().Items()[static_cast<std::size_t>(index)];
 }
 
-void LocalComboBox::Press(std::int32_t keyCode) {
-  const auto last = static_cast<std::int32_t>(Control().Items().size()) - 1;
-  switch (keyCode) {
-    case kKeyCodeUp:
-      return Control().UserChoose(std::max(Control().ListIndex() - 1, 0));
-    case kKeyCodeDown:
-      return Control().UserChoose(std::min(Control().ListIndex() + 1, last));
-    case kKeyCodeHome:
-      return Control().UserChoose(0);
-    case kKeyCodeEnd:
-      return Control().UserChoose(last);
-    default:
-      return;
+void LocalComboBox::Press(std::int32_t keyCode, std::int32_t shift) {
+  if (TurnsList(keyCode, shift)) {
+    Shown().listOpen = true;
+  } else if (const auto entry = EntryBy(keyCode, Control().ListIndex(), LastOf(Control()))) {
+    Control().UserChoose(*entry);
   }
+}
+
+void LocalComboBox::PressInList(std::int32_t keyCode, std::int32_t shift) {
+  if (keyCode == kKeyCodeReturn || keyCode == kKeyCodeEscape || TurnsList(keyCode, shift)) {
+    Close(keyCode != kKeyCodeEscape);
+  } else if (const auto entry = EntryBy(keyCode, Shown().index, LastOf(Control()))) {
+    Mark(*entry);
+  }
+}
+
+void LocalComboBox::Close(bool choose) {
+  Shown().listOpen = false;
+  const std::int32_t marked = Shown().index;
+  IndexChanged();
+  if (choose) Control().UserChoose(marked);
 }
 
 }  // namespace burrowmark

@@ -29,7 +29,10 @@ class LocalComboBox final : public LocalControl<ComboBoxPeer, ComboBoxState> {
   void IndexChanged() override;
 
  private:
-  void Press(std::int32_t keyCode);
+  void Press(std::int32_t keyCode, std::int32_t shift);
+  void PressInList(std::int32_t keyCode, std::int32_t shift);
+  void Mark(std::int32_t index);
+  void Close(bool choose);
 };
 
 }  // namespace burrowmark

@@ -38,9 +38,32 @@ void Win32ComboBox::ItemsChanged() {
 
 void Win32ComboBox::IndexChanged() { ::SendMessageW(Handle(), CB_SETCURSEL, static_cast<WPARAM>(box_.ListIndex()), 0); }
 
-// A list that is left by Esc goes back to the entry of before, and tells of its closing alone.
+// What is passed in the open list, the system tells as it tells of a choice.
 void Win32ComboBox::Command(UINT notification) {
-  if (notification != CBN_SELCHANGE && notification != CBN_CLOSEUP) return;
+  switch (notification) {
+    case CBN_DROPDOWN:
+      givenUp_ = false;
+      return TheForm().LeaveKeysToList(Handle());
+    case CBN_SELENDOK:
+    case CBN_SELENDCANCEL:
+      givenUp_ = notification == CBN_SELENDCANCEL;
+      return;
+    case CBN_CLOSEUP:
+      return Closed();
+    case CBN_SELCHANGE:
+      if (::SendMessageW(Handle(), CB_GETDROPPEDSTATE, 0, 0) == FALSE) Choose();
+      return;
+    default:
+      return;
+  }
+}
+
+void Win32ComboBox::Closed() {
+  TheForm().LeaveKeysToList(nullptr);
+  givenUp_ ? IndexChanged() : Choose();
+}
+
+void Win32ComboBox::Choose() {
   box_.UserChoose(static_cast<std::int32_t>(::SendMessageW(Handle(), CB_GETCURSEL, 0, 0)));
 }
 

@@ -16,7 +16,11 @@ class Win32ComboBox final : public ChildPeer<ComboBoxPeer> {
   void Command(UINT notification) override;
   int NativeHeight(int height) const override;
 
+  void Choose();
+  void Closed();
+
   ComboBoxState& box_;
+  bool givenUp_ = false;  // the list that closes
 };
 
 }  // namespace burrowmark

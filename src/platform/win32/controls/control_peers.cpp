@@ -27,7 +27,17 @@ DWORD StyleOf(const ButtonState& button) { return button.ShowsDefault() ? BS_DEF
 }  // namespace
 
 Win32Label::Win32Label(const ChildPlace& place, LabelState& label)
-    : ChildPeer(WC_STATICW, label.Caption(), StyleOf(label), place, label), label_(label) {}
+    : ChildPeer(WC_STATICW, label.Caption(), StyleOf(label), place, label), label_(label) {
+  HearMouse();
+}
+
+// Only a label that tells of clicks has the mouse over it; over another one it is the form's.
+void Win32Label::HearMouse() const { SetStyle(SS_NOTIFY, !label_.ToolTipText().empty()); }
+
+void Win32Label::ToolTipChanged() {
+  HearMouse();
+  ShowTip();
+}
 
 void Win32Label::StyleChanged() {
   SetStyle(kLabelStyles, false);

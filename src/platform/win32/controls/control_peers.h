@@ -10,9 +10,12 @@ class Win32Label final : public ChildPeer<LabelPeer> {
   Win32Label(const ChildPlace& place, LabelState& label);
   void CaptionChanged() override { SetText(label_.Caption()); }
   void StyleChanged() override;
+  void ToolTipChanged() override;
   Size NeededSize() const override;
 
  private:
+  void HearMouse() const;
+
   LabelState& label_;
 };
 

@@ -130,6 +130,18 @@ bool Win32Shell::RecycleFile(const std::wstring& path) {
   return ::SHFileOperationW(&removal) == 0 && removal.fAnyOperationsAborted == FALSE;
 }
 
+// The verb is one of the file's own menu, not one that is registered for its kind.
+bool Win32Shell::ShowProperties(WindowHandle owner, const std::wstring& path) {
+  SHELLEXECUTEINFOW sheet = {};
+  sheet.cbSize = sizeof(sheet);
+  sheet.fMask = SEE_MASK_INVOKEIDLIST | SEE_MASK_FLAG_NO_UI;
+  sheet.hwnd = ToHwnd(owner);
+  sheet.lpVerb = L"properties";
+  sheet.lpFile = path.c_str();
+  sheet.nShow = SW_SHOWNORMAL;
+  return ::ShellExecuteExW(&sheet) != FALSE;
+}
+
 std::int32_t Win32Shell::mciSendStringA(const std::wstring& command) {
   // Loaded with the first command: a program at rest has no use for it.
   static const SystemLibrary library(L"winmm.dll");

@@ -22,6 +22,7 @@ class Win32Shell final : public Shell {
   bool ReadShellLink(const std::wstring& path, ShellLink& link) override;
   bool WriteShellLink(const std::wstring& path, const ShellLink& link) override;
   bool RecycleFile(const std::wstring& path) override;
+  bool ShowProperties(WindowHandle owner, const std::wstring& path) override;
   std::int32_t mciSendStringA(const std::wstring& command) override;
 
  private:

@@ -27,6 +27,7 @@ ChildWindow::ChildWindow(const wchar_t* className, const std::wstring& text, DWO
   form_.AddControl(window_);
   ::SendMessageW(window_, WM_SETFONT, reinterpret_cast<WPARAM>(form_.Font()), FALSE);
   ::SetWindowSubclass(window_, Procedure, kSubclass, reinterpret_cast<DWORD_PTR>(this));
+  if (!control.ToolTipText().empty()) ShowTip();
 }
 
 ChildWindow::~ChildWindow() {
@@ -110,6 +111,9 @@ std::optional<LRESULT> ChildWindow::Receive(UINT message, WPARAM wParam, LPARAM 
       if (control_ != nullptr && !within) control_->UserFocus(message == WM_SETFOCUS);
       return result;
     }
+    case WM_CHAR:
+      if (const auto result = Character(wParam, lParam)) return result;
+      break;
     default:
       break;
   }
@@ -117,6 +121,16 @@ std::optional<LRESULT> ChildWindow::Receive(UINT message, WPARAM wParam, LPARAM 
     if (const auto result = Mouse(*mouse, message, wParam, lParam)) return result;
   }
   return IsRetired() ? std::nullopt : Handle(message, wParam, lParam);
+}
+
+// Enter and Esc were told ahead of their keys. Another character than was typed comes as if it had been typed.
+std::optional<LRESULT> ChildWindow::Character(WPARAM character, LPARAM lParam) {
+  if (character == VK_RETURN || character == VK_ESCAPE) return std::nullopt;
+  const auto left = static_cast<WPARAM>(control_->UserKeyPress(static_cast<std::int32_t>(character)));
+  if (left == character) return std::nullopt;
+  if (left == 0 || IsRetired()) return 0;
+  const std::optional<LRESULT> own = Handle(WM_CHAR, left, lParam);
+  return own ? own : ::DefSubclassProc(window_, WM_CHAR, left, lParam);
 }
 
 }  // namespace burrowmark

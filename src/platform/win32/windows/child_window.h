@@ -36,6 +36,7 @@ class ChildWindow {
   void SetStyle(DWORD bits, bool on) const;
   void FollowTabStop() const { SetStyle(WS_TABSTOP, control_->TabStop()); }
   void FollowScale();
+  void ShowTip() { form_.ShowTip(window_, control_->ToolTipText()); }
   void SetText(const std::wstring& text) const { ::SetWindowTextW(window_, text.c_str()); }
 
  protected:
@@ -67,6 +68,7 @@ class ChildWindow {
   static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
                                     DWORD_PTR data);
   std::optional<LRESULT> Receive(UINT message, WPARAM wParam, LPARAM lParam);
+  std::optional<LRESULT> Character(WPARAM character, LPARAM lParam);
 
   FormWindow& form_;
   ControlState* control_;  // none after the retirement
@@ -86,6 +88,7 @@ class ChildPeer : public KindPeer, protected Base {
   void VisibleChanged() final { ChildWindow::ShowOrHide(); }
   void EnabledChanged() final { ChildWindow::EnableOrDisable(); }
   void TabStopChanged() final { ChildWindow::FollowTabStop(); }
+  void ToolTipChanged() override { ChildWindow::ShowTip(); }
   void ScaleChanged() override { ChildWindow::FollowScale(); }
   void TakeFocus() final { ::SetFocus(ChildWindow::Handle()); }
 };

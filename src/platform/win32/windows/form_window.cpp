@@ -18,6 +18,7 @@ constexpr UINT kKeepOrder = SWP_NOZORDER | SWP_NOACTIVATE;
 constexpr DWORD kExtendedStyle = WS_EX_CONTROLPARENT;
 constexpr int kSmallIcon = 16;
 constexpr int kBigIcon = 32;
+constexpr int kTipWidth = 320;  // pixels of the design
 
 DWORD StyleOf(FormBorder border) {
   return WS_CLIPCHILDREN | (border == FormBorder::kSizable ? WS_OVERLAPPEDWINDOW : WS_POPUP | WS_CAPTION | WS_SYSMENU);
@@ -181,6 +182,21 @@ void FormWindow::BlockOwner(bool block) {
   blockedOwner_ = owner;
 }
 
+// --- controls
+
+void FormWindow::RemoveControl(HWND control) {
+  controls_.erase(control);
+  if (openList_ == control) openList_ = nullptr;
+  tips_.Show(window_, control, {});
+}
+
+void FormWindow::ShowTip(HWND control, const std::wstring& text) {
+  tips_.Show(window_, control, text);
+  ScaleTips();
+}
+
+void FormWindow::ScaleTips() const { tips_.SetLook(Font(), Scaled(kTipWidth, dpi_, kDesignDpi)); }
+
 // --- menus
 
 void FormWindow::MenusChanged() { menus_.ShowBar(window_, form_->MenuEntries()); }
@@ -334,6 +350,7 @@ void FormWindow::FollowScale(std::int32_t dpi, const RECT& suggested) {
   if (form_ == nullptr || making_ || dpi == dpi_) return;
   dpi_ = dpi;
   IconChanged();
+  ScaleTips();
   const SIZE size = OuterSize();
   ::SetWindowPos(window_, nullptr, suggested.left, suggested.top, size.cx, size.cy, kKeepOrder);
   if (form_ == nullptr) return;
@@ -346,7 +363,7 @@ void FormWindow::FollowScale(std::int32_t dpi, const RECT& suggested) {
 
 bool FormWindow::Translate(MSG& message) {
   NoteInput(message.message);
-  if (message.hwnd == labelEdit_) return false;
+  if (AreKeysLeftTo(message)) return false;
   const bool key = message.message == WM_KEYDOWN || message.message == WM_SYSKEYDOWN;
   if (key && FromSystem([&] { return PreviewKey(message); }, false)) return true;
   return form_ != nullptr && ::IsDialogMessageW(window_, &message) != FALSE;
@@ -355,6 +372,11 @@ bool FormWindow::Translate(MSG& message) {
 void FormWindow::NoteInput(UINT message) {
   if (message >= WM_KEYFIRST && message <= WM_KEYLAST) keyCameLast_ = true;
   if (message > WM_MOUSEMOVE && message <= WM_MOUSELAST) keyCameLast_ = false;
+}
+
+bool FormWindow::AreKeysLeftTo(const MSG& message) const {
+  if (message.hwnd == nullptr || message.hwnd != openList_) return message.hwnd == labelEdit_;
+  return message.message != WM_KEYDOWN || message.wParam != VK_TAB;
 }
 
 // The form sees a key first, then the control with the focus, and then the system.

@@ -16,6 +16,7 @@
 #include "platform/win32/system_library.h"
 #include "platform/win32/windows/mouse_message.h"
 #include "platform/win32/windows/screen_dpi.h"
+#include "platform/win32/windows/tip_window.h"
 
 namespace burrowmark {
 
@@ -51,9 +52,13 @@ class FormWindow final : public FormPeer {
   int NextId() { return ++lastId_; }
   // Windows of controls; keys in others, as that of a label edit, are nobody's business.
   void AddControl(HWND control) { controls_.insert(control); }
-  void RemoveControl(HWND control) { controls_.erase(control); }
+  void RemoveControl(HWND control);
+  // Shows a text while the mouse rests on a control; none for an empty one.
+  void ShowTip(HWND control, const std::wstring& text);
   // The edit of a label, for which Enter and Esc are nothing of the form's; none for no edit.
   void LeaveKeysTo(HWND labelEdit) { labelEdit_ = labelEdit; }
+  // The same for a combo box with an open list, save for Tab.
+  void LeaveKeysToList(HWND comboBox) { openList_ = comboBox; }
 
   void Retire() override;
   WindowHandle Window() const override;
@@ -77,6 +82,7 @@ class FormWindow final : public FormPeer {
   LRESULT Receive(UINT message, WPARAM wParam, LPARAM lParam);
   LRESULT Answer(UINT message, WPARAM wParam, LPARAM lParam);
   LRESULT EnterButtonId() const;
+  bool AreKeysLeftTo(const MSG& message) const;
   bool PreviewKey(const MSG& message) const;
   void NoteInput(UINT message);
   void Mouse(const MouseMessage& mouse);
@@ -101,6 +107,7 @@ class FormWindow final : public FormPeer {
   HWND NextControl(bool backwards) const;
   void MoveToControl(WPARAM wParam, LPARAM lParam);
   bool ShowPointer() const;
+  void ScaleTips() const;
   IconImage IconOfSize(int designSize) const;
 
   FormState* form_;  // none after the retirement
@@ -112,9 +119,11 @@ class FormWindow final : public FormPeer {
   bool making_ = true;
   std::set<HWND> controls_;
   HWND labelEdit_ = nullptr;
+  HWND openList_ = nullptr;
   HWND focusBefore_ = nullptr;  // had it when the window was left
   HWND blockedOwner_ = nullptr;
   EntryMenus menus_;
+  TipWindow tips_;
   bool releasing_ = false;    // the capture, by itself
   bool keyCameLast_ = false;  // not a button of the mouse
   IconImage bigIcon_;

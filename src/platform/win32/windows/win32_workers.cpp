@@ -1,0 +1,98 @@
+#include "platform/win32/windows/win32_workers.h"
+
+#include <chrono>
+#include <condition_variable>
+#include <mutex>
+#include <thread>
+#include <utility>
+
+#include "platform/from_system.h"
+
+namespace burrowmark {
+namespace {
+
+void RunQuietly(const std::function<void()>& work) {
+  FromSystem(
+      [&work] {
+        work();
+        return true;
+      },
+      false);
+}
+
+// False if the system gives no thread.
+template <typename Work>
+bool Start(Work&& work) {
+  return FromSystem(
+      [&work] {
+        std::thread(std::forward<Work>(work)).detach();
+        return true;
+      },
+      false);
+}
+
+// The end of a piece of work that somebody waits for.
+class Finish {
+ public:
+  void Tell() {
+    const std::lock_guard lock(mutex_);
+    done_ = true;
+    changed_.notify_all();
+  }
+  bool Wait(std::int32_t milliseconds) {
+    std::unique_lock lock(mutex_);
+    return changed_.wait_for(lock, std::chrono::milliseconds(milliseconds), [this] { return done_; });
+  }
+
+ private:
+  std::mutex mutex_;
+  std::condition_variable changed_;
+  bool done_ = false;
+};
+
+struct Task {
+  std::function<void()> work;
+  std::function<void()> done;
+};
+
+}  // namespace
+
+// The interface thread's loop as threads know it that may end long after it.
+struct Win32Workers::Loop {
+  std::mutex mutex;
+  WindowSystem* windows = nullptr;  // under the mutex; none when the loop is no more
+
+  void Post(std::function<void()> work) {
+    const std::lock_guard lock(mutex);
+    if (windows != nullptr) windows->Post(std::move(work));
+  }
+};
+
+Win32Workers::Win32Workers(WindowSystem& windows) : loop_(std::make_shared<Loop>()) { loop_->windows = &windows; }
+
+Win32Workers::~Win32Workers() {
+  const std::lock_guard lock(loop_->mutex);
+  loop_->windows = nullptr;
+}
+
+// A thread for each piece of work: one that hangs holds up no other, and ends with the process at the latest.
+void Win32Workers::Run(std::function<void()> work, std::function<void()> done) {
+  auto task = std::make_shared<Task>(Task{std::move(work), std::move(done)});
+  const bool runs = Start([loop = loop_, task]() mutable {
+    RunQuietly(task->work);
+    // It goes where it was made: it may hold what belongs there.
+    loop->Post([task = std::move(task)] { task->done(); });
+  });
+  if (!runs) loop_->Post([task = std::move(task)] { task->done(); });
+}
+
+bool Win32Workers::RunWithin(std::int32_t milliseconds, std::function<void()> work) {
+  const auto finish = std::make_shared<Finish>();
+  const bool runs = Start([finish, work = std::move(work)] {
+    RunQuietly(work);
+    finish->Tell();
+  });
+  return runs && finish->Wait(milliseconds);
+}
+
+}  // namespace burrowmark

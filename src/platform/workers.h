@@ -1,0 +1,23 @@
+// Work that may take long: it runs beside the interface thread.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+
+namespace burrowmark {
+
+// Work may outlive whoever asked for it: what it uses it holds by shared_ptr, or by value. Of the seam it may call
+// FileSystem, Network and WindowSystem::Post, nothing else; of what it throws nobody hears. The end of the program
+// waits for no work.
+class Workers {
+ public:
+  virtual ~Workers() = default;
+
+  // Runs `work`, and then `done` from the interface thread's loop, be it that of a modal window or a box. Work that
+  // never ends never tells.
+  virtual void Run(std::function<void()> work, std::function<void()> done) = 0;
+  // Runs `work` and waits for its end, though not longer than that. False: it goes on and nobody hears of it.
+  virtual bool RunWithin(std::int32_t milliseconds, std::function<void()> work) = 0;
+};
+
+}  // namespace burrowmark

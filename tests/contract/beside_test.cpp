@@ -1,0 +1,55 @@
+// What stands beside windows and files: the clipboard, work on other threads, networks.
+#include <atomic>
+
+#include "tests/contract/system_under_test.h"
+
+namespace burrowmark {
+namespace {
+
+class BesideContract : public ContractTest {};
+INSTANTIATE_TEST_SUITE_P(Systems, BesideContract, ::testing::ValuesIn(Systems()), KindName);
+
+TEST_P(BesideContract, ATextGoesToTheClipboardAndBack) {
+  Clipboard& clipboard = platform_.clipboard;
+  for (const wchar_t* text : {L"C:\\D\u043E\u043C \u00E9", L"", L"one\r\ntwo\t"}) {
+    ASSERT_TRUE(clipboard.SetText(text));
+    EXPECT_EQ(clipboard.GetText(), text);
+  }
+  {
+    const std::shared_ptr<void> held = system_->HoldClipboard();
+    EXPECT_FALSE(clipboard.SetText(L"lost"));
+    EXPECT_EQ(clipboard.GetText(), std::nullopt);
+  }
+  EXPECT_EQ(clipboard.GetText(), L"one\r\ntwo\t");
+}
+
+TEST_P(BesideContract, WorkIsDoneBesideTheLoopWhichHearsOfItsEnd) {
+  constexpr int kTries = 500;
+  std::string told;
+  std::atomic<bool> worked = false;
+  platform_.workers.Run([&worked] { worked = true; }, [&] { told += worked ? "done" : "too early"; });
+  platform_.workers.Run([] { throw 1; }, [] {});
+  EXPECT_EQ(told, "") << "not before the loop runs";
+  for (int i = 0; i < kTries && told.empty(); ++i) system_->LetPass(10);
+  EXPECT_EQ(told, "done");
+}
+
+TEST_P(BesideContract, NobodyWaitsForWorkLongerThanHeSaid) {
+  const auto worked = std::make_shared<std::atomic<int>>(0);
+  const auto work = [worked] { ++*worked; };
+  EXPECT_TRUE(platform_.workers.RunWithin(3000, work));
+  EXPECT_EQ(*worked, 1);
+  EXPECT_FALSE(platform_.workers.RunWithin(20, system_->Slowly(work)));
+  EXPECT_EQ(*worked, 1);
+  system_->LetPass(600);
+  EXPECT_EQ(*worked, 2) << "it goes on";
+}
+
+TEST_P(BesideContract, AServerThatIsNotThereHasNoShares) {
+  std::vector<NetworkResource> shares(1);
+  EXPECT_NE(platform_.network.EnumShares(L"\\\\burrowmark-nowhere", shares), kNetworkDone);
+  EXPECT_TRUE(shares.empty());
+}
+
+}  // namespace
+}  // namespace burrowmark
