@@ -14,6 +14,7 @@ enum class ProgramWindow : std::uint8_t {
   kOptions,
   kOrganize,
   kAddModify,
+  kItemExists,
   kProperties,
   kPropertiesConfigFile,
   kNetworkDrives,
