@@ -187,7 +187,7 @@ ItemParameters frmAddModify::GetParameters() const {
   const std::int32_t type = cmbType.ListIndex();
   const std::wstring kind = kTypes[type].kind;
   return {.Caption = type == kOpenAll ? std::wstring() : GetItemName(),
-          .FolderPath = GetPath(),
+          .FolderPath = OpensFolder(type) ? GetPath() : std::wstring(),
           .SubMenu = type == kGroup,
           .ItemType = OpensFolder(type) ? MIT_PATH : kind,
           .OpenType = OpensFolder(type) ? kind : std::wstring(),
@@ -320,7 +320,7 @@ bool frmAddModify::NameIsFree() {
     return Refuse(L"Item " + request_.Item->Caption() + L" containts shortcuts. Only groups can contain shortcuts.",
                   cmbType);
   }
-  if (!TitleIsTaken(name, false)) return true;
+  if (!TitleIsTaken(type == kOpenAll ? kOpenAllTitle : name, false)) return true;
   if (type == kOpenAll) {
     return Refuse(L"Can't add Open-All shortcut in this group. Only one Open-All shortcut can exist in a group.",
                   cmbType);

@@ -97,7 +97,7 @@ class frmAddModify final : public ProgramForm {
   std::int32_t LastKeyboardIndex_ = 0;  // what goes back when a hot key isn't taken after all
   bool entered_ = false;
 
-  Frame frmType{*this, L"frmType", Box{180, 120, 7440, 1290}, L"Type"};
+  Frame frmType{*this, L"frmType", Box{180, 120, 7440, 1290}, L"Type of Item"};
   PictureBox picIcon{frmType, L"picIcon", Box{180, 390, 480, 480}};
   Label lblTypeMain{frmType, L"lblTypeMain", Box{840, 375, 960, 240}, L"&Type:"};
   ComboBox cmbType{frmType, L"cmbType", Box{1860, 315, 5400, 315}};

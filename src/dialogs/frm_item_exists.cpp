@@ -3,7 +3,7 @@
 namespace burrowmark {
 namespace {
 
-constexpr Size kClient{7200, 4455};
+constexpr Size kClient{8100, 4455};
 constexpr std::int32_t kIconSize = 32;
 constexpr std::int32_t kWarningIcon = 14;
 

@@ -11,7 +11,7 @@
 namespace burrowmark {
 namespace {
 
-constexpr Size kClient{6600, 6105};
+constexpr Size kClient{6600, 5925};
 constexpr std::int32_t kIconSize = 32;
 constexpr wchar_t kTitle[] = L"Burrowmark";
 
@@ -49,6 +49,7 @@ frmProperties::frmProperties(Application& app)
     : ProgramForm(app, ProgramWindow::kProperties, L"frmProperties", kClient) {
   SetCaption(L"Properties");
   for (Label* label : {&lblName, &lblPath}) label->SetUseMnemonic(false);
+  picPage.SetBackColor(kColorWindow);  // as the system draws a tab's page
   txtLocation.SetReadOnly(true);
   cmdFinish.SetDefault(true);
   cmdCancel.SetCancel(true);

@@ -48,9 +48,9 @@ class frmProperties final : public ProgramForm {
   ItemRef Applied_;  // as the last Apply took it; none before
   std::shared_ptr<clsMenuCollection> Collection_;
 
-  TabStrip SSTab1{*this, L"SSTab1", Box{120, 120, 6360, 5250}, {L"General"}};
+  TabStrip SSTab1{*this, L"SSTab1", Box{120, 120, 6360, 5070}, {L"General"}};
   // The page of the tab; it lies where the strip leaves room.
-  PictureBox picPage{*this, L"picPage", Box{180, 480, 6240, 4800}};
+  PictureBox picPage{*this, L"picPage", Box{180, 480, 6240, 4620}};
   PictureBox picIcon{picPage, L"picIcon", Box{180, 150, 480, 480}};
   Label lblName{picPage, L"lblName", Box{900, 150, 5130, 480}};
   Line linName{picPage, L"linName", Box{180, 750, 5850, 30}};
@@ -77,9 +77,9 @@ class frmProperties final : public ProgramForm {
   CommandButton cmdCopyToClipboard{picPage, L"cmdCopyToClipboard", Box{1530, 4110, 2400, 375},
                                    L"&Copy Target Location"};
 
-  CommandButton cmdFinish{*this, L"cmdFinish", Box{2595, 5550, 1215, 375}, L"OK"};
-  CommandButton cmdCancel{*this, L"cmdCancel", Box{3930, 5550, 1215, 375}, L"Cancel"};
-  CommandButton cmdApply{*this, L"cmdApply", Box{5265, 5550, 1215, 375}, L"&Apply"};
+  CommandButton cmdFinish{*this, L"cmdFinish", Box{2595, 5370, 1215, 375}, L"OK"};
+  CommandButton cmdCancel{*this, L"cmdCancel", Box{3930, 5370, 1215, 375}, L"Cancel"};
+  CommandButton cmdApply{*this, L"cmdApply", Box{5265, 5370, 1215, 375}, L"&Apply"};
 };
 
 }  // namespace burrowmark
