@@ -21,6 +21,8 @@ enum class ProgramWindow : std::uint8_t {
   kWizard,
   kAbout,
   kTip,
+  kBrowseFolder,
+  kNewFolder,
 };
 
 // What the table asks of a window.
