@@ -34,7 +34,7 @@ constexpr wchar_t kNewFolderTip[] = L"Creates a new folder in the currently sele
 std::wstring TextOr(const std::wstring& text, const wchar_t* usual) { return text.empty() ? usual : text; }
 
 std::wstring WithMnemonic(const std::wstring& caption) {
-  return caption.find(L'&') == std::wstring::npos ? L"&" + caption : caption;
+  return caption.empty() || caption.find(L'&') != std::wstring::npos ? caption : L"&" + caption;
 }
 
 Size NeededBy(const Control& control) { return control.NeededSize(); }

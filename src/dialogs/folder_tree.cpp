@@ -203,12 +203,14 @@ void FolderTree::Continue() {
     if (node == nullptr && IsServer(place) && !goal_->asked.contains(KeyOf(place))) {
       node = AddPlace(nullptr, TreeRelation::kChild, place, place, kServerIcon);
     }
-    if (node == nullptr && (last == nullptr || !goal_->asked.insert(last->Key()).second)) return Stay();
+    if (node == nullptr && (last == nullptr || !goal_->asked.insert(last->Key()).second)) break;
     if (node == nullptr) return Read(*last, LastName(place));
     last = node;
   }
+  const bool arrived = last != nullptr && last->Key() == KeyOf(goal_->places.back());
   Stay();
-  if (last == nullptr) return;
+  // Where nothing is selected yet, as near as it gets.
+  if (last == nullptr || (!arrived && view_.SelectedItem() != nullptr)) return;
   view_.SetSelectedItem(last);
   last->EnsureVisible();
 }

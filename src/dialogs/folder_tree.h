@@ -27,7 +27,8 @@ class FolderTree {
   // Once, when the view is shown.
   void ReadDrives();
   // Opens the tree down to a folder and selects it, as soon as everything on the way is known. Where there is no such
-  // folder the selection stays. The path is absolute, and ends in a backslash only as the root of a drive.
+  // folder the selection stays; if there is none yet, it goes to what is nearest. The path is absolute, and ends in a
+  // backslash only as the root of a drive.
   void GoTo(const std::wstring& path);
   // Gives up a way that is still being gone.
   void Stay() { goal_.reset(); }
@@ -41,7 +42,6 @@ class FolderTree {
   struct Life {};
 
   void Continue();
-  void Arrive(TreeNode& node);
   TreeNode* AddPlace(TreeNode* relative, TreeRelation relation, const std::wstring& path, std::wstring text,
                      std::int32_t icon);
   void AddDrive(const std::wstring& entry);
