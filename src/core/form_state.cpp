@@ -26,6 +26,7 @@ constexpr FormKey kFormKeys[] = {
     {L"frmNetworkDrives", L"frmNet"},
     {L"frmPersonalNetworkInfo", L"frmPersNetInfo"},
     {L"frmFolderReport", L"frmFolderRep"},
+    {L"frmBrowseFolder", L"frmBFF"},
 };
 
 constexpr wchar_t kLeft[] = L"L";

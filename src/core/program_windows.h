@@ -22,6 +22,8 @@ enum class ProgramWindow : std::uint8_t {
   kWizard,
   kAbout,
   kTip,
+  kBrowseFolder,
+  kNewFolder,
 };
 
 // What the table asks of a window.

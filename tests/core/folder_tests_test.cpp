@@ -13,7 +13,7 @@ TEST(FolderTestsOfATask, AServerThatDoesNotAnswerIsAskedOnce) {
   LocalMachine& machine = scratch.machine;
   for (const wchar_t letter : {L'X', L'Y'}) {
     machine.drives.Add(letter);
-    machine.drives.SetFacts(letter, {.type = kDriveTypeRemote});
+    machine.drives.SetFacts(letter, {kDriveTypeRemote, {}, {}});
   }
   for (const wchar_t* path : {L"C:\\here", L"\\\\live\\share\\here", L"Y:\\here"}) machine.AddFolders(path);
   machine.faults.SilentPlaces = {L"\\\\DEAD", L"X:"};

@@ -67,11 +67,11 @@ TEST_F(MenuInUse, ASilentServerIsAskedOnceForAllThatOpensTogether) {
   for (const wchar_t* path : {L"\\\\dead\\one", L"\\\\dead\\two", L"\\\\live\\share"}) {
     scene_.AddShortcut(path, path, path);
   }
-  app_.MainStore().AddNewMenuItem({.Caption = L"All", .OwnerName = MIT_GROUP_USER, .ItemType = MIT_OPENALL});
+  app_.MainStore().AddNewMenuItem({.OwnerName = MIT_GROUP_USER, .ItemType = MIT_OPENALL});
   machine_.faults.SilentPlaces = {L"\\\\DEAD"};
   Start();
   for (const wchar_t* path : {L"gone", L"\\\\dead\\one", L"\\\\dead\\two"}) user_.NextBox(path, kAnswerNo);
-  Choose({L"Personal", L"All"});
+  Choose({L"Personal", L"Open-All"});
   EXPECT_EQ(Opened(), L"C:\\live;\\\\live\\share;");
   EXPECT_EQ(machine_.workers.VainWaits, 1U);
 }

@@ -27,7 +27,7 @@ class LocalNetwork final : public Network {
     if (faults_.Strikes("EnumShares", server)) return kErrorUnexpected;
     if (Result != kNetworkDone) return Result;
     for (const std::wstring& share : drives_.SharesOf(server)) {
-      shares.push_back({.RemoteName = server + L"\\" + share, .DisplayType = kDisplayShare});
+      shares.push_back({{}, server + L"\\" + share, {}, {}, kDisplayShare});
     }
     return shares.empty() ? kErrorUnexpected : kNetworkDone;
   }

@@ -1,0 +1,214 @@
+#include "dialogs/browse_for_folder.h"
+
+#include <algorithm>
+
+#include "core/file_names.h"
+#include "core/folder_tests.h"
+#include "core/form_state.h"
+#include "core/program_form.h"
+#include "dialogs/folder_tree.h"
+#include "dialogs/new_folder.h"
+#include "platform/drive_letter.h"
+#include "ui/check_box.h"
+#include "ui/command_button.h"
+#include "ui/label.h"
+#include "ui/text_box.h"
+#include "ui/timer.h"
+#include "ui/tree_view.h"
+
+namespace burrowmark {
+namespace {
+
+constexpr Size kClient{5700, 6300};
+constexpr std::int32_t kEdge = 180;  // around everything
+constexpr std::int32_t kGap = 120;
+constexpr std::int32_t kTextHeight = 225;
+constexpr std::int32_t kBoxHeight = 315;
+constexpr std::int32_t kLabelWidth = 780;
+constexpr Size kButton{1215, 375};
+constexpr std::int32_t kPause = 400;  // milliseconds without a key, after which what was typed is looked for
+constexpr std::int32_t kProgramIcon = 1;
+constexpr wchar_t kMissing[] = L"The specified path does not exist.\r\nCheck the path, and try again.";
+constexpr wchar_t kNewFolderTip[] = L"Creates a new folder in the currently selected directory";
+
+std::wstring TextOr(const std::wstring& text, const wchar_t* usual) { return text.empty() ? usual : text; }
+
+std::wstring WithMnemonic(const std::wstring& caption) {
+  return caption.empty() || caption.find(L'&') != std::wstring::npos ? caption : L"&" + caption;
+}
+
+Size NeededBy(const Control& control) { return control.NeededSize(); }
+
+// One way to write a path: a drive is its root, and nothing else ends in a backslash.
+std::wstring CleanFolder(const std::wstring& text) {
+  std::wstring path = PathArgument(text);
+  std::replace(path.begin(), path.end(), L'/', L'\\');
+  if (const auto letter = DriveLetter(path)) return {*letter, L':', L'\\'};
+  path.resize(path.find_last_not_of(L'\\') + 1);
+  return path.ends_with(L':') ? path + L"\\" : path;
+}
+
+// A server that is half typed isn't asked.
+bool CanBeLookedFor(const std::wstring& path) {
+  return !path.starts_with(L"\\\\") || path.find(L'\\', 2) != std::wstring::npos;
+}
+
+class frmBrowseFolder final : public ProgramForm {
+ public:
+  frmBrowseFolder(Application& app, const BrowseParameters& parameters);
+
+  std::wstring Chosen;
+  bool IncludesSubfolders() const { return chkSubfolders.Value() == kChecked; }
+
+ private:
+  void Form_Load() override;
+  void Form_Unload(bool& Cancel) override {
+    SaveFormState(app_, *this, false);
+    static_cast<void>(Cancel);
+  }
+  void Form_Resize() override;
+  void PlaceButtons(std::int32_t top);
+
+  void ShowFolder(const std::wstring& path);
+  void LookForTyped();
+  bool IsThere(const std::wstring& path);
+  void MakeFolder();
+  void Accept();
+
+  Label lblPrompt{*this, L"lblPrompt", Box{kEdge, 150, kClient.width - 2 * kEdge, kTextHeight}};
+  TreeView tvFolders{*this, L"tvFolders", Box{kEdge, 480, 5340, 4200}};
+  Label lblFolder{*this, L"lblFolder", Box{kEdge, 4860, kLabelWidth, kTextHeight}, L"&Folder :"};
+  TextBox txtFolder{*this, L"txtFolder", Box{kEdge + kLabelWidth, 4800, 4560, kBoxHeight}};
+  CheckBox chkSubfolders{*this, L"chkSubfolders", Box{kEdge, 5250, 5340, 255}, {}};
+  CommandButton cmdNewFolder{*this, L"cmdNewFolder", Box{kEdge, 5700, 1500, kButton.height}, {}};
+  CommandButton cmdOK{*this, L"cmdOK", Box{2970, 5700, kButton.width, kButton.height}, {}};
+  CommandButton cmdCancel{*this, L"cmdCancel", Box{4305, 5700, kButton.width, kButton.height}, {}};
+
+  FolderTree tree_{app_, tvFolders};
+  Timer tmrTyped{app_.platform.windows};
+  std::wstring start_;
+  bool showing_ = false;  // a folder by code, not what the user typed
+};
+
+frmBrowseFolder::frmBrowseFolder(Application& app, const BrowseParameters& parameters)
+    : ProgramForm(app, ProgramWindow::kBrowseFolder, L"frmBrowseFolder", kClient),
+      start_(CleanFolder(parameters.StartFolder)) {
+  SetBorder(FormBorder::kSizable);
+  SetIcon(kProgramIcon);
+  SetCaption(TextOr(parameters.Title, L"Browse for Folder"));
+  lblPrompt.SetCaption(TextOr(parameters.Prompt, L"Select a folder"));
+  lblPrompt.SetUseMnemonic(false);
+  cmdOK.SetCaption(TextOr(parameters.OkCaption, L"OK"));
+  cmdCancel.SetCaption(TextOr(parameters.CancelCaption, L"Cancel"));
+  cmdNewFolder.SetCaption(WithMnemonic(TextOr(parameters.NewFolderCaption, L"New Folder")));
+  cmdNewFolder.SetToolTipText(kNewFolderTip);
+  chkSubfolders.SetVisible(!parameters.IncludeSubfoldersCaption.empty());
+  chkSubfolders.SetCaption(WithMnemonic(parameters.IncludeSubfoldersCaption));
+  chkSubfolders.SetValue(parameters.IncludeSubfolders ? kChecked : kUnchecked);
+
+  cmdOK.SetDefault(true);
+  cmdCancel.SetCancel(true);
+  cmdOK.Click = [this] { Accept(); };
+  cmdCancel.Click = [this] { Unload(); };
+  cmdNewFolder.Click = [this] { MakeFolder(); };
+  tree_.FolderChosen = [this](const std::wstring& path) { ShowFolder(path); };
+  tmrTyped.SetInterval(kPause);
+  tmrTyped.Tick = [this] { LookForTyped(); };
+  txtFolder.LostFocus = [this] {
+    if (tmrTyped.Enabled()) LookForTyped();
+  };
+  txtFolder.Change = [this] {
+    if (showing_) return;
+    tree_.Stay();
+    tmrTyped.SetEnabled(false);
+    tmrTyped.SetEnabled(true);
+  };
+}
+
+void frmBrowseFolder::Form_Load() {
+  LoadFormState(app_, *this, false, {});
+  ShowFolder(start_);
+  tree_.GoTo(start_);
+  tree_.ReadDrives();
+}
+
+// --- place
+
+void frmBrowseFolder::Form_Resize() {
+  const std::int32_t width = std::max(Client().width - 2 * kEdge, 0);
+  lblPrompt.SetPlace({kEdge, 150, width, kTextHeight});
+  const std::int32_t promptHeight = std::max(NeededBy(lblPrompt).height, kTextHeight);
+  lblPrompt.SetPlace({kEdge, 150, width, promptHeight});
+  std::int32_t bottom = Client().height - kEdge - kButton.height;
+  PlaceButtons(bottom);
+  if (chkSubfolders.Visible()) {
+    bottom -= kGap + 255;
+    chkSubfolders.SetPlace({kEdge, bottom, width, 255});
+  }
+  bottom -= kGap + kBoxHeight;
+  lblFolder.SetPlace({kEdge, bottom + 45, kLabelWidth, kTextHeight});
+  txtFolder.SetPlace({kEdge + kLabelWidth, bottom, std::max(width - kLabelWidth, 0), kBoxHeight});
+  const std::int32_t top = 150 + promptHeight + kGap;
+  tvFolders.SetPlace({kEdge, top, width, std::max(bottom - kGap - top, 0)});
+}
+
+void frmBrowseFolder::PlaceButtons(std::int32_t top) {
+  const std::int32_t newWidth = std::max(NeededBy(cmdNewFolder).width + 240, kButton.width);
+  const std::int32_t right = Client().width - kEdge;
+  cmdNewFolder.SetPlace({kEdge, top, newWidth, kButton.height});
+  cmdOK.SetPlace({right - 2 * kButton.width - kGap, top, kButton.width, kButton.height});
+  cmdCancel.SetPlace({right - kButton.width, top, kButton.width, kButton.height});
+}
+
+// --- the folder
+
+void frmBrowseFolder::ShowFolder(const std::wstring& path) {
+  tmrTyped.SetEnabled(false);
+  showing_ = true;
+  txtFolder.SetText(path);
+  txtFolder.SetSelection(static_cast<std::int32_t>(path.size()), 0);
+  showing_ = false;
+}
+
+void frmBrowseFolder::LookForTyped() {
+  tmrTyped.SetEnabled(false);
+  const std::wstring path = CleanFolder(txtFolder.Text());
+  if (CanBeLookedFor(path)) tree_.GoTo(path);
+}
+
+bool frmBrowseFolder::IsThere(const std::wstring& path) {
+  if (FolderTests(app_.platform).Test(path) == FolderAnswer::kThere) return true;
+  app_.platform.dialogs.MessageBoxA(Window(), kMissing, L"Burrowmark", kBoxWarning);
+  txtFolder.SetFocus();
+  txtFolder.SelectAll();
+  return false;
+}
+
+void frmBrowseFolder::MakeFolder() {
+  const std::wstring folder = CleanFolder(txtFolder.Text());
+  if (!IsThere(folder)) return;
+  frmNewFolder dialog(app_, folder);
+  dialog.Show(Modal, *this);
+  if (dialog.NewFolder.empty() || !Loaded()) return;
+  ShowFolder(dialog.NewFolder);
+  tree_.GoTo(dialog.NewFolder);
+  tvFolders.SetFocus();
+}
+
+void frmBrowseFolder::Accept() {
+  const std::wstring folder = CleanFolder(txtFolder.Text());
+  if (!IsThere(folder)) return;
+  Chosen = folder;
+  Unload();
+}
+
+}  // namespace
+
+std::wstring BrowseForFolder(Application& app, Form& owner, BrowseParameters& parameters) {
+  frmBrowseFolder dialog(app, parameters);
+  dialog.Show(Modal, owner);
+  if (!dialog.Chosen.empty()) parameters.IncludeSubfolders = dialog.IncludesSubfolders();
+  return dialog.Chosen;
+}
+
+}  // namespace burrowmark
