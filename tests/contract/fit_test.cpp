@@ -5,6 +5,9 @@
 
 #include "core/application.h"
 #include "core/progress.h"
+#include "dialogs/frm_add_modify.h"
+#include "dialogs/frm_item_exists.h"
+#include "dialogs/frm_properties.h"
 #include "organize/frm_organize.h"
 #include "platform/characters.h"
 #include "tests/contract/system_under_test.h"
@@ -27,6 +30,14 @@ std::vector<FormKind> FormKinds() {
   return {
       {"frmPause", [](Application& app) { return std::make_unique<frmPause>(app); }},
       {"frmOrganize", [](Application& app) { return std::make_unique<frmOrganize>(app); }},
+      {"frmItemExists", [](Application& app) { return std::make_unique<frmItemExists>(app); }},
+      {"frmProperties", [](Application& app) { return std::make_unique<frmProperties>(app); }},
+      {"frmAddModify",
+       [](Application& app) {
+         auto form = std::make_unique<frmAddModify>(app);
+         form->Init({.Kind = MIT_PATH_SHORTCUT});
+         return form;
+       }},
   };
 }
 
