@@ -49,7 +49,8 @@ frmProperties::frmProperties(Application& app)
     : ProgramForm(app, ProgramWindow::kProperties, L"frmProperties", kClient) {
   SetCaption(L"Properties");
   for (Label* label : {&lblName, &lblPath}) label->SetUseMnemonic(false);
-  picPage.SetBackColor(kColorWindow);  // as the system draws a tab's page
+  // As the system draws the page of a tab.
+  for (PictureBox* picture : {&picPage, &picIcon}) picture->SetBackColor(kColorWindow);
   txtLocation.SetReadOnly(true);
   cmdFinish.SetDefault(true);
   cmdCancel.SetCancel(true);

@@ -52,7 +52,7 @@ class frmProperties final : public ProgramForm {
   // The page of the tab; it lies where the strip leaves room.
   PictureBox picPage{*this, L"picPage", Box{180, 480, 6240, 4620}};
   PictureBox picIcon{picPage, L"picIcon", Box{180, 150, 480, 480}};
-  Label lblName{picPage, L"lblName", Box{900, 150, 5130, 480}};
+  Label lblName{picPage, L"lblName", Box{900, 210, 5130, 480}};
   Line linName{picPage, L"linName", Box{180, 750, 5850, 30}};
 
   Label lblTypeTitle{picPage, L"lblTypeTitle", Box{180, 930, 1680, 240}, L"Type:"};
