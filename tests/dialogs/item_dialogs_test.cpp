@@ -232,6 +232,7 @@ TEST_F(ItemDialogs, AnswersAboutATakenTitle) {
                 L"created: 11/5/2003 2:07:09 PM, modified: 11/5/2003 2:07:09 PM\nC:\\R&D\n"
                 L"Or you would like to rename the new item?\n");
       gesture(window);
+      EXPECT_FALSE(window.IsOpen());
     });
     EXPECT_EQ(form.Replace, replace);
     EXPECT_EQ(form.Rename, rename);
@@ -273,6 +274,7 @@ TEST_F(ItemDialogs, WhatEachEndOfThePropertiesGives) {
       if (row.apply) window.Click(L"Apply");
       Change(window, L"Second");
       row.end(window);
+      EXPECT_FALSE(window.IsOpen());
     });
     EXPECT_EQ(applied_, row.apply ? L"First instead of Gamma" : L"");
     const std::wstring given = properties_->DohvatiMenuItem()->Caption() + Holder(*properties_);
