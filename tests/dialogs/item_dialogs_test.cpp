@@ -225,13 +225,13 @@ TEST_F(ItemDialogs, AnswersAboutATakenTitle) {
   for (const auto& [gesture, replace, rename] : rows) {
     frmItemExists form(app);
     form.Init(*store_.GetMenuItemFromName(L"A"), *store_.GetMenuItemFromName(L"B"));
-    Show(form, [&gesture](ShownWindow& window) {
+    Show(form, [&act = gesture](ShownWindow& window) {
       EXPECT_EQ(window.LabelTexts(),
                 L"This group already contains an item named Alpha.\nWould you like to replace the existing item\n"
                 L"created: 11/5/2003 2:07:09 PM\n\nwith this new one?\n"
                 L"created: 11/5/2003 2:07:09 PM, modified: 11/5/2003 2:07:09 PM\nC:\\R&D\n"
                 L"Or you would like to rename the new item?\n");
-      gesture(window);
+      act(window);
       EXPECT_FALSE(window.IsOpen());
     });
     EXPECT_EQ(form.Replace, replace);
