@@ -48,9 +48,10 @@ std::wstring CleanFolder(const std::wstring& text) {
   return path.ends_with(L':') ? path + L"\\" : path;
 }
 
-// A server that is half typed isn't asked.
-bool CanBeLookedFor(const std::wstring& path) {
-  return !path.starts_with(L"\\\\") || path.find(L'\\', 2) != std::wstring::npos;
+// The name of a server of which nobody knows whether it ends there.
+bool IsHalfTyped(const std::wstring& text) {
+  const std::wstring path = PathArgument(text);
+  return path.starts_with(L"\\\\") && path.find_first_of(L"\\/", 2) == std::wstring::npos;
 }
 
 class frmBrowseFolder final : public ProgramForm {
@@ -172,8 +173,7 @@ void frmBrowseFolder::ShowFolder(const std::wstring& path) {
 
 void frmBrowseFolder::LookForTyped() {
   tmrTyped.SetEnabled(false);
-  const std::wstring path = CleanFolder(txtFolder.Text());
-  if (CanBeLookedFor(path)) tree_.GoTo(path);
+  if (!IsHalfTyped(txtFolder.Text())) tree_.GoTo(CleanFolder(txtFolder.Text()));
 }
 
 bool frmBrowseFolder::IsThere(const std::wstring& path) {

@@ -213,6 +213,10 @@ void FolderTree::Continue() {
   if (last == nullptr || (!arrived && view_.SelectedItem() != nullptr)) return;
   view_.SetSelectedItem(last);
   last->EnsureVisible();
+  if (IsServer(last->Tag) && WaitingIn(*last) != nullptr) {
+    last->SetExpanded(true);
+    Read(*last, {});
+  }
 }
 
 }  // namespace burrowmark
