@@ -63,10 +63,7 @@ class frmBrowseFolder final : public ProgramForm {
 
  private:
   void Form_Load() override;
-  void Form_Unload(bool& Cancel) override {
-    SaveFormState(app_, *this, false);
-    static_cast<void>(Cancel);
-  }
+  void Form_Unload(bool&) override { SaveFormState(app_, *this, false); }
   void Form_Resize() override;
   void PlaceButtons(std::int32_t top);
 
