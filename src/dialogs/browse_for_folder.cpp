@@ -174,7 +174,10 @@ void frmBrowseFolder::LookForTyped() {
 }
 
 bool frmBrowseFolder::IsThere(const std::wstring& path) {
-  if (FolderTests(app_.platform).Test(path) == FolderAnswer::kThere) return true;
+  SetMousePointer(kPointerHourglass);
+  const FolderAnswer answer = FolderTests(app_.platform).Test(path);
+  SetMousePointer(kPointerDefault);
+  if (answer == FolderAnswer::kThere) return true;
   app_.platform.dialogs.MessageBoxA(Window(), kMissing, L"Burrowmark", kBoxWarning);
   txtFolder.SetFocus();
   txtFolder.SelectAll();
