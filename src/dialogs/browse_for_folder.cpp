@@ -48,9 +48,10 @@ std::wstring CleanFolder(const std::wstring& text) {
   return path.ends_with(L':') ? path + L"\\" : path;
 }
 
-// A server that is half typed isn't asked.
-bool CanBeLookedFor(const std::wstring& path) {
-  return !path.starts_with(L"\\\\") || path.find(L'\\', 2) != std::wstring::npos;
+// The name of a server of which nobody knows whether it ends there.
+bool IsHalfTyped(const std::wstring& text) {
+  const std::wstring path = PathArgument(text);
+  return path.starts_with(L"\\\\") && path.find_first_of(L"\\/", 2) == std::wstring::npos;
 }
 
 class frmBrowseFolder final : public ProgramForm {
@@ -62,10 +63,7 @@ class frmBrowseFolder final : public ProgramForm {
 
  private:
   void Form_Load() override;
-  void Form_Unload(bool& Cancel) override {
-    SaveFormState(app_, *this, false);
-    static_cast<void>(Cancel);
-  }
+  void Form_Unload(bool&) override { SaveFormState(app_, *this, false); }
   void Form_Resize() override;
   void PlaceButtons(std::int32_t top);
 
@@ -172,12 +170,14 @@ void frmBrowseFolder::ShowFolder(const std::wstring& path) {
 
 void frmBrowseFolder::LookForTyped() {
   tmrTyped.SetEnabled(false);
-  const std::wstring path = CleanFolder(txtFolder.Text());
-  if (CanBeLookedFor(path)) tree_.GoTo(path);
+  if (!IsHalfTyped(txtFolder.Text())) tree_.GoTo(CleanFolder(txtFolder.Text()));
 }
 
 bool frmBrowseFolder::IsThere(const std::wstring& path) {
-  if (FolderTests(app_.platform).Test(path) == FolderAnswer::kThere) return true;
+  SetMousePointer(kPointerHourglass);
+  const FolderAnswer answer = FolderTests(app_.platform).Test(path);
+  SetMousePointer(kPointerDefault);
+  if (answer == FolderAnswer::kThere) return true;
   app_.platform.dialogs.MessageBoxA(Window(), kMissing, L"Burrowmark", kBoxWarning);
   txtFolder.SetFocus();
   txtFolder.SelectAll();

@@ -102,7 +102,7 @@ FolderTree::FolderTree(Application& app, TreeView& view) : app_(app), view_(view
   view_.SetImages(kImages);
   view_.NodeClick = [this](TreeNode& node) { Choose(node); };
   view_.Expand = [this](const TreeNode& node) {
-    if (WaitingIn(node) != nullptr) Read(node, {});
+    if (WaitingIn(node) != nullptr) Read(node);
   };
 }
 
@@ -149,31 +149,33 @@ void FolderTree::ReadDrives() {
                             });
 }
 
-void FolderTree::Read(const TreeNode& node, const std::wstring& wanted) {
+void FolderTree::Read(const TreeNode& node, const std::wstring& wanted, const std::shared_ptr<Goal>& goal) {
   const auto found = std::make_shared<Listing>();
   const Platform& platform = app_.platform;
   app_.platform.workers.Run([found, path = node.Tag, wanted, &files = platform.files,
                              &network = platform.network] { *found = ReadPlace(files, network, path, wanted); },
-                            [this, found, key = node.Key(), life = std::weak_ptr(life_)] {
-                              if (!life.expired()) Fill(key, found->listed, found->names);
+                            [this, found, key = node.Key(), goal, life = std::weak_ptr(life_)] {
+                              if (life.expired()) return;
+                              Fill(key, found->listed, found->names);
+                              if (goal != nullptr && goal == goal_) Continue();
                             });
 }
 
 // What can't be read keeps the mark of what isn't read yet, so that it can be opened once more.
 void FolderTree::Fill(const std::wstring& key, bool listed, const std::vector<std::wstring>& names) {
-  if (TreeNode* node = view_.Find(key)) {
-    const TreeView::Update update(view_);
-    Merge(*node, names);
-    TreeNode* waiting = WaitingIn(*node);
-    if (waiting != nullptr && (listed || node->Children() > 1)) {
-      view_.Remove(*waiting);
-    } else if (waiting != nullptr && IsServer(node->Tag)) {
-      view_.Remove(*node);
-    } else if (waiting != nullptr) {
-      node->SetExpanded(false);
-    }
+  TreeNode* node = view_.Find(key);
+  if (node == nullptr) return;
+  const TreeView::Update update(view_);
+  Merge(*node, names);
+  TreeNode* waiting = WaitingIn(*node);
+  if (waiting == nullptr) return;
+  if (listed || node->Children() > 1) {
+    view_.Remove(*waiting);
+  } else if (IsServer(node->Tag)) {
+    view_.Remove(*node);
+  } else {
+    node->SetExpanded(false);
   }
-  Continue();
 }
 
 // Both the nodes and the names are sorted. What isn't there any more stays until the window closes.
@@ -191,7 +193,7 @@ void FolderTree::Merge(TreeNode& node, const std::vector<std::wstring>& names) {
 // --- the way to a folder
 
 void FolderTree::GoTo(const std::wstring& path) {
-  goal_ = Goal{PlacesOnTheWay(path), {}};
+  goal_ = std::make_shared<Goal>(Goal{PlacesOnTheWay(path), {}});
   Continue();
 }
 
@@ -204,7 +206,7 @@ void FolderTree::Continue() {
       node = AddPlace(nullptr, TreeRelation::kChild, place, place, kServerIcon);
     }
     if (node == nullptr && (last == nullptr || !goal_->asked.insert(last->Key()).second)) break;
-    if (node == nullptr) return Read(*last, LastName(place));
+    if (node == nullptr) return Read(*last, LastName(place), goal_);
     last = node;
   }
   const bool arrived = last != nullptr && last->Key() == KeyOf(goal_->places.back());
@@ -213,6 +215,10 @@ void FolderTree::Continue() {
   if (last == nullptr || (!arrived && view_.SelectedItem() != nullptr)) return;
   view_.SetSelectedItem(last);
   last->EnsureVisible();
+  if (IsServer(last->Tag) && WaitingIn(*last) != nullptr) {
+    last->SetExpanded(true);
+    Read(*last);
+  }
 }
 
 }  // namespace burrowmark

@@ -3,7 +3,6 @@
 
 #include <functional>
 #include <memory>
-#include <optional>
 #include <set>
 #include <string>
 #include <vector>
@@ -45,7 +44,8 @@ class FolderTree {
   TreeNode* AddPlace(TreeNode* relative, TreeRelation relation, const std::wstring& path, std::wstring text,
                      std::int32_t icon);
   void AddDrive(const std::wstring& entry);
-  void Read(const TreeNode& node, const std::wstring& wanted);
+  // Goes on when the folder is known, if that is for a way; `wanted` is the next name on it.
+  void Read(const TreeNode& node, const std::wstring& wanted = {}, const std::shared_ptr<Goal>& goal = nullptr);
   void Fill(const std::wstring& key, bool listed, const std::vector<std::wstring>& names);
   void Merge(TreeNode& node, const std::vector<std::wstring>& names);
   TreeNode* WaitingIn(const TreeNode& node) const;
@@ -54,7 +54,7 @@ class FolderTree {
   Application& app_;
   TreeView& view_;
   bool hasDrives_ = false;
-  std::optional<Goal> goal_;
+  std::shared_ptr<Goal> goal_;  // what is read for it asks whether this is still the one
   std::shared_ptr<Life> life_ = std::make_shared<Life>();
 };
 

@@ -45,11 +45,5 @@ TEST_P(BesideContract, NobodyWaitsForWorkLongerThanHeSaid) {
   EXPECT_EQ(*worked, 2) << "it goes on";
 }
 
-TEST_P(BesideContract, AServerThatIsNotThereHasNoShares) {
-  std::vector<NetworkResource> shares(1);
-  EXPECT_NE(platform_.network.EnumShares(L"\\\\burrowmark-nowhere", shares), kNetworkDone);
-  EXPECT_TRUE(shares.empty());
-}
-
 }  // namespace
 }  // namespace burrowmark

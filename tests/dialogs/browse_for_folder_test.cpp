@@ -5,7 +5,6 @@
 
 #include <algorithm>
 
-#include "platform/characters.h"
 #include "platform/key_codes.h"
 #include "tests/support/scratch_machine.h"
 
@@ -28,7 +27,7 @@ class BrowseForAFolder : public testing::Test {
   ~BrowseForAFolder() override { owner_.Unload(); }
 
   // What the dialog gives when `script` is done in it.
-  std::wstring Browse(const std::wstring& start, std::function<void()> script) {
+  std::wstring Browse(const wchar_t* start, std::function<void()> script) {
     parameters_.StartFolder = start;
     machine_.user.NextWindow(L"Browse for Folder", [this, script = std::move(script)](ShownWindow& shown) {
       window_ = &shown;
@@ -40,25 +39,29 @@ class BrowseForAFolder : public testing::Test {
     return **std::find_if(window_->controls.begin(), window_->controls.end(),
                           [kind](const auto& control) { return control->kind == kind; });
   }
-  WindowHandle Tree() { return Find(ShownKind::kTreeView).window; }
-  std::wstring Folder() { return Find(ShownKind::kTextBox).text; }
-  // What shows of the tree, a dot for each level, and the selected one with an asterisk.
+  // What shows of the tree but the folders of every machine, a dot for each level, the selected one with an asterisk.
   std::wstring Nodes() {
     std::wstring nodes;
     const ShownTree& tree = *Find(ShownKind::kTreeView).tree;
     for (const ShownNode* node : tree.Visible()) {
-      nodes += (nodes.empty() ? L"" : L" ") + std::wstring(static_cast<std::size_t>(node->Level()), L'.') + node->text +
-               (node == tree.selected ? L"*" : L"");
+      if (std::wstring(L"|Program Files|Users|Windows|").find(L"|" + node->text + L"|") != std::wstring::npos) continue;
+      nodes += std::wstring(static_cast<std::size_t>(node->Level()), L'.') + node->text;
+      nodes += node == tree.selected ? L"* " : L" ";
     }
     return nodes;
   }
+  void ClickNode(const wchar_t* text) { window_->ClickNode(Find(ShownKind::kTreeView).window, text); }
+  void Toggle(const wchar_t* text) { window_->ToggleNode(Find(ShownKind::kTreeView).window, text); }
   // Instead of what stands in the box; the tree follows when the person pauses.
-  void TypePath(const std::wstring& path, std::int64_t pause = 400) {
+  void TypePath(const std::wstring& path) {
     window_->PressAlt(L'f');
     window_->Type(path);
-    machine_.windows.Advance(pause);
+    machine_.windows.Advance(400);
   }
-  void Click(const wchar_t* button) { window_->Click(button); }
+  void AcceptMissing() {
+    machine_.user.NextBox(kMissing, kAnswerOk);
+    window_->Press(kKeyCodeReturn);
+  }
 
   test::ScratchMachine scratch_;
   LocalMachine& machine_ = scratch_.machine;
@@ -68,120 +71,93 @@ class BrowseForAFolder : public testing::Test {
 };
 
 TEST_F(BrowseForAFolder, InTheTreeWhichThePathFollows) {
-  EXPECT_EQ(Browse(L"C:\\a\\b",
-                   [this] {
-                     EXPECT_EQ(window_->Find(L"Include subfolders"), nullptr);
-                     EXPECT_EQ(Nodes(), L"C: .a ..b* ..d .Program Files .Users .Windows")
-                         << "neither files nor hidden folders";
-                     EXPECT_EQ(Folder(), L"C:\\a\\b");
-                     window_->ToggleNode(Tree(), L"b");
-                     EXPECT_EQ(Nodes(), L"C: .a ..b* ...c ..d .Program Files .Users .Windows");
-                     window_->ClickNode(Tree(), L"c");
-                     EXPECT_EQ(Folder(), L"C:\\a\\b\\c");
-                     window_->ClickNode(Tree(), L"C:");
-                     EXPECT_EQ(Folder(), L"C:\\");
-                     window_->Press(kKeyCodeDown);
-                     window_->Press(kKeyCodeReturn);
-                   }),
-            L"C:\\a");
+  const auto script = [this] {
+    EXPECT_EQ(window_->Find(L"Include subfolders"), nullptr);
+    EXPECT_EQ(Nodes(), L"C: .a ..b* ..d ") << "neither files nor hidden folders";
+    Toggle(L"b");
+    ClickNode(L"c");
+    EXPECT_EQ(Find(ShownKind::kTextBox).text, L"C:\\a\\b\\c");
+    ClickNode(L"C:");
+    EXPECT_EQ(Find(ShownKind::kTextBox).text, L"C:\\");
+    window_->Press(kKeyCodeDown);
+    window_->Press(kKeyCodeReturn);
+  };
+  EXPECT_EQ(Browse(L"C:\\a\\b", script), L"C:\\a");
+  parameters_.IncludeSubfoldersCaption = L"Include subfolders";
+  for (const std::wstring button : {L"Cancel", L"OK"}) {
+    const auto turn = [this, &button] {
+      window_->Click(L"Include subfolders");
+      window_->Click(button);
+    };
+    EXPECT_EQ(Browse(L"C:\\a", turn), button == L"OK" ? L"C:\\a" : L"");
+    EXPECT_EQ(parameters_.IncludeSubfolders, button == L"OK");
+  }
 }
 
 TEST_F(BrowseForAFolder, ByItsPathWhichTheTreeFollows) {
   const std::wstring name(120, L'\u0416');
   const std::wstring deep = L"C:\\" + name + L"\\" + name + L"\\" + name;
   machine_.AddFolders(deep);
-  EXPECT_EQ(
-      Browse({},
-             [this, &deep, &name] {
-               TypePath(L"c:\\HIDDEN\\");
-               EXPECT_EQ(Nodes(), L"C: .a .HIDDEN* .Program Files .Users .Windows ." + name);
-               TypePath(L"C:\\a\\nothing");
-               EXPECT_NE(Nodes().find(L"HIDDEN*"), std::wstring::npos) << "the selection stays";
-               for (const wchar_t* wrong : {L"C:\\a\\nothing", L"C:\\a\\file.txt", L"a", L"", L"\\\\server", L"Q:"}) {
-                 TypePath(L" ");
-                 TypePath(wrong, 0);
-                 machine_.user.NextBox(kMissing, kAnswerOk);
-                 window_->Press(kKeyCodeReturn);
-               }
-               TypePath(deep);
-               EXPECT_NE(Nodes().find(L"..." + name + L"*"), std::wstring::npos);
-               Click(L"OK");
-             }),
-      deep);
+  const auto script = [this, &deep, &name] {
+    TypePath(L"c:\\HIDDEN\\");
+    EXPECT_EQ(Nodes(), L"C: .a .Hidden* ." + name + L" ");
+    for (const wchar_t* wrong : {L"C:\\a\\nothing", L"C:\\a\\file.txt", L"a", L" ", L"\\\\server", L"Q:"}) {
+      TypePath(wrong);
+      AcceptMissing();
+    }
+    EXPECT_NE(Nodes().find(L"Hidden*"), std::wstring::npos) << "the selection stays";
+    machine_.workers.Takes = 1000;
+    TypePath(L"C:\\a\\d");
+    TypePath(deep);  // while the other is still looked for
+    machine_.windows.Advance(5000);
+    EXPECT_NE(Nodes().find(L"..." + name + L"*"), std::wstring::npos);
+    window_->Click(L"OK");
+  };
+  EXPECT_EQ(Browse(L"", script), deep);
   for (const auto& [typed, path] : {std::pair(L"c:", L"C:\\"), {L"C", L"C:\\"}, {L" \"C:/a/d/\" ", L"C:\\a\\d"}}) {
-    EXPECT_EQ(Browse(L"C:\\a",
-                     [this, text = typed] {
-                       TypePath(text, 0);
-                       Click(L"OK");
-                     }),
-              path);
+    EXPECT_EQ(Browse(typed, [this] { window_->Click(L"OK"); }), path);
   }
 }
 
 TEST_F(BrowseForAFolder, OnAServerThatWasTyped) {
   machine_.faults.SilentPlaces = {L"\\\\DEAD"};
-  EXPECT_EQ(Browse(L"C:\\",
-                   [this] {
-                     TypePath(L"\\\\nowhere\\share");
-                     EXPECT_EQ(Nodes(), L"C:*") << "a server without shares goes again";
-                     TypePath(L"\\\\dead\\share");
-                     TypePath(L"\\\\server\\one\\deep");
-                     EXPECT_EQ(Nodes(), L"C: \\\\dead \\\\server .one ..deep* .two");
-                     machine_.user.NextBox(kMissing, kAnswerOk);
-                     TypePath(L"\\\\dead\\share");
-                     Click(L"OK");
-                     window_->ClickNode(Tree(), L"two");
-                     machine_.workers.Takes = 100;
-                     window_->ToggleNode(Tree(), L"two");
-                     EXPECT_NE(Nodes().find(L"..Reading..."), std::wstring::npos);
-                     Click(L"OK");
-                   }),
-            L"\\\\server\\two");
+  const auto script = [this] {
+    TypePath(L"\\\\nowhere\\share");
+    EXPECT_EQ(Nodes(), L"C:* ") << "a server without shares goes again";
+    TypePath(L"\\\\dead\\share");
+    AcceptMissing();
+    TypePath(L"\\\\server\\");
+    EXPECT_EQ(Nodes(), L"C: \\\\dead \\\\server* .one .two ");
+    TypePath(L"\\\\server\\one\\deep");
+    EXPECT_EQ(Nodes(), L"C: \\\\dead \\\\server .one ..deep* .two ");
+    ClickNode(L"two");
+    machine_.workers.Takes = 100;
+    Toggle(L"two");
+    EXPECT_NE(Nodes().find(L"..Reading..."), std::wstring::npos);
+    window_->Click(L"OK");
+  };
+  EXPECT_EQ(Browse(L"C:\\", script), L"\\\\server\\two");
   machine_.windows.Advance(200);  // what is read too late is nobody's
 }
 
 TEST_F(BrowseForAFolder, ThatIsMadeThere) {
-  const auto name = [this](const wchar_t* text, const wchar_t* box) {
-    if (box != nullptr) machine_.user.NextBox(box, kAnswerOk);
-    machine_.user.Window(L"New Folder").Press('A', kCtrlMask);
-    machine_.user.Window(L"New Folder").Type(text);
-    machine_.user.Window(L"New Folder").Press(kKeyCodeReturn);
+  const auto name = [](ShownWindow& prompt) {
+    EXPECT_NE(prompt.Find(L"Enter a name for your new folder"), nullptr);
+    for (const wchar_t* text : {L"B", L"x\\y", L"cc "}) {
+      prompt.Press('A', kCtrlMask);
+      prompt.Type(text);
+      prompt.Press(kKeyCodeReturn);
+    }
   };
-  EXPECT_EQ(Browse(L"C:\\a",
-                   [this, &name] {
-                     EXPECT_EQ(window_->Find(L"New Folder")->toolTip,
-                               L"Creates a new folder in the currently selected directory");
-                     machine_.user.NextWindow(L"New Folder", [&name](const ShownWindow& prompt) {
-                       EXPECT_NE(prompt.Find(L"Enter a name for your new folder"), nullptr);
-                       name(L"B", L"A Folder of that name already exists.\r\nEnter a different name and try again.");
-                       name(L"x\\y", L"Folder x\\y can't be made.");
-                       name(L"cc ", nullptr);
-                     });
-                     Click(L"New Folder");
-                     EXPECT_TRUE(machine_.files.FolderExists(L"C:\\a\\cc"));
-                     EXPECT_EQ(Nodes(), L"C: .a ..b ..cc* ..d .Program Files .Users .Windows");
-                     Click(L"OK");
-                   }),
-            L"C:\\a\\cc");
-}
-
-TEST_F(BrowseForAFolder, WithASwitchWhereTheCallerWantsIt) {
-  parameters_.IncludeSubfoldersCaption = L"Include subfolders";
-  for (const bool cancelled : {true, false}) {
-    EXPECT_EQ(Browse(L"C:\\a",
-                     [this, cancelled] {
-                       Click(L"Include subfolders");
-                       window_->Resize(700, 600);
-                       cancelled ? window_->Press(kKeyCodeEscape) : Click(L"OK");
-                     }),
-              cancelled ? L"" : L"C:\\a");
-    EXPECT_EQ(parameters_.IncludeSubfolders, !cancelled);
-  }
-  Browse(L"C:\\a", [this] {
-    EXPECT_EQ(Find(ShownKind::kCheckBox).check, CheckValue::kChecked);
-    EXPECT_EQ(window_->place.right - window_->place.left, 700);
-    window_->Close();
-  });
+  const auto script = [this, &name] {
+    machine_.user.NextWindow(L"New Folder", name);
+    machine_.user.NextBox(L"A Folder of that name already exists.\r\nEnter a different name and try again.", kAnswerOk);
+    machine_.user.NextBox(L"Folder x\\y can't be made.", kAnswerOk);
+    window_->Click(L"New Folder");
+    EXPECT_EQ(Nodes(), L"C: .a ..b ..cc* ..d ");
+    window_->Click(L"OK");
+  };
+  EXPECT_EQ(Browse(L"C:\\a", script), L"C:\\a\\cc");
 }
 
 }  // namespace
