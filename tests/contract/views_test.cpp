@@ -224,6 +224,7 @@ TEST_F(ViewsContract, TheSelectionLeavesANodeThatGoesOrCloses) {
     SCOPED_TRACE(ToUtf8(row.removed));
     tree_.SetSelectedItem(tree_.Find(row.selected));
     tree_.Remove(*tree_.Find(row.removed));
+    EXPECT_EQ(tree_.Find(row.removed), nullptr);
     EXPECT_EQ(tree_.SelectedItem(), tree_.Find(row.next));
     EXPECT_NE(Nodes().find(row.next + L"*"), std::wstring::npos);
   }

@@ -26,7 +26,7 @@ namespace {
 constexpr unsigned kFirstSeed = 1;
 constexpr unsigned kSeeds = 12;
 constexpr unsigned kLongestRun = 120;  // seconds; one that takes longer hangs
-constexpr std::size_t kSteps = 250;    // of a run
+constexpr std::size_t kSteps = 190;    // of a run
 constexpr std::size_t kToEnd = 60;     // steps within which "/EXIT" must have ended it
 constexpr std::size_t kTraced = 60;
 constexpr int kDeepest = 3;  // requests within requests
@@ -50,6 +50,8 @@ const MenuPath kEntries[] = {{L"File", L"Save"},
                              {L"File", L"Exit"},
                              {L"View", L"Refresh"},
                              {L"Tools", L"Windows Explorer"},
+                             {L"Tools", L"Refresh Organized Folders", L"on the Desktop"},
+                             {L"Tools", L"Refresh Organized Folders", L"on the Desktop"},
                              {L"Tools", L"Refresh Organized Folders", L"on the Desktop"},
                              {L"Help", L"Contents"},
                              {L"Help", L"About Burrowmark..."}};
@@ -205,6 +207,7 @@ class Stress {
     default_ = Known(registered);
     if (default_.empty() || machine_.RealPath(default_).empty()) default_ = kFiles[0].path;
     faulted_ = false;
+    MakeWritable();
     unsaved_.reset();
     toEnd_ = 0;
     Note("start with " + ToUtf8(default_));
@@ -231,7 +234,7 @@ class Stress {
     if (sessionOver_ || ++steps_ > kSteps) {
       WindDown();
     } else {
-      Do(When::kAtRest, 0);
+      Do(When::kAnyTime, When::kAtRest, 0);
     }
     return true;
   }
@@ -243,24 +246,29 @@ class Stress {
     Look();
     ++depth_;
     const std::size_t count = sessionOver_ || steps_ > kSteps ? 0 : Upto(5) / 2;
-    const When when = point == YieldPoint::kDoEvents ? When::kAtDoEvents : When::kAnyTime;
-    for (std::size_t i = 0; i < count; ++i) Do(when, static_cast<std::size_t>(point) + 1);
+    for (std::size_t i = 0; i < count; ++i) {
+      const When when = point == YieldPoint::kDoEvents && Chance(60) ? When::kAtDoEvents : When::kAnyTime;
+      Do(when, when, static_cast<std::size_t>(point) + 1);
+    }
     --depth_;
   }
 
-  void Do(When when, std::size_t place);
+  void Do(When first, When last, std::size_t place);
 
   // All that was broken is mended, so nothing keeps the program from going.
   void WindDown() {
     machine_.faults.Clear();
     machine_.drives.Add(L'D');
-    for (const FileRow& row : kFiles) machine_.files.SetFileAttributesA(row.path, 0);
+    MakeWritable();
     if (++toEnd_ > kToEnd) Fail("the program can't be ended");
     const bool before = std::exchange(acting_, true);
     if (toEnd_ % 4 == 1) OtherProcess(L"/EXIT");
     acting_ = before;
   }
 
+  void MakeWritable() {
+    for (const FileRow& row : kFiles) machine_.files.SetFileAttributesA(row.path, 0);
+  }
   void Note(const std::string& step) {
     trace_.push_back(step);
     if (trace_.size() > kTraced) trace_.pop_front();
@@ -334,6 +342,10 @@ class Stress {
     }
     return nullptr;
   }
+  bool IsAtWork() const {
+    const LocalDesktop& desktop = machine_.windows.Desktop;
+    return desktop.WithCaption(L"Saving Changes...") || desktop.WithCaption(L"Refresh Organized Folders...");
+  }
   static ShownControl* TreeOf(const ShownWindow& window) {
     for (const auto& control : window.controls) {
       if (control->tree) return control.get();
@@ -364,10 +376,12 @@ class Stress {
     if (editor) {
       if (editor->tree.mixed) Fail("the editor shows things of two documents");
       documents_.Shown(editor->tree);
+      if (IsAtWork() && atWork_ && *atWork_ != editor->tree) Fail("the user edits while work is under way");
       const bool same = !unsaved_ || (editor->path == unsaved_->path && editor->tree.mark == unsaved_->tree.mark);
       const std::optional<Tree> file = documents_.Read(editor->path);
       if (same && file && !documents_.Same(*file, editor->tree)) unsaved_ = editor;
     }
+    atWork_ = editor && IsAtWork() ? std::optional(editor->tree) : std::nullopt;
     documents_.Check();
   }
 
@@ -456,8 +470,9 @@ class Stress {
   std::size_t boxesHeard_ = 0;
   std::wstring default_;  // the default file
   std::optional<EditorView> unsaved_;
-  bool mayLose_ = false;  // the user said so
-  bool faulted_ = false;  // in this start the machine failed once
+  std::optional<Tree> atWork_;  // what the editor showed when work was last seen to be under way
+  bool mayLose_ = false;        // the user said so
+  bool faulted_ = false;        // in this start the machine failed once
   bool sessionOver_ = false;
   std::map<std::wstring, std::string> atSessionEnd_;  // the files
 };
@@ -486,9 +501,10 @@ constexpr Deed kDeeds[] = {
     {"fault", 10, When::kAtRest, [](Stress& s) { s.Fault(); }},
 };
 
-void Stress::Do(When when, std::size_t place) {
+void Stress::Do(When first, When last, std::size_t place) {
   const Deed* deed = nullptr;
-  while (deed == nullptr || deed->when > when || !Chance(deed->percent)) deed = &kDeeds[Upto(std::size(kDeeds))];
+  while (deed == nullptr || deed->when < first || deed->when > last || !Chance(deed->percent))
+    deed = &kDeeds[Upto(std::size(kDeeds))];
   ++coverage_[deed->name].at(place);
   Note(std::string(static_cast<std::size_t>(depth_) * 2, ' ') + kPlaces[place] + ": " + deed->name);
   const bool before = std::exchange(acting_, place == 0);
