@@ -54,9 +54,18 @@ DriveLook LookOfDrive(std::int32_t driveType) {
   return look == std::end(kDriveLooks) ? kOtherDriveLook : *look;
 }
 
+// What most items say is one text for all of them.
+SharedText Usual(std::wstring_view text) {
+  static const SharedText usual[] = {MIT_PATH,       MIT_PATH_SHORTCUT,  MIT_PATH_EXPLORER, MIT_GROUP_GENERAL,
+                                     MIT_GROUP_USER, L"Folder Shortcut", L"Group"};
+  const auto* found = std::find(std::begin(usual), std::end(usual), text);
+  return found == std::end(usual) ? SharedText(text) : *found;
+}
+
 }  // namespace
 
-clsMenuItem::clsMenuItem(const Clock& clock) : TimeCreated(Now(clock)), clock_(&clock) {}
+clsMenuItem::clsMenuItem(const Clock& clock)
+    : ItemType(Usual(MIT_PATH)), OpenType(Usual(MIT_PATH_SHORTCUT)), TimeCreated(Now(clock)), clock_(&clock) {}
 
 template <typename Change>
 void clsMenuItem::ChangeWatched(ItemAspect aspect, Change change) {
@@ -70,11 +79,11 @@ void clsMenuItem::SetID(std::int32_t id) {
 }
 
 void clsMenuItem::SetName(std::wstring_view name) {
-  if (name != name_) ChangeWatched(ItemAspect::kName, [&] { name_ = name; });
+  if (name_ != name) ChangeWatched(ItemAspect::kName, [&] { name_ = name; });
 }
 
 void clsMenuItem::SetOwnerName(std::wstring_view ownerName) {
-  if (ownerName != ownerName_) ChangeWatched(ItemAspect::kPlace, [&] { ownerName_ = ownerName; });
+  if (ownerName_ != ownerName) ChangeWatched(ItemAspect::kPlace, [&] { ownerName_ = Usual(ownerName); });
 }
 
 void clsMenuItem::SetCaption(std::wstring_view caption) { SetCaption2(RemoveBadFileChars(caption)); }
@@ -85,33 +94,34 @@ void clsMenuItem::SetCaption2(std::wstring_view caption) {
 }
 
 void clsMenuItem::SetOnlyCaption(std::wstring_view caption) {
-  if (caption == caption_) return;
+  if (caption_ == caption) return;
   ChangeWatched(ItemAspect::kPlace, [&] {
     caption_ = caption;
-    sortCaption_.reset();
+    sortCaption_.clear();
   });
 }
 
 const std::wstring& clsMenuItem::SortCaption() const {
-  if (!sortCaption_) sortCaption_ = UpperCaseText(caption_);
-  return *sortCaption_;
+  if (sortCaption_.empty()) sortCaption_.Set(UpperCaseText(caption_), caption_);
+  return sortCaption_;
 }
 
 void clsMenuItem::SetCaptionMenu(std::wstring_view caption) {
   if (caption.size() <= kMenuTitleLength) {
-    captionMenu_ = caption;
+    captionMenu_.Set(caption, caption_);
     return;
   }
-  captionMenu_ = caption.substr(0, kMenuTitleHead);
-  captionMenu_ += L"...";
-  captionMenu_ += caption.substr(caption.size() - kMenuTitleTail);
+  std::wstring shortened(caption.substr(0, kMenuTitleHead));
+  shortened += L"...";
+  shortened += caption.substr(caption.size() - kMenuTitleTail);
+  captionMenu_ = shortened;
 }
 
 void clsMenuItem::SetSeparator(bool separator) { SetKind(subMenu_ && !separator, separator); }
 
 void clsMenuItem::SetSubMenu(bool subMenu) {
   SetKind(subMenu, separator_ && !subMenu);
-  if (subMenu) ItemType = MIT_GROUP_GENERAL;
+  if (subMenu) ItemType = Usual(MIT_GROUP_GENERAL);
 }
 
 void clsMenuItem::SetKind(bool subMenu, bool separator) {
@@ -136,13 +146,13 @@ void clsMenuItem::SetIconIDDescription() {
     Description = look.description;
     return;
   }
-  const std::wstring& further = ItemType == MIT_PATH ? OpenType : name_;
+  const SharedText& further = ItemType == MIT_PATH ? OpenType : name_;
   const auto* look = std::find_if(std::begin(kTypeLooks), std::end(kTypeLooks), [&](const TypeLook& row) {
-    return row.itemType == ItemType && (row.further.empty() || row.further == further);
+    return ItemType == row.itemType && (row.further.empty() || further == row.further);
   });
   if (look == std::end(kTypeLooks)) return;
   IconID = look->icon;
-  Description = look->description;
+  if (Description != look->description) Description = Usual(look->description);
   if (ItemType == MIT_OPENALL) SetOnlyCaption(L"Open-All");  // what the menu draws stays
 }
 
@@ -166,6 +176,39 @@ void clsMenuItem::ModifyMenuItem(const ItemChange& change) {
   KeyboardCode = change.KeyboardCode;
   if (change.UserDescription) UserDescription = *change.UserDescription;
   TimeModified = Now(*clock_);
+}
+
+void clsMenuItem::CopyFrom(const clsMenuItem& other, bool captionAsGiven) {
+  SetID(other.id_);
+  Position = other.Position;
+  if (name_ != other.name_) ChangeWatched(ItemAspect::kName, [&] { name_ = other.name_; });
+  NameOld = other.NameOld;
+  ChangeWatched(ItemAspect::kPlace, [&] {
+    const bool same = captionAsGiven || other.caption_.Text().find_first_of(kBadFileChars) == std::wstring::npos;
+    caption_ = same ? other.caption_ : SharedText(RemoveBadFileChars(other.caption_));
+    sortCaption_ = same ? other.sortCaption_ : SharedText();
+    ownerName_ = other.ownerName_;
+    separator_ = other.separator_;
+    subMenu_ = other.subMenu_;
+  });
+  captionMenu_ = other.captionMenu_;
+  OwnerID = other.OwnerID;
+  flags = other.flags;
+  IconID = other.IconID;
+  ItemType = other.ItemType;
+  OpenType = other.OpenType;
+  DriveType = other.DriveType;
+  Description = other.Description;
+  FolderPath = other.FolderPath;
+  NetworkPath = other.NetworkPath;
+  ItemPath = other.ItemPath;
+  ItemLocation = other.ItemLocation;
+  Remark = other.Remark;
+  KeyboardCode = other.KeyboardCode;
+  UserDescription = other.UserDescription;
+  TimeCreated = other.TimeCreated;
+  TimeModified = other.TimeModified;
+  TimeAccessed = other.TimeAccessed;
 }
 
 void clsMenuItem::AddWatcher(ItemWatcher& watcher) {

@@ -12,6 +12,7 @@
 
 #include "core/dates.h"
 #include "core/mit_words.h"
+#include "core/shared_text.h"
 
 namespace burrowmark {
 
@@ -85,7 +86,7 @@ class clsMenuItem {
   const std::wstring& Name() const { return name_; }
   void SetName(std::wstring_view name);
   // The name that the item had before a paste gave it a new one.
-  std::wstring NameOld;
+  SharedText NameOld;
 
   // The title. SetCaption leaves out what a file name can't hold, SetCaption2 takes the text as it is; both write
   // `CaptionMenu` too.
@@ -109,17 +110,17 @@ class clsMenuItem {
   // A group is no separator, and its type becomes MIT_GROUP_GENERAL; another type is written afterwards.
   void SetSubMenu(bool subMenu);
 
-  std::wstring ItemType = MIT_PATH;
-  std::wstring OpenType = MIT_PATH_SHORTCUT;
+  SharedText ItemType;  // MIT_PATH and MIT_PATH_SHORTCUT at first
+  SharedText OpenType;
   std::int32_t DriveType = kDriveFixed;
-  std::wstring Description;  // of the type, in a word or two
-  std::wstring FolderPath;
-  std::wstring NetworkPath;
-  std::wstring ItemPath;      // titles of the owners below the personal group, each followed by a backslash
-  std::wstring ItemLocation;  // two backslashes and the titles of all owners, a backslash between them
-  std::wstring Remark;
+  SharedText Description;  // of the type, in a word or two
+  SharedText FolderPath;
+  SharedText NetworkPath;
+  SharedText ItemPath;      // titles of the owners below the personal group, each followed by a backslash
+  SharedText ItemLocation;  // two backslashes and the titles of all owners, a backslash between them
+  SharedText Remark;
   std::int32_t KeyboardCode = -1;
-  std::wstring UserDescription;
+  SharedText UserDescription;
   Date TimeCreated;
   Date TimeModified = 0;
   Date TimeAccessed = 0;
@@ -130,6 +131,10 @@ class clsMenuItem {
   void SetIconIDDescription();
   // Writes a change in the order of its fields and stamps `TimeModified`.
   void ModifyMenuItem(const ItemChange& change);
+
+  // Takes on all that another item says, and shares its texts. A title that a file name can't hold is kept as it is if
+  // `captionAsGiven`.
+  void CopyFrom(const clsMenuItem& other, bool captionAsGiven);
 
   void AddWatcher(ItemWatcher& watcher);
   void RemoveWatcher(const ItemWatcher& watcher);
@@ -142,11 +147,11 @@ class clsMenuItem {
 
   const Clock* clock_;
   std::int32_t id_ = 0;
-  std::wstring name_;
-  std::wstring ownerName_;
-  std::wstring caption_;
-  std::wstring captionMenu_;
-  mutable std::optional<std::wstring> sortCaption_;
+  SharedText name_;
+  SharedText ownerName_;
+  SharedText caption_;
+  SharedText captionMenu_;
+  mutable SharedText sortCaption_;  // empty: not worked out
   bool separator_ = false;
   bool subMenu_ = false;
   ItemWatcher* watchers_ = nullptr;

@@ -14,36 +14,7 @@ void CopyStore(const Clock& clock, const clsMenuCollection& source, clsMenuColle
 }
 
 void CloneMenuItem(const clsMenuItem& source, clsMenuItem& target) {
-  target.SetID(source.ID());
-  target.Position = source.Position;
-  target.SetName(source.Name());
-  target.NameOld = source.NameOld;
-  if (source.OwnerName() == MIT_PATHS_DRIVES) {
-    target.SetCaption2(source.Caption());
-  } else {
-    target.SetCaption(source.Caption());
-  }
-  target.SetCaptionMenu(source.CaptionMenu());
-  target.OwnerID = source.OwnerID;
-  target.flags = source.flags;
-  target.SetOwnerName(source.OwnerName());
-  target.IconID = source.IconID;
-  target.SetSeparator(source.Separator());
-  target.SetSubMenu(source.SubMenu());
-  target.ItemType = source.ItemType;
-  target.OpenType = source.OpenType;
-  target.DriveType = source.DriveType;
-  target.Description = source.Description;
-  target.FolderPath = source.FolderPath;
-  target.NetworkPath = source.NetworkPath;
-  target.ItemPath = source.ItemPath;
-  target.ItemLocation = source.ItemLocation;
-  target.Remark = source.Remark;
-  target.KeyboardCode = source.KeyboardCode;
-  target.UserDescription = source.UserDescription;
-  target.TimeCreated = source.TimeCreated;
-  target.TimeModified = source.TimeModified;
-  target.TimeAccessed = source.TimeAccessed;
+  target.CopyFrom(source, source.OwnerName() == MIT_PATHS_DRIVES);
 }
 
 std::shared_ptr<clsMenuCollection> CopyGroup(const Clock& clock, const clsMenuCollection& source,

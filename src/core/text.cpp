@@ -25,6 +25,7 @@ std::wstring_view TrimmedPart(std::wstring_view text) {
 }
 
 std::wstring WithDoubledAmpersands(std::wstring_view text) {
+  if (text.find(L'&') == std::wstring_view::npos) return std::wstring(text);
   std::wstring doubled;
   for (const wchar_t character : text) doubled.append(character == L'&' ? 2 : 1, character);
   return doubled;

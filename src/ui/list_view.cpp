@@ -18,7 +18,10 @@ const std::wstring& TextAt(const std::vector<std::wstring>& texts, std::size_t c
 
 // --- item
 
-ListItem::ListItem(ListView& list, std::wstring key) : list_(list), key_(std::move(key)) { texts.resize(1); }
+ListItem::ListItem(ListView& list, std::wstring key) : list_(list), key_(std::move(key)) {
+  texts.reserve(list.Columns().size());  // mostly all are written, one after the other
+  texts.resize(1);
+}
 
 void ListItem::SetText(std::wstring text) { SetSubItem(0, std::move(text)); }
 

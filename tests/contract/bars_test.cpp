@@ -12,9 +12,8 @@ class BarsContract : public FullFormTest {
 
   FormMenus& menus_ = form_.menus;
 };
-INSTANTIATE_TEST_SUITE_P(Systems, BarsContract, ::testing::ValuesIn(Systems()), KindName);
 
-TEST_P(BarsContract, MenusShowWhatTheirEntriesAreWhenTheyOpen) {
+TEST_F(BarsContract, MenusShowWhatTheirEntriesAreWhenTheyOpen) {
   menus_[L"mnuEdit"].Click = [this] { menus_[L"mnuCut"].SetEnabled(false); };
   form_.Show();
   EXPECT_EQ(MenuTexts({}), (Titles{L"File", L"Edit"}));
@@ -24,7 +23,7 @@ TEST_P(BarsContract, MenusShowWhatTheirEntriesAreWhenTheyOpen) {
   EXPECT_EQ(Heard(), Texts({"mnuFile", "mnuArrange"}));
 }
 
-TEST_P(BarsContract, AnEntryIsChosenOnceThoseAboveItHaveOpened) {
+TEST_F(BarsContract, AnEntryIsChosenOnceThoseAboveItHaveOpened) {
   form_.Show();
   EXPECT_TRUE(Choose({L"Edit", L"Arrange", L"by Name & Size"}));
   EXPECT_EQ(Heard(), Texts({"mnuEdit", "mnuArrange", "mnuByName"}));
@@ -37,7 +36,7 @@ TEST_P(BarsContract, AnEntryIsChosenOnceThoseAboveItHaveOpened) {
   EXPECT_EQ(Heard(), Texts({"mnuEdit", "mnuEdit"}));
 }
 
-TEST_P(BarsContract, TheBarTakesItsHeightFromTheClientAreaWhileItShows) {
+TEST_F(BarsContract, TheBarTakesItsHeightFromTheClientAreaWhileItShows) {
   form_.Show();
   const Size client = screen_.ClientOf(form_.Window());
   EXPECT_EQ(client, (Size{600, 600}));
@@ -50,13 +49,13 @@ TEST_P(BarsContract, TheBarTakesItsHeightFromTheClientAreaWhileItShows) {
   }
 }
 
-TEST_P(BarsContract, ALetterOpensAMenuThatNoControlHas) {
+TEST_F(BarsContract, ALetterOpensAMenuThatNoControlHas) {
   form_.Show();
   screen_.OpenMenuByLetter(form_.Window(), L'e');
   EXPECT_EQ(Heard(), Texts({"mnuEdit"}));
 }
 
-TEST_P(BarsContract, ShortcutsChooseWhatCanBeChosen) {
+TEST_F(BarsContract, ShortcutsChooseWhatCanBeChosen) {
   form_.cmdOk.KeyDown = [this](std::int32_t& key, std::int32_t) { form_.Say("key " + std::to_string(key)); };
   form_.Show();
   form_.cmdOk.SetFocus();
@@ -79,7 +78,7 @@ TEST_P(BarsContract, ShortcutsChooseWhatCanBeChosen) {
   EXPECT_EQ(press(kKeyCodeDelete, 0), Texts({"txtName=bcdef"})) << "a text has a use for that key itself";
 }
 
-TEST_P(BarsContract, APopupTellsWhatWasChosenBeforeItReturns) {
+TEST_F(BarsContract, APopupTellsWhatWasChosenBeforeItReturns) {
   Titles seen;
   menus_[L"mnuCutHere"].SetEnabled(false);
   form_.Show();
@@ -101,13 +100,13 @@ TEST_P(BarsContract, APopupTellsWhatWasChosenBeforeItReturns) {
   EXPECT_EQ(Heard(), Texts()) << "nothing pops up from a form that isn't loaded";
 }
 
-TEST_P(BarsContract, AnEntryOfTheSystemMenuIsTold) {
+TEST_F(BarsContract, AnEntryOfTheSystemMenuIsTold) {
   form_.Show();
   screen_.ChooseSystemMenu(form_.Window(), L"Always Here");
   EXPECT_EQ(Heard(), Texts({"system 555"}));
 }
 
-TEST_P(BarsContract, ToolbarButtonsAreClickedUnlessTheyAreDisabled) {
+TEST_F(BarsContract, ToolbarButtonsAreClickedUnlessTheyAreDisabled) {
   form_.Show();
   const WindowHandle bar = form_.tlbMain.Window();
   for (const std::size_t button : {0U, 2U, 3U}) screen_.ClickButton(bar, button);
@@ -118,7 +117,7 @@ TEST_P(BarsContract, ToolbarButtonsAreClickedUnlessTheyAreDisabled) {
   EXPECT_EQ(Heard(), Texts({"button cut", "entry group"}));
 }
 
-TEST_P(BarsContract, ToolbarsAreAsHighAsTheirTextsAndImagesNeed) {
+TEST_F(BarsContract, ToolbarsAreAsHighAsTheirTextsAndImagesNeed) {
   Toolbar& bar = form_.tlbMain;
   const auto height = [&] {
     bar.AlignTop(form_.Client());
@@ -148,7 +147,7 @@ TEST_P(BarsContract, ToolbarsAreAsHighAsTheirTextsAndImagesNeed) {
   }
 }
 
-TEST_P(BarsContract, AStatusBarLiesAlongTheBottom) {
+TEST_F(BarsContract, AStatusBarLiesAlongTheBottom) {
   form_.Show();
   for (const Size size : {Size{500, 300}, Size{300, 250}}) {
     screen_.Resize(form_.Window(), size.width, size.height);
@@ -160,7 +159,7 @@ TEST_P(BarsContract, AStatusBarLiesAlongTheBottom) {
   }
 }
 
-TEST_P(BarsContract, AFileDialogAnswersWithAPath) {
+TEST_F(BarsContract, AFileDialogAnswersWithAPath) {
   form_.Show();
   CommonDialog dialog(platform_.dialogs, form_);
   dialog.Filter = L"Marks (*.bwmk)|*.bwmk|All Files (*.*)|*.*";

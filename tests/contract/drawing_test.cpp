@@ -14,9 +14,8 @@ class DrawingContract : public ContractTest {
 
   Drawing& drawing_ = platform_.drawing;
 };
-INSTANTIATE_TEST_SUITE_P(Systems, DrawingContract, ::testing::ValuesIn(Systems()), KindName);
 
-TEST_P(DrawingContract, ColoursAreTheSystemsAndABrushIsFreedOnce) {
+TEST_F(DrawingContract, ColoursAreTheSystemsAndABrushIsFreedOnce) {
   for (const std::int32_t index : {kColorMenu, kColorMenuText, kColorHighlight, kColorShadow, kColor3DHighlight}) {
     EXPECT_LE(drawing_.GetSysColor(index), 0xFFFFFFU) << index;
   }
@@ -28,7 +27,7 @@ TEST_P(DrawingContract, ColoursAreTheSystemsAndABrushIsFreedOnce) {
   EXPECT_FALSE(drawing_.DeleteObject(0));
 }
 
-TEST_P(DrawingContract, EveryPrintedCharacterHasAWidthThatFollowsTheScale) {
+TEST_F(DrawingContract, EveryPrintedCharacterHasAWidthThatFollowsTheScale) {
   for (wchar_t c = L' '; c <= L'~'; ++c) EXPECT_GT(Width(kDesignDpi, {c}), 0) << static_cast<int>(c);
   for (const wchar_t c : {L'\u00E9', L'\u0416'}) EXPECT_GT(Width(kDesignDpi, {c}), 0);
   EXPECT_LT(Width(kDesignDpi, L"i"), Width(kDesignDpi, L"W"));
@@ -42,7 +41,7 @@ TEST_P(DrawingContract, EveryPrintedCharacterHasAWidthThatFollowsTheScale) {
             drawing_.GetTextExtentPoint32A(context, L"a").height);
 }
 
-TEST_P(DrawingContract, TheIconsLoadInEverySize) {
+TEST_F(DrawingContract, TheIconsLoadInEverySize) {
   ASSERT_EQ(drawing_.MenuIconCount(), 13);
   for (const std::int32_t size : {16, 20, 24, 32, 48}) {
     for (std::int32_t number = 1; number <= 13; ++number) {

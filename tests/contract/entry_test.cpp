@@ -19,9 +19,8 @@ class EntryContract : public FullFormTest {
     return on;
   }
 };
-INSTANTIATE_TEST_SUITE_P(Systems, EntryContract, ::testing::ValuesIn(Systems()), KindName);
 
-TEST_P(EntryContract, ATextIsTypedWhereTheCaretIs) {
+TEST_F(EntryContract, ATextIsTypedWhereTheCaretIs) {
   form_.Show();
   form_.txtName.SetFocus();
   form_.txtName.SetSelection(3, 0);
@@ -36,7 +35,7 @@ TEST_P(EntryContract, ATextIsTypedWhereTheCaretIs) {
   EXPECT_EQ(form_.txtName.Text(), L"Zef");
 }
 
-TEST_P(EntryContract, AnEventMayChangeTheTextOnceMore) {
+TEST_F(EntryContract, AnEventMayChangeTheTextOnceMore) {
   form_.txtName.Change = [this] {
     form_.Say(ToUtf8(form_.txtName.Text()));
     form_.txtName.SetText(L"kept");
@@ -48,7 +47,7 @@ TEST_P(EntryContract, AnEventMayChangeTheTextOnceMore) {
   EXPECT_EQ(screen_.TextOf(form_.txtName.Window()), L"kept");
 }
 
-TEST_P(EntryContract, EnterBeginsALineWhereThereAreMany) {
+TEST_F(EntryContract, EnterBeginsALineWhereThereAreMany) {
   form_.Show();
   CheckKeys(form_, {{kKeyCodeReturn, 0, {"cmdOk"}, &form_.txtName}});
   form_.txtLines.SetFocus();
@@ -63,7 +62,7 @@ TEST_P(EntryContract, EnterBeginsALineWhereThereAreMany) {
                     {kKeyCodeTab, 0, {}, &form_.txtIn}});
 }
 
-TEST_P(EntryContract, ATextIsSelectedWhereAKeyBroughtTheFocus) {
+TEST_F(EntryContract, ATextIsSelectedWhereAKeyBroughtTheFocus) {
   form_.Show();
   form_.cmdOk.SetFocus();
   Press(kKeyCodeTab);
@@ -85,7 +84,7 @@ TEST_P(EntryContract, ATextIsSelectedWhereAKeyBroughtTheFocus) {
   EXPECT_EQ(Heard(), Texts());
 }
 
-TEST_P(EntryContract, ControlsInAPictureAreTheirFormsToo) {
+TEST_F(EntryContract, ControlsInAPictureAreTheirFormsToo) {
   form_.Show();
   form_.txtLines.SetFocus();
   CheckKeys(form_, {{kKeyCodeTab, 0, {}, &form_.txtIn},  // a picture itself is no stop
@@ -101,7 +100,7 @@ TEST_P(EntryContract, ControlsInAPictureAreTheirFormsToo) {
   }
 }
 
-TEST_P(EntryContract, TheUserReachesNothingInWhatIsDisabledOrHidden) {
+TEST_F(EntryContract, TheUserReachesNothingInWhatIsDisabledOrHidden) {
   form_.optA.SetValue(true);
   form_.optOther.SetValue(true);
   form_.Show();
@@ -127,7 +126,7 @@ TEST_P(EntryContract, TheUserReachesNothingInWhatIsDisabledOrHidden) {
 
 // --- choices
 
-TEST_P(EntryContract, ACheckBoxIsTurnedByMouseAndKeys) {
+TEST_F(EntryContract, ACheckBoxIsTurnedByMouseAndKeys) {
   form_.Show();
   form_.chkOne.SetValue(kGrayed);
   Heard();
@@ -140,7 +139,7 @@ TEST_P(EntryContract, ACheckBoxIsTurnedByMouseAndKeys) {
   EXPECT_EQ(form_.chkOne.Value(), kChecked);
 }
 
-TEST_P(EntryContract, OneOfTheOptionsOfAFrameIsOn) {
+TEST_F(EntryContract, OneOfTheOptionsOfAFrameIsOn) {
   form_.optOther.SetValue(true);
   form_.Show();
   Heard();
@@ -161,7 +160,7 @@ TEST_P(EntryContract, OneOfTheOptionsOfAFrameIsOn) {
   EXPECT_TRUE(form_.optOther.Value()) << "it is in another group";
 }
 
-TEST_P(EntryContract, ArrowsMoveAmongOptionsAndTabPassesThemBy) {
+TEST_F(EntryContract, ArrowsMoveAmongOptionsAndTabPassesThemBy) {
   form_.optB.SetValue(true);
   form_.optOther.SetValue(true);
   form_.Show();
@@ -177,7 +176,7 @@ TEST_P(EntryContract, ArrowsMoveAmongOptionsAndTabPassesThemBy) {
   EXPECT_EQ(On(), "-B-");
 }
 
-TEST_P(EntryContract, AnEntryIsChosenByMouseAndKeys) {
+TEST_F(EntryContract, AnEntryIsChosenByMouseAndKeys) {
   form_.Show();
   EXPECT_EQ(form_.cboList.ListIndex(), -1);
   screen_.ChooseEntry(form_.cboList.Window(), 1);
@@ -188,7 +187,7 @@ TEST_P(EntryContract, AnEntryIsChosenByMouseAndKeys) {
   EXPECT_EQ(Heard(), Texts({"cboList", "cboList"}));
 }
 
-TEST_P(EntryContract, AChoiceCountsOnceWhenTheListCloses) {
+TEST_F(EntryContract, AChoiceCountsOnceWhenTheListCloses) {
   form_.cmdOk.SetCancel(true);
   form_.OnKey = [this](std::int32_t key, std::int32_t) {
     if (key != kKeyCodeF4) form_.Say("key " + std::to_string(key));
@@ -209,7 +208,7 @@ TEST_P(EntryContract, AChoiceCountsOnceWhenTheListCloses) {
   EXPECT_EQ(Heard(), Texts({"cmdOk"}));
 }
 
-TEST_P(EntryContract, ATypedCharacterCanBeKeptOrBecomeAnother) {
+TEST_F(EntryContract, ATypedCharacterCanBeKeptOrBecomeAnother) {
   form_.cmdOk.SetCancel(true);
   std::vector<std::int32_t> told;
   form_.txtName.KeyPress = [&told](std::int32_t& KeyAscii) {
@@ -232,7 +231,7 @@ TEST_P(EntryContract, ATypedCharacterCanBeKeptOrBecomeAnother) {
   EXPECT_EQ(enters, 1);
 }
 
-TEST_P(EntryContract, AToolTipIsShownAndChanged) {
+TEST_F(EntryContract, AToolTipIsShownAndChanged) {
   form_.cmdIn.SetToolTipText(L"Presses");
   form_.Show();
   form_.lblName.SetToolTipText(L"Marks");
@@ -244,7 +243,7 @@ TEST_P(EntryContract, AToolTipIsShownAndChanged) {
   EXPECT_EQ(screen_.ToolTipOf(form_.lblName.Window()), L"Marks && more");
 }
 
-TEST_P(EntryContract, ATabComesToTheFrontByMouseAndKeys) {
+TEST_F(EntryContract, ATabComesToTheFrontByMouseAndKeys) {
   form_.Show();
   EXPECT_EQ(screen_.TabOf(form_.tabAll.Window()), 0);
   screen_.ChooseTab(form_.tabAll.Window(), 1);
@@ -260,7 +259,7 @@ TEST_P(EntryContract, ATabComesToTheFrontByMouseAndKeys) {
   EXPECT_EQ(Heard(), Texts(4, "tabAll"));
 }
 
-TEST_P(EntryContract, WhatIsBelowTheTabsLiesWithinTheStrip) {
+TEST_F(EntryContract, WhatIsBelowTheTabsLiesWithinTheStrip) {
   form_.Show();
   screen_.ChangeScale(form_.Window(), 192);
   const Box& strip = form_.tabAll.Place();
@@ -270,7 +269,7 @@ TEST_P(EntryContract, WhatIsBelowTheTabsLiesWithinTheStrip) {
   EXPECT_LT(area.top + area.height, strip.top + strip.height);
 }
 
-TEST_P(EntryContract, AFramesMnemonicGoesToTheFirstInIt) {
+TEST_F(EntryContract, AFramesMnemonicGoesToTheFirstInIt) {
   form_.Show();
   CheckKeys(form_, {{L'g', kAltMask, {}, &form_.optA}});
 }

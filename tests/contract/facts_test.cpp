@@ -12,9 +12,8 @@ class FactsContract : public ContractTest {
  protected:
   SystemFacts& facts_ = platform_.system;
 };
-INSTANTIATE_TEST_SUITE_P(Systems, FactsContract, ::testing::ValuesIn(Systems()), KindName);
 
-TEST_P(FactsContract, TheVersionIsOneThatTheProgramRunsOn) {
+TEST_F(FactsContract, TheVersionIsOneThatTheProgramRunsOn) {
   SystemVersion version;
   ASSERT_TRUE(facts_.GetVersionExA(version));
   EXPECT_EQ(version.platform, kPlatformNT);
@@ -22,7 +21,7 @@ TEST_P(FactsContract, TheVersionIsOneThatTheProgramRunsOn) {
   EXPECT_GT(version.build, 0U);
 }
 
-TEST_P(FactsContract, FoldersAndTheProgramsOwnExistWithoutAClosingBackslash) {
+TEST_F(FactsContract, FoldersAndTheProgramsOwnExistWithoutAClosingBackslash) {
   const std::wstring module = facts_.GetModuleFileNameA();
   EXPECT_TRUE(module.ends_with(L".exe")) << ToUtf8(module);
   for (const std::wstring& folder :
@@ -33,7 +32,7 @@ TEST_P(FactsContract, FoldersAndTheProgramsOwnExistWithoutAClosingBackslash) {
   EXPECT_TRUE(files_.FileExists(facts_.GetWindowsDirectoryA() + L"\\explorer.exe"));
 }
 
-TEST_P(FactsContract, SettingsOfTheLocaleArePresent) {
+TEST_F(FactsContract, SettingsOfTheLocaleArePresent) {
   for (const std::int32_t setting : {kLocaleDecimal, kLocaleTimeSeparator, kLocaleShortDate, kLocaleLongDate,
                                      kLocaleClock24, kLocaleLeadingZero, kLocaleTimeFormat}) {
     EXPECT_NE(facts_.GetLocaleInfoA(setting), L"") << setting;
@@ -48,7 +47,7 @@ TEST_P(FactsContract, SettingsOfTheLocaleArePresent) {
   }
 }
 
-TEST_P(FactsContract, TextOfTheAnsiPageGoesThereAndBackAndAnyOtherBecomesQuestionMarks) {
+TEST_F(FactsContract, TextOfTheAnsiPageGoesThereAndBackAndAnyOtherBecomesQuestionMarks) {
   if (!system_->HasPage1252()) GTEST_SKIP() << "the system's ANSI code page is another one than 1252";
   std::string allBytes;
   for (int byte = 0; byte < 256; ++byte) allBytes += static_cast<char>(byte);
@@ -66,7 +65,7 @@ TEST_P(FactsContract, TextOfTheAnsiPageGoesThereAndBackAndAnyOtherBecomesQuestio
   }
 }
 
-TEST_P(FactsContract, TheClockShowsTodayWithinATimeZone) {
+TEST_F(FactsContract, TheClockShowsTodayWithinATimeZone) {
   using namespace std::chrono;
   const LocalTime now = platform_.clock.GetLocalTime();
   const auto wall =

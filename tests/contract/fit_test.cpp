@@ -72,9 +72,8 @@ class FitContract : public ContractTest {
  protected:
   Application app_{platform_};
 };
-INSTANTIATE_TEST_SUITE_P(Systems, FitContract, ::testing::ValuesIn(Systems()), KindName);
 
-TEST_P(FitContract, NoCaptionIsCutOff) {
+TEST_F(FitContract, NoCaptionIsCutOff) {
   for (const FormKind& kind : FormKinds()) {
     SCOPED_TRACE(kind.name);
     const std::unique_ptr<Form> form = kind.make(app_);
@@ -82,7 +81,7 @@ TEST_P(FitContract, NoCaptionIsCutOff) {
   }
 }
 
-TEST_P(FitContract, ACaptionThatIsCutOffIsFound) {
+TEST_F(FitContract, ACaptionThatIsCutOffIsFound) {
   NarrowForm form(platform_.windows);
   std::vector<std::string> expected;
   for (const std::int32_t dpi : kScales) {

@@ -19,9 +19,8 @@ class FoldersContract : public ContractTest {
     return listed;
   }
 };
-INSTANTIATE_TEST_SUITE_P(Systems, FoldersContract, ::testing::ValuesIn(Systems()), KindName);
 
-TEST_P(FoldersContract, FilesAndFoldersAreToldApartInEveryLetterCase) {
+TEST_F(FoldersContract, FilesAndFoldersAreToldApartInEveryLetterCase) {
   ASSERT_TRUE(Make(In(L"file \u00E4")) && files_.CreateFolder(In(L"Folder \u0416")));
   const std::pair<const wchar_t*, char> rows[] = {{L"FILE \u00C4", 'f'},     {L"folder \u0436", 'd'},
                                                   {L"Folder \u0416\\", 'd'}, {L"missing", ' '},
@@ -32,7 +31,7 @@ TEST_P(FoldersContract, FilesAndFoldersAreToldApartInEveryLetterCase) {
   }
 }
 
-TEST_P(FoldersContract, OnlyAbsolutePathsMeanAnything) {
+TEST_F(FoldersContract, OnlyAbsolutePathsMeanAnything) {
   for (const wchar_t* path : {L"", L"C", L"\\", L"\\\\", L"Windows", L".", L"C:Windows", L"\\Windows"}) {
     SCOPED_TRACE(ToUtf8(path));
     EXPECT_FALSE(files_.FileExists(path));
@@ -42,7 +41,7 @@ TEST_P(FoldersContract, OnlyAbsolutePathsMeanAnything) {
   }
 }
 
-TEST_P(FoldersContract, NamesOfAllAlphabetsAreCarriedThroughEveryCall) {
+TEST_F(FoldersContract, NamesOfAllAlphabetsAreCarriedThroughEveryCall) {
   for (const wchar_t* word : {L"caf\u00E9 \u20AC", L"\u041F\u0430\u043F\u043A\u0430", L"\U0001F98A & b = c; [d] %g^"}) {
     const std::wstring name(word);
     SCOPED_TRACE(ToUtf8(name));
@@ -58,7 +57,7 @@ TEST_P(FoldersContract, NamesOfAllAlphabetsAreCarriedThroughEveryCall) {
   }
 }
 
-TEST_P(FoldersContract, SomeNamesAreNeverFilesOrFolders) {
+TEST_F(FoldersContract, SomeNamesAreNeverFilesOrFolders) {
   for (const wchar_t* name : {L"a*b", L"a?b", L"a<b", L"a>b", L"a|b", L"a\"b"}) {
     EXPECT_FALSE(Make(In(name))) << ToUtf8(name);
     EXPECT_FALSE(files_.CreateFolder(In(name))) << ToUtf8(name);
@@ -66,7 +65,7 @@ TEST_P(FoldersContract, SomeNamesAreNeverFilesOrFolders) {
   EXPECT_FALSE(Make(In(std::wstring(256, L'x'))));
 }
 
-TEST_P(FoldersContract, PathsMayBeLongerThanTheOldLimit) {
+TEST_F(FoldersContract, PathsMayBeLongerThanTheOldLimit) {
   std::wstring folder = system_->Folder();
   while (folder.size() < 500) {
     folder += L'\\' + std::wstring(45, L'n');
@@ -81,7 +80,7 @@ TEST_P(FoldersContract, PathsMayBeLongerThanTheOldLimit) {
   EXPECT_TRUE(files_.DeleteFileA(folder + L"\\b"));
 }
 
-TEST_P(FoldersContract, FoldersAreMadeOneAtATime) {
+TEST_F(FoldersContract, FoldersAreMadeOneAtATime) {
   EXPECT_FALSE(files_.CreateFolder(In(L"a\\b")));
   EXPECT_TRUE(files_.CreateFolder(In(L"a")));
   EXPECT_FALSE(files_.CreateFolder(In(L"A")));
@@ -89,7 +88,7 @@ TEST_P(FoldersContract, FoldersAreMadeOneAtATime) {
   EXPECT_TRUE(files_.FolderExists(In(L"a\\b")));
 }
 
-TEST_P(FoldersContract, AllEntriesComeInTheirSpellingWithTheirAttributes) {
+TEST_F(FoldersContract, AllEntriesComeInTheirSpellingWithTheirAttributes) {
   EXPECT_TRUE(List(system_->Folder()).empty()) << "neither the folder itself nor its parent is an entry";
   const wchar_t* names[] = {L"b.txt", L"A.LNK", L"Caf\u00E9 \u20AC", L"\u041F\u0430\u043F\u043A\u0430", L"\U0001F98A"};
   for (const wchar_t* name : names) ASSERT_TRUE(Make(In(name)));
@@ -107,7 +106,7 @@ TEST_P(FoldersContract, AllEntriesComeInTheirSpellingWithTheirAttributes) {
   EXPECT_EQ(List(In(L"SUB\\")).count(L"below"), 1U);
 }
 
-TEST_P(FoldersContract, WhatIsNoFolderIsNotListed) {
+TEST_F(FoldersContract, WhatIsNoFolderIsNotListed) {
   ASSERT_TRUE(Make(In(L"file")) && files_.CreateFolder(In(L"folder")));
   for (const std::wstring& path :
        {In(L"missing"), In(L"file"), In(L"fold*"), std::wstring(), std::wstring(L"folder")}) {
@@ -117,7 +116,7 @@ TEST_P(FoldersContract, WhatIsNoFolderIsNotListed) {
   }
 }
 
-TEST_P(FoldersContract, ADeletedFolderGoesWithAllThatIsInIt) {
+TEST_F(FoldersContract, ADeletedFolderGoesWithAllThatIsInIt) {
   const std::wstring below = In(L"gone") + L"\\a folder of a rather long name \u0416" + std::wstring(120, L'n');
   ASSERT_TRUE(files_.CreateFolder(In(L"gone")) && files_.CreateFolder(below) && files_.CreateFolder(below + L"\\x"));
   ASSERT_TRUE(Make(In(L"stays")));
@@ -132,7 +131,7 @@ TEST_P(FoldersContract, ADeletedFolderGoesWithAllThatIsInIt) {
   EXPECT_EQ(List(system_->Folder()).size(), 1U);
 }
 
-TEST_P(FoldersContract, WhatAnotherProgramHoldsStaysInADeletedFolder) {
+TEST_F(FoldersContract, WhatAnotherProgramHoldsStaysInADeletedFolder) {
   ASSERT_TRUE(files_.CreateFolder(In(L"a")) && files_.CreateFolder(In(L"a\\b")) && files_.CreateFolder(In(L"a\\c")));
   ASSERT_TRUE(Make(In(L"a\\b\\held"), "held") && Make(In(L"a\\b\\free")) && Make(In(L"a\\c\\free")));
   std::shared_ptr<void> hold = system_->HoldOpen(In(L"a\\b\\held"));
@@ -143,7 +142,7 @@ TEST_P(FoldersContract, WhatAnotherProgramHoldsStaysInADeletedFolder) {
   EXPECT_EQ(List(In(L"a\\b")).size(), 1U);
 }
 
-TEST_P(FoldersContract, WhatALinkLeadsToIsNotDeleted) {
+TEST_F(FoldersContract, WhatALinkLeadsToIsNotDeleted) {
   ASSERT_TRUE(files_.CreateFolder(In(L"elsewhere")) && Make(In(L"elsewhere\\file"), "kept"));
   ASSERT_TRUE(files_.CreateFolder(In(L"folder")) && files_.CreateFolder(In(L"folder\\below")));
   if (!system_->LinkFolder(In(L"folder\\below\\link"), In(L"elsewhere"))) {
@@ -156,7 +155,7 @@ TEST_P(FoldersContract, WhatALinkLeadsToIsNotDeleted) {
   EXPECT_EQ(Content(In(L"elsewhere\\file")), "kept");
 }
 
-TEST_P(FoldersContract, EveryDriveIsListedInTheOrderOfTheLettersWithTheNameOfAFixedOne) {
+TEST_F(FoldersContract, EveryDriveIsListedInTheOrderOfTheLettersWithTheNameOfAFixedOne) {
   std::wstring letters;
   for (const std::wstring& entry : files_.DriveList()) {
     SCOPED_TRACE(ToUtf8(entry));
@@ -177,7 +176,7 @@ TEST_P(FoldersContract, EveryDriveIsListedInTheOrderOfTheLettersWithTheNameOfAFi
   EXPECT_EQ(letters, expected);
 }
 
-TEST_P(FoldersContract, ADriveIsAskedForByItsLetter) {
+TEST_F(FoldersContract, ADriveIsAskedForByItsLetter) {
   std::wstring label;
   for (const wchar_t* drive : {L"C:", L"c:", L"C:\\"}) {
     EXPECT_TRUE(files_.DriveExists(drive)) << ToUtf8(drive);

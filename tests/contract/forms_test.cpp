@@ -31,11 +31,10 @@ class FormsContract : public UiTest {
   TestForm other_{windows_, L"Second", heard_};
   TestForm third_{windows_, L"Third", heard_};
 };
-INSTANTIATE_TEST_SUITE_P(Systems, FormsContract, ::testing::ValuesIn(Systems()), KindName);
 
 // --- windows
 
-TEST_P(FormsContract, AWindowMadeAnewHasItsFocusItsRankAndItsForms) {
+TEST_F(FormsContract, AWindowMadeAnewHasItsFocusItsRankAndItsForms) {
   form_.Show();
   form_.SetTopMost(true);
   EXPECT_TRUE(screen_.IsTopMost(form_.Window()));
@@ -59,7 +58,7 @@ TEST_P(FormsContract, AWindowMadeAnewHasItsFocusItsRankAndItsForms) {
   EXPECT_EQ(Heard(), Texts({"First one"}));
 }
 
-TEST_P(FormsContract, TwipsBecomePixelsOfTheScreensScale) {
+TEST_F(FormsContract, TwipsBecomePixelsOfTheScreensScale) {
   form_.Show();
   const struct {
     std::int32_t dpi;
@@ -75,7 +74,7 @@ TEST_P(FormsContract, TwipsBecomePixelsOfTheScreensScale) {
   EXPECT_EQ(form_.Client(), kClient);
 }
 
-TEST_P(FormsContract, APlaceStaysAsItWasSetAndResizeComesOnceForEachRealChange) {
+TEST_F(FormsContract, APlaceStaysAsItWasSetAndResizeComesOnceForEachRealChange) {
   const Box place{1507, 1601, 7003, 4511};  // no whole pixels
   form_.SetBorder(FormBorder::kSizable);
   form_.OnLoad = [&] { form_.SetPlace(place); };
@@ -91,7 +90,7 @@ TEST_P(FormsContract, APlaceStaysAsItWasSetAndResizeComesOnceForEachRealChange) 
   EXPECT_EQ((Size{form_.Place().width, form_.Place().height}), (Size{7500, 6000}));
 }
 
-TEST_P(FormsContract, AWindowKeepsItsPlaceUnderneathWhileItIsMaximised) {
+TEST_F(FormsContract, AWindowKeepsItsPlaceUnderneathWhileItIsMaximised) {
   form_.SetBorder(FormBorder::kSizable);
   form_.SetPlace({1500, 1500, 7500, 4500});
   form_.SetWindowState(FormWindowState::kMaximized);
@@ -112,7 +111,7 @@ TEST_P(FormsContract, AWindowKeepsItsPlaceUnderneathWhileItIsMaximised) {
 
 // --- buttons and keys
 
-TEST_P(FormsContract, APressOnAFormHasOneEndAlsoWhereTheMouseIsTakenAway) {
+TEST_F(FormsContract, APressOnAFormHasOneEndAlsoWhereTheMouseIsTakenAway) {
   form_.Show();
   const auto mouse = [this](MouseAction action, std::int32_t x) {
     screen_.Mouse(form_.Window(), action, {kLeftButton, 0, x, 2700});
@@ -131,7 +130,7 @@ TEST_P(FormsContract, APressOnAFormHasOneEndAlsoWhereTheMouseIsTakenAway) {
   }
 }
 
-TEST_P(FormsContract, AButtonIsPressedByMouseKeysAndCode) {
+TEST_F(FormsContract, AButtonIsPressedByMouseKeysAndCode) {
   form_.Show();
   Click(form_.cmdTwo);
   EXPECT_EQ(Heard(), Texts({"First two"}));
@@ -144,7 +143,7 @@ TEST_P(FormsContract, AButtonIsPressedByMouseKeysAndCode) {
   EXPECT_EQ(Heard(), Texts({"First one"}));
 }
 
-TEST_P(FormsContract, NobodyPressesAButtonThatIsDisabledOrHidden) {
+TEST_F(FormsContract, NobodyPressesAButtonThatIsDisabledOrHidden) {
   form_.cmdOne.SetDefault(true);
   form_.cmdOne.SetEnabled(false);
   form_.cmdTwo.SetCancel(true);
@@ -160,7 +159,7 @@ TEST_P(FormsContract, NobodyPressesAButtonThatIsDisabledOrHidden) {
   EXPECT_EQ(Heard(), Texts({"First one"})) << "code can";
 }
 
-TEST_P(FormsContract, EnterPressesTheDefaultButtonAndEscTheCancelButton) {
+TEST_F(FormsContract, EnterPressesTheDefaultButtonAndEscTheCancelButton) {
   for (CommandButton* button : {&form_.cmdOne, &form_.cmdTwo, &form_.cmdThree}) button->SetTabStop(false);
   form_.Show();
   CheckKeys(form_, {{kKeyCodeReturn, 0, {}, nullptr}, {kKeyCodeEscape, 0, {}, nullptr}});
@@ -176,7 +175,7 @@ TEST_P(FormsContract, EnterPressesTheDefaultButtonAndEscTheCancelButton) {
   CheckKeys(form_, {{kKeyCodeReturn, 0, {"First three"}, &form_.cmdThree}});
 }
 
-TEST_P(FormsContract, TheFocusGoesThroughTheControlsAsTheyWereMade) {
+TEST_F(FormsContract, TheFocusGoesThroughTheControlsAsTheyWereMade) {
   form_.cmdOne.GotFocus = form_.Noting("got one");
   form_.cmdOne.LostFocus = form_.Noting("lost one");
   form_.cmdTwo.SetTabStop(false);
@@ -196,7 +195,7 @@ TEST_P(FormsContract, TheFocusGoesThroughTheControlsAsTheyWereMade) {
   CheckKeys(form_, {{L't', kAltMask, {}, &form_.cmdThree}});
 }
 
-TEST_P(FormsContract, AFormSeesKeysFirstAndMayKeepThem) {
+TEST_F(FormsContract, AFormSeesKeysFirstAndMayKeepThem) {
   std::vector<std::int32_t> keys;
   form_.OnKey = [&keys](std::int32_t key, std::int32_t shift) {
     keys.push_back(key + 1000 * shift);
@@ -212,7 +211,7 @@ TEST_P(FormsContract, AFormSeesKeysFirstAndMayKeepThem) {
 
 // --- unloading
 
-TEST_P(FormsContract, AFormCanRefuseToGo) {
+TEST_F(FormsContract, AFormCanRefuseToGo) {
   form_.Show();
   form_.Refuses = true;
   screen_.Close(form_.Window());
@@ -229,7 +228,7 @@ TEST_P(FormsContract, AFormCanRefuseToGo) {
   EXPECT_EQ(Heard(), Texts({"First unload"}));
 }
 
-TEST_P(FormsContract, AFormThatUnloadedItselfCanBeShownAgainInTheSameEvent) {
+TEST_F(FormsContract, AFormThatUnloadedItselfCanBeShownAgainInTheSameEvent) {
   form_.cmdOne.Click = [this] {
     form_.Unload();
     form_.lblText.SetCaption(L"Again");
@@ -245,7 +244,7 @@ TEST_P(FormsContract, AFormThatUnloadedItselfCanBeShownAgainInTheSameEvent) {
   EXPECT_EQ(screen_.TextOf(form_.lblText.Window()), L"Again");
 }
 
-TEST_P(FormsContract, AnOwnerTakesItsFormsAlongTheLastOneFirst) {
+TEST_F(FormsContract, AnOwnerTakesItsFormsAlongTheLastOneFirst) {
   form_.Show();
   other_.Show(Modeless, form_);
   third_.Show(Modeless, form_);
@@ -259,7 +258,7 @@ TEST_P(FormsContract, AnOwnerTakesItsFormsAlongTheLastOneFirst) {
   EXPECT_EQ(Heard(), Texts({"Second unload", "First unload"}));
 }
 
-TEST_P(FormsContract, AFormWhoseWindowTheSystemTookIsUnloaded) {
+TEST_F(FormsContract, AFormWhoseWindowTheSystemTookIsUnloaded) {
   MainWindowEvents events;
   const WindowHandle main = windows_.CreateMainWindow(L"Main", events);
   form_.Show(Modeless, main);
@@ -271,7 +270,7 @@ TEST_P(FormsContract, AFormWhoseWindowTheSystemTookIsUnloaded) {
   EXPECT_TRUE(screen_.IsShown(form_.Window()));
 }
 
-TEST_P(FormsContract, AFormGoesWithAllThatShows) {
+TEST_F(FormsContract, AFormGoesWithAllThatShows) {
   form_.Show();
   WindowHandle window = 0;
   {
@@ -288,7 +287,7 @@ TEST_P(FormsContract, AFormGoesWithAllThatShows) {
 
 // --- modal forms
 
-TEST_P(FormsContract, AModalFormKeepsItsOwnerFromTheUser) {
+TEST_F(FormsContract, AModalFormKeepsItsOwnerFromTheUser) {
   form_.Show();
   screen_.NextWindow(L"Second", [this] {
     EXPECT_FALSE(screen_.IsEnabled(form_.Window()));
@@ -306,7 +305,7 @@ TEST_P(FormsContract, AModalFormKeepsItsOwnerFromTheUser) {
   EXPECT_EQ(Heard(), Texts({"First one"}));
 }
 
-TEST_P(FormsContract, TheOwnerIsEnabledBeforeTheModalFormGoes) {
+TEST_F(FormsContract, TheOwnerIsEnabledBeforeTheModalFormGoes) {
   form_.Show();
   bool enabled = false;
   other_.OnDeactivate = [this, &enabled] { enabled = screen_.IsEnabled(form_.Window()); };
@@ -324,7 +323,7 @@ TEST_P(FormsContract, TheOwnerIsEnabledBeforeTheModalFormGoes) {
   EXPECT_TRUE(enabled);
 }
 
-TEST_P(FormsContract, ModalFormsNestAndUnwindInnermostFirst) {
+TEST_F(FormsContract, ModalFormsNestAndUnwindInnermostFirst) {
   form_.Show();
   other_.cmdOne.Click = [this] {
     third_.Show(Modal, other_);
@@ -350,7 +349,7 @@ TEST_P(FormsContract, ModalFormsNestAndUnwindInnermostFirst) {
   EXPECT_TRUE(screen_.IsEnabled(form_.Window()));
 }
 
-TEST_P(FormsContract, AnOwnerThatIsNoFormIsKeptFromTheUserToo) {
+TEST_F(FormsContract, AnOwnerThatIsNoFormIsKeptFromTheUserToo) {
   MainWindowEvents events;
   const WindowHandle main = windows_.CreateMainWindow(L"Main", events);
   screen_.NextWindow(L"First", [this, main] {
@@ -365,7 +364,7 @@ TEST_P(FormsContract, AnOwnerThatIsNoFormIsKeptFromTheUserToo) {
   windows_.DestroyMainWindow(main);
 }
 
-TEST_P(FormsContract, AFormThatUnloadsWhileLoadingIsNeverModal) {
+TEST_F(FormsContract, AFormThatUnloadsWhileLoadingIsNeverModal) {
   form_.Show();
   other_.OnLoad = [this] { other_.Unload(); };
   other_.Show(Modal, form_);

@@ -227,9 +227,8 @@ const std::vector<Change> kChanges = {
 };
 
 class KindsContract : public UiTest {};
-INSTANTIATE_TEST_SUITE_P(Systems, KindsContract, ::testing::ValuesIn(Systems()), KindName);
 
-TEST_P(KindsContract, AWindowShowsTheStateAndSoDoesOneThatIsMadeAnew) {
+TEST_F(KindsContract, AWindowShowsTheStateAndSoDoesOneThatIsMadeAnew) {
   for (std::size_t row = 0; row < kChanges.size(); ++row) {
     SCOPED_TRACE(row);
     const auto& [make, look, shows, heard] = kChanges[row];
@@ -330,7 +329,7 @@ const struct {
      [](Screen& s, FullForm& f) { s.ClickButton(f.tlbMain.Window(), 0); }},
 };
 
-TEST_P(KindsContract, AFormMayGoInAnyOfItsEvents) {
+TEST_F(KindsContract, AFormMayGoInAnyOfItsEvents) {
   int number = 0;
   for (const auto& row : kUnloads) {
     SCOPED_TRACE(number++);

@@ -60,6 +60,4 @@ class LocalSystem final : public SystemUnderTest {
 
 std::unique_ptr<SystemUnderTest> MakeSystem() { return std::make_unique<LocalSystem>(); }
 
-std::vector<std::string> Systems() { return {"Local"}; }
-
 }  // namespace burrowmark

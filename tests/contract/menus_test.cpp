@@ -39,16 +39,15 @@ class MenusContract : public ContractTest {
   Menus& menus_ = platform_.menus;
   MenuHandle root_ = menus_.CreatePopupMenu();
 };
-INSTANTIATE_TEST_SUITE_P(Systems, MenusContract, ::testing::ValuesIn(Systems()), KindName);
 
-TEST_P(MenusContract, AnEntryGoesInAheadOfItsPositionOrAtTheEnd) {
+TEST_F(MenusContract, AnEntryGoesInAheadOfItsPositionOrAtTheEnd) {
   for (const auto& [position, id] : {std::pair{0, 1}, {0, 50}, {1, 0x7FFF}, {-1, 0x8000}, {99, 0xEFFF}}) {
     EXPECT_TRUE(menus_.InsertMenuA(root_, position, kLeaf, id, L"Entry"));
   }
   EXPECT_EQ(Numbers(root_), Ids({50, 0x7FFF, 1, 0x8000, 0xEFFF}));
 }
 
-TEST_P(MenusContract, DeletingMovesTheOthersUpAndWhatCannotBeChangesNothing) {
+TEST_F(MenusContract, DeletingMovesTheOthersUpAndWhatCannotBeChangesNothing) {
   Fill(root_, 4);
   EXPECT_TRUE(menus_.DeleteMenu(root_, 1, kMenuByPosition));
   EXPECT_TRUE(menus_.DeleteMenu(root_, 2, kMenuByPosition));
@@ -63,7 +62,7 @@ TEST_P(MenusContract, DeletingMovesTheOthersUpAndWhatCannotBeChangesNothing) {
   EXPECT_EQ(Numbers(root_), Ids({100, 102}));
 }
 
-TEST_P(MenusContract, OwnerDrawnEntriesKeepNumberAndPopup) {
+TEST_F(MenusContract, OwnerDrawnEntriesKeepNumberAndPopup) {
   Fill(root_, 2);
   ASSERT_TRUE(menus_.InsertMenuA(root_, 2, kLine, 102, L""));
   const MenuHandle popup = AddGroup(1);
@@ -77,7 +76,7 @@ TEST_P(MenusContract, OwnerDrawnEntriesKeepNumberAndPopup) {
 }
 
 // One that stayed behind would be one of the few thousand that a process may hold.
-TEST_P(MenusContract, APopupGoesWithItsEntryAndAllBelowIt) {
+TEST_F(MenusContract, APopupGoesWithItsEntryAndAllBelowIt) {
   const MenuHandle leaf = AddGroup(0);
   EXPECT_TRUE(menus_.ModifyMenuA(root_, 0, kLeaf, 7, L"Leaf"));
   EXPECT_FALSE(Exists(leaf));
@@ -99,7 +98,7 @@ TEST_P(MenusContract, APopupGoesWithItsEntryAndAllBelowIt) {
   EXPECT_FALSE(Exists(root_) || Exists(last));
 }
 
-TEST_P(MenusContract, TheMainWindowHasABarWithOnePopupOfOneEntry) {
+TEST_F(MenusContract, TheMainWindowHasABarWithOnePopupOfOneEntry) {
   MainWindowEvents events;
   const WindowHandle window = platform_.windows.CreateMainWindow(L"Contract", events);
   const MenuHandle bar = menus_.GetMenu(window);

@@ -19,9 +19,8 @@ class ShellContract : public ContractTest {
   Shell& shell_ = platform_.shell;
   const std::wstring path_ = In(L"x.lnk");
 };
-INSTANTIATE_TEST_SUITE_P(Systems, ShellContract, ::testing::ValuesIn(Systems()), KindName);
 
-TEST_P(ShellContract, ALinkSaysWhatWasWrittenLast) {
+TEST_F(ShellContract, ALinkSaysWhatWasWrittenLast) {
   const std::wstring wide = In(L"\u041F\u0430\u043F\u043A\u0430 \U0001F98A");
   ASSERT_TRUE(files_.CreateFolder(wide) && Make(wide + L"\\file.txt"));
   const ShellLink rows[] = {{L"C:\\Windows\\explorer.exe", std::wstring(200, L'x'), 1},
@@ -43,7 +42,7 @@ TEST_P(ShellContract, ALinkSaysWhatWasWrittenLast) {
   }
 }
 
-TEST_P(ShellContract, LinksOfOtherSystemsAreRead) {
+TEST_F(ShellContract, LinksOfOtherSystemsAreRead) {
   const std::pair<const char*, const wchar_t*> rows[] = {{"windows.lnk", L"C:\\Caf\u00E9 \u0416\\far away.txt"},
                                                          {"local.lnk", L"C:\\Caf\u00E9 \u0416\\far away.txt"},
                                                          {"control-panel.lnk", L"(no link)"},
@@ -56,7 +55,7 @@ TEST_P(ShellContract, LinksOfOtherSystemsAreRead) {
   EXPECT_EQ(Read(In(L"missing.lnk")).target, L"(no link)");
 }
 
-TEST_P(ShellContract, ALinkIsWrittenOnlyWhereAFileCanBe) {
+TEST_F(ShellContract, ALinkIsWrittenOnlyWhereAFileCanBe) {
   ASSERT_TRUE(files_.CreateFolder(In(L"folder")));
   for (const std::wstring& path : {In(L"missing\\x.lnk"), In(L"folder"), In(L"a*b.lnk"), std::wstring(L"x.lnk")}) {
     EXPECT_FALSE(shell_.WriteShellLink(path, {L"C:\\Windows", L"", kShowNormal})) << ToUtf8(path);
@@ -65,7 +64,7 @@ TEST_P(ShellContract, ALinkIsWrittenOnlyWhereAFileCanBe) {
   EXPECT_FALSE(files_.FileExists(path_));
 }
 
-TEST_P(ShellContract, AnIconThatIsNotThereIsNeitherChangedNorDeleted) {
+TEST_F(ShellContract, AnIconThatIsNotThereIsNeitherChangedNorDeleted) {
   TrayIcon icon;
   icon.id = 1;
   icon.flags = kTrayHasMessage;
@@ -75,7 +74,7 @@ TEST_P(ShellContract, AnIconThatIsNotThereIsNeitherChangedNorDeleted) {
 
 #ifdef _WIN32  // the local machine launches whatever it is told, and answers as its test wants it
 
-TEST_P(ShellContract, OnlyWhatIsThereIsLaunchedWhateverTheDirectory) {
+TEST_F(ShellContract, OnlyWhatIsThereIsLaunchedWhateverTheDirectory) {
   const std::wstring program = platform_.system.GetSystemDirectoryA() + L"\\cmd.exe";
   for (const std::wstring& directory : {std::wstring(L"0"), system_->Folder()}) {
     EXPECT_LE(shell_.ShellExecuteA(L"open", In(L"missing.exe"), L"/x", directory, kShowNormal), kLastShellError);
@@ -83,7 +82,7 @@ TEST_P(ShellContract, OnlyWhatIsThereIsLaunchedWhateverTheDirectory) {
   }
 }
 
-TEST_P(ShellContract, AMediaCommandThatIsNoneHasAnErrorNumber) { EXPECT_NE(shell_.mciSendStringA(L"nonsense"), 0); }
+TEST_F(ShellContract, AMediaCommandThatIsNoneHasAnErrorNumber) { EXPECT_NE(shell_.mciSendStringA(L"nonsense"), 0); }
 
 #endif
 

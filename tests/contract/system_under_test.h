@@ -53,11 +53,8 @@ class SystemUnderTest {
 };
 
 std::unique_ptr<SystemUnderTest> MakeSystem();
-// The name of the system that this build tests.
-std::vector<std::string> Systems();
-inline std::string KindName(const ::testing::TestParamInfo<std::string>& info) { return info.param; }
 
-class ContractTest : public ::testing::TestWithParam<std::string> {
+class ContractTest : public ::testing::Test {
  protected:
   std::wstring In(const std::wstring& name) const { return system_->Folder() + L'\\' + name; }
   // Writes a new file by the seam's own calls.

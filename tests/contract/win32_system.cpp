@@ -156,6 +156,4 @@ class Win32System final : public SystemUnderTest {
 
 std::unique_ptr<SystemUnderTest> MakeSystem() { return std::make_unique<Win32System>(); }
 
-std::vector<std::string> Systems() { return {"Win32"}; }
-
 }  // namespace burrowmark

@@ -37,9 +37,8 @@ class WindowsContract : public ContractTest {
   Texts heard_;
   WindowHandle window_ = 0;
 };
-INSTANTIATE_TEST_SUITE_P(Systems, WindowsContract, ::testing::ValuesIn(Systems()), KindName);
 
-TEST_P(WindowsContract, ThereIsOneMainWindowAndItUnloadsOnce) {
+TEST_F(WindowsContract, ThereIsOneMainWindowAndItUnloadsOnce) {
   MainWindowEvents others;
   EXPECT_EQ(windows_.CreateMainWindow(L"Second", others), 0);
   windows_.DestroyMainWindow(window_);
@@ -50,7 +49,7 @@ TEST_P(WindowsContract, ThereIsOneMainWindowAndItUnloadsOnce) {
   EXPECT_EQ(windows_.SendText(window_, 1, L"text"), 0);
 }
 
-TEST_P(WindowsContract, RegisteredMessagesArePostedOrSentToTheHook) {
+TEST_F(WindowsContract, RegisteredMessagesArePostedOrSentToTheHook) {
   const std::uint32_t number = windows_.RegisterWindowMessageA(L"!CONTRACT!ONE!");
   EXPECT_GE(number, 0xC000U);
   EXPECT_EQ(windows_.RegisterWindowMessageA(L"!CONTRACT!ONE!"), number);
@@ -65,7 +64,7 @@ TEST_P(WindowsContract, RegisteredMessagesArePostedOrSentToTheHook) {
   EXPECT_EQ(heard_, Texts({"5 6", "1 -2", "3 4"}));
 }
 
-TEST_P(WindowsContract, AHookStandsAheadOfTheWindowAndMayTakeItselfAwayWhileItRuns) {
+TEST_F(WindowsContract, AHookStandsAheadOfTheWindowAndMayTakeItselfAwayWhileItRuns) {
   const auto press = [this] { windows_.SendMessageA(window_, kMessageMouseMove, 1, kMessageRightButtonUp); };
   press();
   Hook(kMessageMouseMove, {true, 0});
@@ -82,7 +81,7 @@ TEST_P(WindowsContract, AHookStandsAheadOfTheWindowAndMayTakeItselfAwayWhileItRu
   EXPECT_EQ(heard_, Texts({"tray 517", "1 517", text, "tray 517", "tray 517"}));
 }
 
-TEST_P(WindowsContract, ATextArrivesWholeWithItsNumber) {
+TEST_F(WindowsContract, ATextArrivesWholeWithItsNumber) {
   EXPECT_EQ(windows_.SendText(window_, 3, L"nobody takes it"), 0);
   Hook(kMessageCopyData, {true, 7});
   const std::wstring text = L" /ADD C:\\Caf\u00E9 \u0416" + std::wstring(100'000, L'x');
@@ -92,7 +91,7 @@ TEST_P(WindowsContract, ATextArrivesWholeWithItsNumber) {
   EXPECT_EQ(heard_, Texts({sender + " 3" + ToUtf8(text), sender + " 4"}));
 }
 
-TEST_P(WindowsContract, PostedWorkRunsInOrderNotAtOnceAndNoneIsLost) {
+TEST_F(WindowsContract, PostedWorkRunsInOrderNotAtOnceAndNoneIsLost) {
   windows_.Post(Noting("first"));
   windows_.Post([this] {
     Note("second begins");
@@ -110,7 +109,7 @@ TEST_P(WindowsContract, PostedWorkRunsInOrderNotAtOnceAndNoneIsLost) {
   EXPECT_EQ(heard_.size(), 5 + kMuch);
 }
 
-TEST_P(WindowsContract, LaterWorkRunsInTheOrderOfItsTimeAndTheLoopEndsWithTheWindow) {
+TEST_F(WindowsContract, LaterWorkRunsInTheOrderOfItsTimeAndTheLoopEndsWithTheWindow) {
   windows_.PostLater(100, [this] { windows_.DestroyMainWindow(window_); });
   windows_.PostLater(40, Noting("second"));
   windows_.PostLater(0, Noting("first"));

@@ -1,153 +1,167 @@
-// What only the local machine has: that it lasts, and that a test rules its drives, shares and faults.
-#include "platform/characters.h"
-#include "tests/platform/local_test.h"
+// What other tests believe of the local machine without seeing it themselves: that it fails what wasn't expected,
+// counts what it is asked for, and lasts.
+#include "platform/local/machine.h"
 
-namespace burrowmark {
+#include <gtest/gtest.h>
+
+#include "core/registry.h"
+#include "tests/support/scratch_machine.h"
+#include "ui/command_button.h"
+#include "ui/common_dialog.h"
+#include "ui/form.h"
+#include "ui/menu.h"
+
+namespace burrowmark::test {
 namespace {
 
 using namespace std::string_literals;
 
-class LocalMachineTest : public LocalTest {
+constexpr MenuRow kMenus[] = {{0, L"mnuEdit", L"&Edit"},
+                              {1, L"mnuCut", L"Cu&t"},
+                              {1, L"mnuCopy", L"&Copy"},
+                              {1, L"mnuMore", L"&More"},
+                              {2, L"mnuPaste", L"&Paste"}};
+
+class LocalMachineTest : public ::testing::Test, protected ScratchMachine {
  protected:
-  // What a value holds, or the result of the call that failed.
-  static std::wstring ValueOf(LocalRegistry& registry, const std::wstring& subKey, const std::wstring& name) {
-    RegistryKey key = RegistryKey::kNone;
-    std::uint32_t type = 0;
-    std::wstring data;
-    std::int32_t result = registry.RegOpenKeyExA(RegistryKey::kCurrentUser, subKey, kRegRead, key);
-    if (result == kErrorSuccess) result = registry.RegQueryValueExA(key, name, 1024, type, data);
-    registry.RegCloseKey(key);
-    return result == kErrorSuccess ? data : std::to_wstring(result);
+  LocalMachineTest() {
+    form_.SetCaption(L"Form");
+    menus_[L"mnuCut"].SetEnabled(false);
+    menus_[L"mnuCopy"].SetVisible(false);
   }
-  static std::int32_t SetValue(LocalRegistry& registry, const std::wstring& subKey, const std::wstring& name,
-                               std::uint32_t type, const std::wstring& data) {
-    RegistryKey key = RegistryKey::kNone;
-    std::int32_t result = registry.RegCreateKeyA(RegistryKey::kCurrentUser, subKey, key);
-    if (result == kErrorSuccess) result = registry.RegSetValueExA(key, name, type, data);
-    registry.RegCloseKey(key);
-    return result;
+  // What the machine says of something that must have thrown.
+  std::string Complaint(const std::function<void()>& act) {
+    EXPECT_THROW(act(), std::logic_error);
+    return machine.user.TakeComplaints();
+  }
+  void Ask(const std::wstring& text, std::uint32_t style = kBoxYesNoCancel) {
+    machine.dialogs.MessageBoxA(0, text, L"Title", style);
   }
 
-  Faults& faults_ = machine_.faults;
-  LocalFileSystem& files_ = machine_.files;
+  Form form_{app.platform.windows, L"frmTest", Size{3000, 1500}};
+  CommandButton button_{form_, L"cmdGo", Box{150, 150, 1200, 375}, L"&Go"};
+  FormMenus menus_{form_, kMenus};
+  LocalUser& user_ = machine.user;
 };
 
-TEST_F(LocalMachineTest, AMachineOpenedAgainIsAsItWasLeft) {
-  ASSERT_TRUE(Make(L"C:\\Kept \u0416.txt", "content"));
-  ASSERT_TRUE(files_.SetFileAttributesA(L"C:\\kept \u0436.TXT", kFileReadOnly | kFileHidden));
-  ASSERT_TRUE(files_.MarkCompressed(L"C:\\Windows"));
-  const std::wstring odd = L"\"a\"\r\n\\b^{41}[\u0416]\0\0"s;
-  EXPECT_EQ(SetValue(machine_.registry, L"Software\\[Odd]\n\"Key\"", odd.substr(0, 8), kRegSz, odd), kErrorSuccess);
-  EXPECT_EQ(SetValue(machine_.registry, L"Software\\B", L"number", kRegDword, L"\1\2\3\xFF"s), kErrorSuccess);
-
-  LocalMachine again(folder_);
-  EXPECT_EQ(again.BytesOf(L"c:\\KEPT \u0416.txt"), "content");
-  EXPECT_EQ(again.faults.Calls(), 0U) << "neither opening the machine nor a look at its disk is a call";
-  EXPECT_EQ(again.files.GetFileAttributesA(L"C:\\Kept \u0416.txt"), kFileReadOnly | kFileHidden);
-  EXPECT_EQ(again.files.GetFileAttributesA(L"C:\\Windows"), kFileCompressed | kFileDirectory);
-  EXPECT_EQ(ValueOf(again.registry, L"software\\[odd]\n\"KEY\"", odd.substr(0, 8)), odd);
-  EXPECT_EQ(ValueOf(again.registry, L"Software\\B", L"NUMBER"), L"\1\2\3\xFF"s);
-  EXPECT_EQ(SetValue(again.registry, L"Software\\B", L"text", kRegSz, L"two\0"s), kErrorSuccess);
-  EXPECT_EQ(ValueOf(machine_.registry, L"Software\\B", L"text"), L"two\0"s) << "another process may have written it";
+TEST_F(LocalMachineTest, ABoxThatIsNotAsExpectedFails) {
+  EXPECT_EQ(Complaint([this] { Ask(L"Surprise"); }), "a box that nobody expected: Surprise\n");
+  user_.NextBox(L"delete", kAnswerYes);
+  EXPECT_NE(Complaint([this] { Ask(L"Do you want to keep it?"); }).find("keep it"), std::string::npos);
+  user_.NextBox(L"", kAnswerYes);
+  EXPECT_NE(Complaint([this] { Ask(L"Gone.", kBoxOk); }).find("button"), std::string::npos);
+  user_.NextBox(L"never shown", kAnswerYes);
+  EXPECT_EQ(user_.TakeComplaints(), "a box that never came: never shown\n");
 }
 
-TEST_F(LocalMachineTest, DamagedLinesOfTheRegistryFileAreLostAloneAndNothingElse) {
-  std::ofstream(folder_ / "registry.txt", std::ios::app | std::ios::binary)
-      << "[HKEY_CURRENT_USER\\Software\\Edited]\n"
-         "\"no type\" \"x\"\n\"open\" text \"x\n\"word\" number abc\nrubbish\n\"\n\"escape\" text \"^{}\"\n"
-         "\"good\" text \"kept\"\n[unclosed\n\"lost\" number 1";
-  EXPECT_EQ(ValueOf(machine_.registry, L"Software\\Edited", L"good"), L"kept");
-  for (const wchar_t* name : {L"no type", L"open", L"word", L"escape", L"lost"}) {
-    EXPECT_EQ(ValueOf(machine_.registry, L"Software\\Edited", name), std::to_wstring(kErrorFileNotFound));
-  }
+TEST_F(LocalMachineTest, AFileDialogThatIsNotAsExpectedFails) {
+  CommonDialog dialog(app.platform.dialogs, form_);
+  dialog.DialogTitle = L"Open";
+  EXPECT_EQ(Complaint([&] { dialog.ShowOpen(); }), "a file dialog that nobody expected: Open\n");
+  user_.NextFile(L"Save", L"C:\\File");
+  EXPECT_EQ(Complaint([&] { dialog.ShowOpen(); }),
+            "a file dialog that nobody expected: Open\na file dialog that never came: Save\n");
 }
 
-TEST_F(LocalMachineTest, DrivesComeAndGoWithTheirFiles) {
-  EXPECT_THROW(machine_.AddFile(L"D:\\x"), std::runtime_error);
-  ASSERT_TRUE(machine_.drives.Add(L'D'));
-  machine_.AddFile(L"D:\\folder\\x", "on D");
-  EXPECT_FALSE(files_.MoveFileExA(L"D:\\folder\\x", L"C:\\x")) << "a move never leaves its drive";
-  ASSERT_TRUE(machine_.drives.TakeMediumOut(L'D'));
-  EXPECT_TRUE(files_.DriveExists(L"d:\\"));
-  EXPECT_FALSE(files_.FileExists(L"D:\\folder\\x"));
-  ASSERT_TRUE(machine_.drives.Remove(L'D'));
-  EXPECT_FALSE(files_.DriveExists(L"D"));
-  ASSERT_TRUE(machine_.drives.Add(L'D'));
-  EXPECT_EQ(machine_.BytesOf(L"D:\\folder\\x"), "on D");
-  machine_.AddFile(L"\\\\Server\\Share\\Folder\\x", "far");
-  EXPECT_TRUE(files_.FileExists(L"\\\\server\\SHARE\\folder\\X"));
-  for (const wchar_t* path : {L"\\\\Server", L"\\\\server\\other"}) EXPECT_FALSE(files_.FolderExists(path));
+TEST_F(LocalMachineTest, AWindowThatIsNotAsExpectedOrStaysOpenFails) {
+  const auto nothing = [](ShownWindow&) {};
+  const auto show = [this] { form_.Show(Modal); };
+  EXPECT_EQ(Complaint(show), "a window that nobody expected: Form\n");
+  form_.Unload();
+  user_.NextWindow(L"Other", nothing);
+  EXPECT_EQ(Complaint(show), "a window that nobody expected: Form\na window that never came: Other\n");
+  form_.Unload();
+  user_.NextWindow(L"Form", nothing);
+  EXPECT_EQ(Complaint(show), "a window that is still open: Form\n");
+  form_.Unload();
+  user_.NextWindow(L"Form", [](ShownWindow& window) { window.Click(L"Missing"); });
+  EXPECT_EQ(Complaint(show), "in the window Form: there is no button Missing\n");
 }
 
-TEST_F(LocalMachineTest, TheDriveListTouchesNoServerAndNoMediumThatCanBeTakenOut) {
-  const std::pair<wchar_t, DriveFacts> rows[] = {{L'C', {kDriveTypeFixed, L"System [1]\u0416", {}}},
-                                                 {L'D', {kDriveTypeCompactDisc, L"MUSIC", {}}},
-                                                 {L'E', {kDriveTypeFixed, L"", {}}},
-                                                 {L'U', {kDriveTypeRemovable, L"stick", {}}},
-                                                 {L'X', {kDriveTypeRemote, L"far away", L"\\\\Server\\Share"}}};
-  for (const auto& [letter, facts] : rows) {
-    EXPECT_TRUE(machine_.drives.Has(letter) || machine_.drives.Add(letter));
-    EXPECT_TRUE(machine_.drives.SetFacts(letter, facts));
-  }
-  const std::vector<std::wstring> expected = {L"c: [System [1]\u0416]", L"d:", L"e:", L"u:", L"x: [\\\\Server\\Share]"};
-  EXPECT_EQ(files_.DriveList(), expected);
-  EXPECT_EQ(LocalMachine(folder_).files.DriveList(), expected);
-  for (const wchar_t letter : {L'D', L'U', L'X'}) EXPECT_EQ(machine_.drives.MediumTouches(letter), 0U);
-  std::wstring label;
-  EXPECT_TRUE(files_.GetVolumeInformationA(L"d:", label));
-  EXPECT_EQ(label, L"MUSIC");
-  files_.FolderExists(L"u:\\");
-  for (const wchar_t letter : {L'D', L'U'}) EXPECT_EQ(machine_.drives.MediumTouches(letter), 1U);
-  ASSERT_TRUE(machine_.drives.TakeMediumOut(L'D'));
-  EXPECT_FALSE(files_.GetVolumeInformationA(L"D:", label));
+TEST_F(LocalMachineTest, AnEntryThatCannotBeChosenAndAPopupThatIsNotAsExpectedFail) {
+  form_.Show();
+  const MenuPath paths[] = {
+      {}, {L"Edit"}, {L"Edit", L"Cut"}, {L"Edit", L"Copy"}, {L"Missing"}, {L"Edit", L"More", L"Paste", L"Deeper"}};
+  for (const MenuPath& path : paths) EXPECT_THROW(user_.Window(L"Form").ChooseMenu(path), std::logic_error);
+  const auto popUp = [this] { menus_.PopupMenu(L"mnuEdit"); };
+  EXPECT_EQ(Complaint(popUp), "a popup that nobody expected\n");
+  user_.NextPopup(MenuPath{L"Cut"});
+  EXPECT_EQ(Complaint(popUp), "in a popup: the menu entry is disabled: Cut\n");
+  user_.NextPopup(MenuPath{L"Cut"});
+  EXPECT_EQ(user_.TakeComplaints(), "popups that never came: 1\n");
 }
 
-TEST_F(LocalMachineTest, CallsOfFilesAndRegistryAreCountedAndFailFromTheMomentOfSetting) {
-  const auto failures = [this] {
-    std::string failed;
-    for (int call = 1; call <= 5; ++call) {
-      const bool done = call % 2 == 0 ? files_.FileExists(L"C:\\Windows\\explorer.exe")
-                                      : machine_.registry.RegCloseKey(RegistryKey::kCurrentUser) == kErrorSuccess;
-      if (!done) failed += std::to_string(call);
-    }
-    return failed;
+TEST_F(LocalMachineTest, AMenuThatIsNotAsExpectedFailsAndIsMeasuredOnceForEachChangeAndScale) {
+  constexpr std::int32_t kDrawn = kMenuByPosition | kMenuOwnerDrawn;
+  MainWindowEvents events;
+  const WindowHandle window = machine.windows.CreateMainWindow(L"Test", events);
+  LocalMenus& menus = machine.menus;
+  const MenuHandle root = menus.GetSubMenu(menus.GetMenu(window), 0);
+  ASSERT_TRUE(menus.ModifyMenuA(root, 0, kDrawn, 1, L"Alpha") && menus.InsertMenuA(root, 1, kDrawn, 2, L"Beta"));
+  int measured = 0;
+  machine.windows.SetWindowHook(window, [&measured](WindowMessage& message) {
+    measured += message.measure != nullptr ? 1 : 0;
+    return MessageResult();
+  });
+  const auto open = [&](const MenuActions& actions) {
+    measured = 0;
+    user_.NextMenu(actions);
+    menus.TrackPopupMenu(root, window, 0);
+    return measured;
   };
-  EXPECT_EQ(failures(), "");
-  faults_.FailCall(3);
-  EXPECT_EQ(failures(), "3");
-  EXPECT_EQ(faults_.Calls(), 5U);
-  EXPECT_EQ(faults_.Record()[1], "FileExists C:\\Windows\\explorer.exe");
-  faults_.FailFrom(4);
-  EXPECT_EQ(failures(), "45");
-  EXPECT_EQ(faults_.Failed(), 2U);
-  faults_.Clear();
-  EXPECT_EQ(failures(), "");
+  EXPECT_NE(Complaint([&] { menus.TrackPopupMenu(root, window, 0); }).find("nobody expected"), std::string::npos);
+  for (const MenuActions& actions : {MenuActions{L"Nowhere"}, MenuActions({L"Alpha"}).Press(MenuKey::kDown)}) {
+    EXPECT_NE(Complaint([&] { open(actions); }), "");
+  }
+  open({L"Alpha"});
+  EXPECT_EQ(open({L"Alpha"}), 0);
+  ASSERT_TRUE(menus.ModifyMenuA(root, 1, kDrawn, 2, L"Gamma"));
+  EXPECT_EQ(open({L"Alpha"}), 1);
+  machine.windows.Dpi = 144;
+  EXPECT_EQ(open({L"Alpha"}), 2);
+  machine.windows.DestroyMainWindow(window);
+  EXPECT_EQ(menus.LiveMenus(), 0U);
 }
 
-TEST_F(LocalMachineTest, StandingFaultsOfTheDiskAndTheRegistry) {
-  faults_.DiskRoom = 10;
-  const std::unique_ptr<OutputFile> file = files_.CreateNewFile(L"C:\\a");
-  EXPECT_TRUE(file->Write("12345"));
-  EXPECT_FALSE(file->Write("6789012"));
-  EXPECT_TRUE(file->Close());
-  EXPECT_EQ(machine_.BytesOf(L"C:\\a"), "1234567890") << "a full disk cuts a write short";
-  EXPECT_FALSE(files_.CopyFileA(L"C:\\a", L"C:\\b", true));
-  EXPECT_FALSE(files_.FileExists(L"C:\\b"));
-  faults_.Clear();
+TEST_F(LocalMachineTest, ALoopThatCouldNeverEndFails) {
+  MainWindowEvents events;
+  machine.windows.CreateMainWindow(L"Test", events);
+  EXPECT_THROW(machine.windows.RunLoop(), std::logic_error);
+  const std::function<void()> again = [&] { machine.windows.PostLater(1000, again); };
+  machine.windows.Post(again);
+  EXPECT_THROW(machine.windows.RunLoop(), std::logic_error) << "it only waits and waits";
+}
 
-  machine_.AddFolders(L"C:\\Closed\\Below");
-  faults_.FoldersWithoutNewFiles.insert(L"C:\\CLOSED");
-  EXPECT_FALSE(files_.CreateNewFile(L"C:\\closed\\new"));
-  EXPECT_FALSE(files_.CopyFileA(L"C:\\a", L"C:\\Closed\\new", true));
-  EXPECT_FALSE(files_.MoveFileExA(L"C:\\a", L"C:\\Closed\\new"));
-  EXPECT_TRUE(Make(L"C:\\Closed\\Below\\new", ""));
+TEST_F(LocalMachineTest, WhatIsAskedOfItIsCounted) {
+  LocalDrawing& drawing = machine.drawing;
+  const BrushHandle brush = drawing.CreateSolidBrush(0x112233);
+  EXPECT_EQ(drawing.LiveBrushes(), 1U);
+  EXPECT_TRUE(drawing.DeleteObject(brush));
+  EXPECT_FALSE(drawing.DeleteObject(brush));
+  EXPECT_EQ(drawing.LiveBrushes() + drawing.FailedDeletes(), 1U);
+  machine.faults.FailFrom(2);
+  EXPECT_TRUE(machine.files.FileExists(L"C:\\Windows\\explorer.exe"));
+  EXPECT_NE(machine.registry.RegCloseKey(RegistryKey::kCurrentUser), kErrorSuccess);
+  EXPECT_EQ(machine.faults.Calls() + machine.faults.Failed(), 3U);
+  EXPECT_EQ(machine.faults.Record()[0], "FileExists C:\\Windows\\explorer.exe");
+  machine.faults.Clear();
+}
 
-  EXPECT_EQ(SetValue(machine_.registry, L"Locked\\Below", L"x", kRegSz, L"kept"), kErrorSuccess);
-  faults_.RefusedKeys.insert(L"HKEY_CURRENT_USER\\LOCKED");
-  EXPECT_EQ(SetValue(machine_.registry, L"locked\\below", L"x", kRegSz, L"new"), kErrorAccessDenied);
-  EXPECT_EQ(SetValue(machine_.registry, L"Locked too", L"x", kRegSz, L"new"), kErrorSuccess);
-  EXPECT_EQ(ValueOf(machine_.registry, L"Locked\\Below", L"x"), L"kept") << "it can still be read";
+TEST_F(LocalMachineTest, AMachineOpenedAgainIsAsItWasLeft) {
+  const std::wstring odd = L"\"a\"\r\n\\b^{41}[\u0416]"s;
+  machine.AddFile(L"C:\\Kept \u0416.txt", "content");
+  ASSERT_TRUE(machine.files.SetFileAttributesA(L"C:\\kept \u0436.TXT", kFileReadOnly | kFileHidden));
+  Register(L"Software\\[Odd]\n\"Key\"", odd, odd);
+  ASSERT_TRUE(machine.drives.Add(L'E') && machine.drives.SetFacts(L'E', {kDriveTypeFixed, L"LABEL", {}}));
+  LocalMachine again(folder.Path());
+  EXPECT_EQ(again.BytesOf(L"c:\\KEPT \u0416.txt"), "content");
+  EXPECT_EQ(again.files.GetFileAttributesA(L"C:\\Kept \u0416.txt"), kFileReadOnly | kFileHidden);
+  std::wstring text;
+  EXPECT_TRUE(
+      clsRegHandler(again.registry).GetKeyValue(RegistryKey::kCurrentUser, L"software\\[odd]\n\"KEY\"", odd, text));
+  EXPECT_EQ(text, odd);
+  EXPECT_EQ(again.files.DriveList(), (std::vector<std::wstring>{L"c:", L"e: [LABEL]"}));
 }
 
 }  // namespace
-}  // namespace burrowmark
+}  // namespace burrowmark::test

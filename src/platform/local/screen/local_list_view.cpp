@@ -62,7 +62,9 @@ void LocalListView::ColumnChanged(std::int32_t) {
 }
 
 void LocalListView::RowAdded(std::int32_t row) {
-  list_->rows.insert(std::next(list_->rows.begin(), row), Control().Row(row));
+  list_->rows.insert(std::next(list_->rows.begin(), row), ListItemState());
+  RowChanged(row);
+  RowStateChanged(row);
   if (list_->current >= row) ++list_->current;
   if (edited_ >= row) ++edited_;
   if (list_->drop >= row) ++list_->drop;
@@ -71,6 +73,7 @@ void LocalListView::RowAdded(std::int32_t row) {
 
 void LocalListView::RowRemoved(std::int32_t row) {
   list_->rows.erase(std::next(list_->rows.begin(), row));
+  if (stale_ && *stale_ > row) --*stale_;
   if (list_->current > row) --list_->current;
   if (list_->drop > row) --list_->drop;
   if (edited_ > row) --edited_;
@@ -79,6 +82,7 @@ void LocalListView::RowRemoved(std::int32_t row) {
 
 void LocalListView::RowsCleared() {
   list_->rows.clear();
+  stale_.reset();
   list_->current = -1;
   list_->drop = -1;
   Drawn();
@@ -89,6 +93,7 @@ void LocalListView::RowsMoved(const std::vector<std::int32_t>& before) {
   moved.reserve(before.size());
   for (const std::int32_t row : before) moved.push_back(std::move(Row(row)));
   list_->rows = std::move(moved);
+  if (stale_) stale_ = 0;
   const auto follow = [&before](std::int32_t& row) {
     if (row >= 0) row = static_cast<std::int32_t>(std::find(before.begin(), before.end(), row) - before.begin());
   };
@@ -99,10 +104,23 @@ void LocalListView::RowsMoved(const std::vector<std::int32_t>& before) {
 }
 
 void LocalListView::RowChanged(std::int32_t row) {
+  Drawn();
+  if (updates_ > 0) {
+    stale_ = std::min(stale_.value_or(row), row);
+  } else {
+    ReadRow(row);
+  }
+}
+
+void LocalListView::ReadRow(std::int32_t row) {
   const bool selected = Row(row).selected;
   Row(row) = Control().Row(row);
   Row(row).selected = selected;
-  Drawn();
+}
+
+void LocalListView::EndUpdate() {
+  if (--updates_ > 0 || !stale_) return;
+  for (std::int32_t row = *std::exchange(stale_, std::nullopt); HasRow(row); ++row) ReadRow(row);
 }
 
 void LocalListView::RowStateChanged(std::int32_t row) {

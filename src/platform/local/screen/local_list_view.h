@@ -25,8 +25,8 @@ class LocalListView final : public LocalControl<ListViewPeer, ListViewState> {
   void EnsureVisible(std::int32_t) override {}  // all rows are in view
   void StartLabelEdit(std::int32_t row) override;
   void CancelLabelEdit() override;
-  void BeginUpdate() override {}
-  void EndUpdate() override {}
+  void BeginUpdate() override { ++updates_; }
+  void EndUpdate() override;
   std::int32_t HitTest(std::int32_t x, std::int32_t y) const override;
 
  private:
@@ -46,11 +46,14 @@ class LocalListView final : public LocalControl<ListViewPeer, ListViewState> {
   void MakeCurrent(std::int32_t row);
   void SelectOnly(std::int32_t first, std::int32_t last);
   void Drawn();
+  void ReadRow(std::int32_t row);
 
   std::shared_ptr<ShownList> list_ = std::make_shared<ShownList>();
   std::shared_ptr<bool> willDraw_ = std::make_shared<bool>(false);
   std::int32_t anchor_ = 0;                // where a range of rows begins
   std::int32_t edited_ = -1;               // the row whose label is edited
+  int updates_ = 0;                        // that are going on
+  std::optional<std::int32_t> stale_;      // the first row that changed meanwhile
   std::optional<std::int32_t> leftAlone_;  // pressed without a change of what is selected
   bool pressed_ = false;
 };
