@@ -7,9 +7,8 @@ namespace burrowmark {
 namespace {
 
 class BesideContract : public ContractTest {};
-INSTANTIATE_TEST_SUITE_P(Systems, BesideContract, ::testing::ValuesIn(Systems()), KindName);
 
-TEST_P(BesideContract, ATextGoesToTheClipboardAndBack) {
+TEST_F(BesideContract, ATextGoesToTheClipboardAndBack) {
   Clipboard& clipboard = platform_.clipboard;
   for (const wchar_t* text : {L"C:\\D\u043E\u043C \u00E9", L"", L"one\r\ntwo\t"}) {
     ASSERT_TRUE(clipboard.SetText(text));
@@ -23,7 +22,7 @@ TEST_P(BesideContract, ATextGoesToTheClipboardAndBack) {
   EXPECT_EQ(clipboard.GetText(), L"one\r\ntwo\t");
 }
 
-TEST_P(BesideContract, WorkIsDoneBesideTheLoopWhichHearsOfItsEnd) {
+TEST_F(BesideContract, WorkIsDoneBesideTheLoopWhichHearsOfItsEnd) {
   constexpr int kTries = 500;
   std::string told;
   std::atomic<bool> worked = false;
@@ -34,7 +33,7 @@ TEST_P(BesideContract, WorkIsDoneBesideTheLoopWhichHearsOfItsEnd) {
   EXPECT_EQ(told, "done");
 }
 
-TEST_P(BesideContract, NobodyWaitsForWorkLongerThanHeSaid) {
+TEST_F(BesideContract, NobodyWaitsForWorkLongerThanHeSaid) {
   const auto worked = std::make_shared<std::atomic<int>>(0);
   const auto work = [worked] { ++*worked; };
   EXPECT_TRUE(platform_.workers.RunWithin(3000, work));
