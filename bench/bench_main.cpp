@@ -25,6 +25,8 @@ constexpr Ratio kRatios[] = {
     {"Projection/3000", "Projection/300"},
     {"OpenTheEditor/3000", "OpenTheEditor/300"},
     {"RefreshThePanes/3000", "RefreshThePanes/300"},
+    {"CopyAndPasteAGroup/10000", "CopyAndPasteAGroup/1000"},
+    {"TakeAPasteBack/10000", "TakeAPasteBack/1000"},
     {"ReadRecords/10000", "BareSplit/10000"},
     {"WriteRecords/10000", "BareCopy/10000"},
 };

@@ -250,6 +250,12 @@ ItemRef clsMenuCollection::GetSecondChild(const std::wstring& OwnerName, const s
 
 bool clsMenuCollection::HasChildren(const std::wstring& Name) const { return !list_.Under(Name).Empty(); }
 
+std::vector<ItemRef> clsMenuCollection::Children(const std::wstring& OwnerName) const {
+  std::vector<ItemRef> children;
+  for (const ListEntry* entry : list_.Under(OwnerName).All()) children.push_back(entry->item);
+  return children;
+}
+
 std::int32_t clsMenuCollection::ChildrenNumber(const std::wstring& Name) const {
   return Number(list_.Under(Name).All().Size());
 }

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 #include "core/keyed_items.h"
 #include "core/menu_item.h"
@@ -100,6 +101,8 @@ class clsMenuCollection {
   // The first entry behind the owner that it owns and that isn't the child.
   ItemRef GetSecondChild(const std::wstring& OwnerName, const std::wstring& ChildName) const;
   bool HasChildren(const std::wstring& Name) const;
+  // What an owner holds itself, in order.
+  std::vector<ItemRef> Children(const std::wstring& OwnerName) const;
   std::int32_t ChildrenNumber(const std::wstring& Name) const;
 
   // Works out `ItemPath` and `ItemLocation` from the owners' titles.

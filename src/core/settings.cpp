@@ -78,4 +78,9 @@ void SaveSettings(Application& app) {
   }
 }
 
+void SaveSetting(Application& app, Appearance setting) {
+  clsRegHandler(app.platform.registry)
+      .SetKeyValue(kUser, kSettingsKey, SettingName(setting), BooleanNumberText(app.AC[setting]));
+}
+
 }  // namespace burrowmark

@@ -17,5 +17,7 @@ std::wstring SettingName(Advanced setting);
 void LoadSettings(Application& app);
 // Writes all settings, and the entry that starts the program with the user's session. Failures are passed over.
 void SaveSettings(Application& app);
+// Writes one of them.
+void SaveSetting(Application& app, Appearance setting);
 
 }  // namespace burrowmark

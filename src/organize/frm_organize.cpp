@@ -19,21 +19,7 @@ namespace {
 constexpr Size kDesign{12000, 8000};
 constexpr wchar_t kTitle[] = L"Organize Folders";
 constexpr wchar_t kMessageTitle[] = L"Burrowmark";
-constexpr wchar_t kDrivesText[] = L"Content of Drives group is automatically generated and cannot be edited.";
 constexpr std::int32_t kIcon = 7;  // "Organize Folders" in the menu
-
-struct Column {
-  const wchar_t* text;
-  std::int32_t width;
-};
-
-constexpr Column kColumns[] = {
-    {L"Name", 2700},        {L"Type", 1900},     {L"Keyboard Shortcut", 1800}, {L"Target Location", 3900},
-    {L"Description", 2600}, {L"Modified", 2000}, {L"Created", 2000},
-};
-
-// The images of items by their number: the program's first thirteen icons.
-ImageList ItemImages(std::int32_t size) { return {size, {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13}}; }
 
 ToolbarButtonState Button(const wchar_t* key, std::int32_t image) {
   ToolbarButtonState button;
@@ -66,33 +52,16 @@ std::vector<ToolbarButtonState> ToolbarButtons() {
           std::move(properties)};
 }
 
-std::vector<StatusPanelState> StatusPanels() { return {{L"", 0, 2700}, {L"", 0, 2700}, {L"", 0, 0}}; }
-
 }  // namespace
 
 frmOrganize::frmOrganize(Application& app)
     : ProgramForm(app, ProgramWindow::kOrganize, L"frmOrganize", kDesign),
       tlbMain(*this, L"tlbMain", ToolbarButtons()),
-      txtInfoDrives(*this, L"txtInfoDrives", Box{}, kDrivesText),
-      stbMain(*this, L"stbMain", StatusPanels()),
       menus_(*this, MenuRows()) {
   SetBorder(FormBorder::kSizable);
   SetCaption(kTitle);
   SetIcon(kIcon);
   SetKeyPreview(true);
-  for (const Column& column : kColumns) ListView1.AddColumn(column.text, column.width);
-  ListView1.SetImages(ItemImages(32), ItemImages(16));
-  ListView1.SetLabelEdit(true);
-  TreeView1.SetImages(ItemImages(16));
-  TreeView1.SetLabelEdit(true);
-  Picture1.SetVisible(false);
-  Picture1.SetBackColor(kColorShadow);
-  lblInfo.SetUseMnemonic(false);
-  txtInfoDrives.SetMultiLine(true);
-  txtInfoDrives.SetScrollBar(false);
-  txtInfoDrives.SetReadOnly(true);
-  txtInfoDrives.SetTabStop(false);
-  txtInfoDrives.SetVisible(false);
   ConnectPanes();
   ConnectLabels();
   ConnectBars();
@@ -137,20 +106,22 @@ void frmOrganize::Form_Activate() {
 }
 
 bool frmOrganize::InGesture() const {
-  return TreeView1.EditedNode() != nullptr || ListView1.EditedItem() != nullptr || SplitterDragging_;
+  return tree_.View.EditedNode() != nullptr || list_.View.EditedItem() != nullptr || splitter_.Dragging();
 }
 
 void frmOrganize::CancelGesture() {
-  TreeView1.CancelLabelEdit();
-  ListView1.CancelLabelEdit();
-  SplitterDragging_ = false;
-  Picture1.SetVisible(false);
+  tree_.View.CancelLabelEdit();
+  list_.View.CancelLabelEdit();
+  splitter_.CancelDrag();
 }
 
 void frmOrganize::Init(const std::wstring& Command) {
+  constexpr std::wstring_view kAdd = L"/ADD";
   constexpr std::wstring_view kOpen = L"/OPEN";
   const std::wstring command = Trim(Command);
-  if (command.starts_with(kOpen)) {
+  if (command.starts_with(kAdd)) {
+    NewItemInGroup(GroupForAdding(), MIT_PATH_EXPLORER, PathArgument(command.substr(kAdd.size())));
+  } else if (command.starts_with(kOpen)) {
     OpenConfigFile(PathArgument(command.substr(kOpen.size())));
   }
 }
@@ -162,7 +133,7 @@ void frmOrganize::SetFormCaption() {
 void frmOrganize::Form_KeyDown(std::int32_t& KeyCode, std::int32_t Shift) {
   if (KeyCode != kKeyCodeF6 || Shift != 0) return;
   KeyCode = 0;
-  TreeView1.HasFocus() ? ListView1.SetFocus() : TreeView1.SetFocus();
+  tree_.View.HasFocus() ? list_.View.SetFocus() : tree_.View.SetFocus();
 }
 
 }  // namespace burrowmark

@@ -1,13 +1,13 @@
 // "Organize Folders", the editor of the tree.
 //
-// It works on a copy of the menu's store, which takes that store's place when the window closes. Its two panes mirror
-// the copy and are never the truth.
+// It works on a copy of the menu's document, which takes that one's place when the window closes. The window holds the
+// document, two panes that mirror its tree, a strip and a bar that tell of what is selected, and the commands.
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
-#include <set>
 #include <span>
 #include <string>
 #include <vector>
@@ -15,17 +15,19 @@
 #include "config/config_file.h"
 #include "core/program_form.h"
 #include "core/progress.h"
+#include "organize/edit_history.h"
 #include "organize/enabling.h"
+#include "organize/item_clipboard.h"
+#include "organize/list_pane.h"
 #include "organize/organize_layout.h"
+#include "organize/paste.h"
+#include "organize/splitter.h"
+#include "organize/status_strip.h"
+#include "organize/tree_pane.h"
 #include "projection/organized_folders.h"
-#include "ui/label.h"
-#include "ui/list_view.h"
+#include "tools/network_drives.h"
 #include "ui/menu.h"
-#include "ui/picture_box.h"
-#include "ui/status_bar.h"
-#include "ui/text_box.h"
 #include "ui/toolbar.h"
-#include "ui/tree_view.h"
 
 namespace burrowmark {
 
@@ -36,7 +38,7 @@ class frmOrganize final : public ProgramForm {
   // Runs "/ADD path" or "/OPEN path" on the loaded window.
   void Init(const std::wstring& Command);
   void SetFormCaption();
-  // Fills the tree again; shows the node of that key, the first below the root for an empty one.
+  // Fills the panes again; shows the node of that key, the first below the root for an empty one.
   void RefreshViews(const std::wstring& Key, bool Expand);
   // Replaces what is edited by a file's content. False: everything is as it was.
   bool FuncConfigFileLoad(const std::wstring& Path);
@@ -49,18 +51,9 @@ class frmOrganize final : public ProgramForm {
   // Deletes a shortcut of the tree.
   void DeleteShortcut(const ItemRef& item);
 
-  // Patch single nodes and rows after a change of `WorkCollection`. One that isn't shown is nobody's fault.
-  // A node stands behind the nearest earlier sibling that has a node, else ahead of the nearest later one, else last.
-  void AddTreeNode(const clsMenuItem& item);
-  void RefreshTreeNode(const std::wstring& Key, const clsMenuItem& item);
-  void RemoveTreeNode(const std::wstring& Name);
-  // A row comes to the end, and turns the sorting off unless `Sorted` is true.
-  void AddListItem(const clsMenuItem& item, bool Ghosted, bool Sorted);
-  // Grey if the item was cut.
-  void AddListItemGhosted(const clsMenuItem& item);
-  void RefreshListItem(const std::wstring& Key, const clsMenuItem& item);
-  void SetListItemText(const std::wstring& Name, const std::wstring& text);
-  void RemoveListItem(const std::wstring& Name);
+  // Edits the tree. The panes follow, and the command of that name can be taken back as one step. A failure ends the
+  // edit where it stands.
+  void EditTree(const std::wstring& name, const std::function<void(TreeEdit&)>& edit);
 
   const std::shared_ptr<clsMenuCollection>& WorkCollection() const { return Edited.Store; }
   bool InGesture() const override;
@@ -84,8 +77,8 @@ class frmOrganize final : public ProgramForm {
   void Form_Activate() override;
   void Form_Resize() override;
   void Form_KeyDown(std::int32_t& KeyCode, std::int32_t Shift) override;
-  void Form_MouseDown(const MouseEvent& event) override;
-  void Form_MouseMove(const MouseEvent& event) override;
+  void Form_MouseDown(const MouseEvent& event) override { splitter_.MouseDown(event); }
+  void Form_MouseMove(const MouseEvent& event) override { splitter_.MouseMove(event); }
   void Form_MouseUp(const MouseEvent& event) override;
   void Form_SystemCommand(std::int32_t id) override;
   void ConnectPanes();
@@ -93,8 +86,7 @@ class frmOrganize final : public ProgramForm {
   void LoadLayout();
   void SaveLayout();
   void ArrangeControls();
-  void SetSplitterBounds();
-  void ResetSplitterCursor();
+  void SetTreeWidth(std::int32_t width);
   void SetStatusBarVisible(bool visible);
   void SetToolbarImages(bool large);
   void SetToolbarText(bool on);
@@ -102,7 +94,6 @@ class frmOrganize final : public ProgramForm {
   void ToggleToolbarText();
   void AddAlwaysOnTopItem();
   void StayOnTop(bool on);
-  bool IsOverSplitter(std::int32_t x) const;
 
   // --- closing (frm_organize_close.cpp)
   void Form_Unload(bool& Cancel) override;
@@ -132,40 +123,19 @@ class frmOrganize final : public ProgramForm {
   void SetDefaultCommand();
 
   // --- panes (frm_organize_views.cpp)
-  void FillTree();
-  bool HasNode(const clsMenuItem& item) const { return item.SubMenu() || layout_.AllLeftPane; }
-  void AddTreeNodeAt(const clsMenuItem& item, const std::wstring& neighbour, TreeRelation relation);
   void ShowSelectedNode(bool KeepList);
-  void ShowGroupInList();
-  void ListGroup(const std::wstring& group);
-  void ShowDrivesText();
-  void WriteColumns(ListItem& row, const clsMenuItem& item);
+  void ShowStatusOfNode(const TreeNode& node);
+  void SetStatusBarSelected();
   void ArrangeBy(std::int32_t Column);
-  void ClearSortMark();
   void ApplyView(const std::wstring& viewKey);
   void SetViewCheckMarks(const std::wstring& viewKey);
   void ToggleAllLeftPane();
   void RefreshCommand();
   void GoUp();
   void OpenSelectedListItem(bool NoOpen);
-  void EnsureCurrentListItem();
-  bool HasSelection() const { return ListView1.SelectedCount() > 0; }
   void SetAllListItemsSelected(bool selected);
-  void InvertSelection();
-
-  // --- status bar and the strip above the list (frm_organize_status.cpp)
-  struct StatusFacts {
-    std::int32_t Count = 0;
-    std::wstring Caption;
-    std::int32_t Image = 0;
-    bool Selected = false;
-    std::wstring TypeText;
-    std::wstring PathText;
-    std::wstring DetailText;
-  };
-  void SetStatusBar(StatusFacts facts);
-  void SetStatusBarSelected();
-  void ShowStatusOfNode(const TreeNode& node);
+  PanesState Panes() const;
+  void RestorePanes(const PanesState& panes);
 
   // --- what the mouse and the keyboard do in the panes (frm_organize_panes.cpp)
   void EnterTree();
@@ -175,11 +145,55 @@ class frmOrganize final : public ProgramForm {
   void TreeNodeClick();
   void TreeDblClick();
   void TreeKeyDown(std::int32_t& KeyCode);
+  bool PaneKeyDown(std::int32_t KeyCode);
   void ListMouseDown(const MouseEvent& event);
   void ListMouseUp();
   void ListItemClick(const ListItem& row);
   void ListClick();
   void ListKeyDown(std::int32_t& KeyCode);
+  void EscapeFromList();
+
+  // --- edits of the tree (frm_organize_edit.cpp)
+  struct GeneratedGroups {
+    bool SystemFolders = true;
+    bool Drives = true;
+  };
+  void FollowEdit(TreeEdit& edit);
+  void UndoCommand();
+  void SetGeneratedGroups(bool systemFolders, bool drives);
+  void ForgetEdits();
+  std::vector<ItemRef> SelectedItems();
+  void CutOrCopy(PasteMode mode);
+  void FuncCopy(PasteMode mode, bool Ghost);
+  void ClearClipboard();
+  void RefreshGhosts();
+  // An empty target is the selected node.
+  void PasteCommand(const std::wstring& target);
+  void FuncPaste(std::wstring target);
+  void ShowNewRows(const std::vector<ItemRef>& items);
+  void RefusePaste(const PastePlace& place);
+  void ShowSameDestinationError(const std::wstring& Name);
+  ClashAnswer AskAboutClash(const clsMenuItem& existing, const clsMenuItem& incoming);
+  void DeleteCommand();
+  void FuncDelete();
+  bool AskAboutGeneratedGroups(std::vector<ItemRef>& items);
+  bool ConfirmDelete(const std::wstring& Caption);
+  std::wstring RowBeside(const std::vector<ItemRef>& items) const;
+  void DeleteItems(const std::vector<ItemRef>& items);
+  void DeleteGeneratedGroup(TreeEdit& edit, const clsMenuItem& group);
+  void Inform(const std::wstring& text);
+
+  // --- single items (frm_organize_items.cpp)
+  void NewItem(const std::wstring& Kind);
+  void NewItemInGroup(const std::wstring& group, const std::wstring& Kind, const std::wstring& Path);
+  std::wstring GroupForAdding() const;
+  void ChangeCommand();
+  void ChangeItem(const ItemRef& item);
+  void ShowItemProperties(bool FromBackground);
+  void FuncPropertiesRefresh(TreeEdit& edit, const ItemRef& item, const clsMenuItem& copy, const ItemRef& hotKeyHolder);
+  std::vector<clsNetworkDrive> MappedDrives();
+  void CopyTargetLocations(bool complete);
+  void ShowFolderProperties(std::wstring Path);
 
   // --- renaming in place (frm_organize_rename.cpp)
   void ConnectLabels();
@@ -194,6 +208,7 @@ class frmOrganize final : public ProgramForm {
     std::wstring Key;
   };
   Target GetSelectedTarget() const;
+  std::wstring KeyForCommands() const;
   void SetMenuState(MenuKind Kind, const std::wstring& Key, std::int32_t Image, bool Expanded);
   void SetPopupState(const std::wstring& Key, std::int32_t Image, bool Expanded);
   void SetToolsState();
@@ -202,7 +217,7 @@ class frmOrganize final : public ProgramForm {
   void EnableMenu(const wchar_t* name, bool on);
   void EnableButton(const std::wstring& key, bool on);
   void SetToolbarState(const std::wstring& Key);
-  bool ClipboardEmpty() const { return !ClipboardItems_ || ClipboardItems_->Count() < 1; }
+  void SetToolbarPaste();
   void FollowActivePane();
   void ConnectMenus();
   static bool IsBuilt(std::wstring_view menu);
@@ -215,33 +230,23 @@ class frmOrganize final : public ProgramForm {
   std::int16_t ActivePane_ = 0;  // 0: the tree, 1: the list
   bool TreeActive_ = false;      // the pane that a command acts on
   bool ListActive_ = false;
-  std::wstring CurrentGroup_;  // whose items the list shows
-  std::int32_t SortColumn_ = 0;
   bool ListItemClicked_ = false;  // since the last button went down in the list
   bool NodeClicked_ = false;
   bool ListRightButton_ = false;
   bool TreeRightButton_ = false;
   bool FirstActivate_ = false;
-  bool SplitterDragging_ = false;
-  bool SplitterCursorSet_ = false;
   bool TreeWidthSet_ = false;
-  std::int32_t SplitterLeft_ = 0;
-  std::int32_t SplitterRight_ = 0;
   OrganizeLayout layout_;
-  std::optional<StatusFacts> lastStatus_;
-  std::shared_ptr<clsMenuCollection> ClipboardItems_;  // what was cut or copied
-  std::set<std::wstring> CutKeys_;                     // of the rows that a cut made grey
+  ItemClipboard ClipboardItems_;
+  EditHistory history_;
+  std::optional<GeneratedGroups> groupsBefore_;  // what the options asked for before edits that aren't saved
 
   // What lies above others comes first.
-  PictureBox Picture1{*this, L"Picture1", Box{}};
+  Splitter splitter_{*this};
   Toolbar tlbMain;
-  TreeView TreeView1{*this, L"TreeView1", Box{}};
-  PictureBox picInfoMain{*this, L"picInfoMain", Box{0, 0, 3000, 360}};
-  PictureBox picInfo{picInfoMain, L"picInfo", Box{60, 0, 240, 240}};
-  Label lblInfo{picInfoMain, L"lblInfo", Box{390, 0, 3000, 225}};
-  TextBox txtInfoDrives;
-  ListView ListView1{*this, L"ListView1", Box{}};
-  StatusBar stbMain;
+  TreePane tree_{*this, Edited, ClipboardItems_.CutKeys};
+  StatusStrip strip_{*this};
+  ListPane list_{*this, app_, Edited, ClipboardItems_.CutKeys};
   FormMenus menus_;
 };
 

@@ -36,6 +36,7 @@ void frmOrganize::Form_Unload(bool& Cancel) {
     Cancel = true;
     return;
   }
+  ForgetEdits();
   if (SavedToDefault || app_.MainDocument.CurrentConfigFile != app_.ConfigFile) FollowDefaultFile();
   Release();
 }
@@ -95,10 +96,10 @@ void frmOrganize::SaveForSessionEnd() {
 
 void frmOrganize::Release() {
   Edited = {};
-  ClipboardItems_.reset();
-  CutKeys_.clear();
-  TreeView1.Clear();
-  ListView1.Clear();
+  ClipboardItems_.Clear();
+  history_.Clear();
+  tree_.View.Clear();
+  list_.Release();
   app_.AlwaysOnTop = false;
   RefreshHotKeys(app_, app_.MainDocument.Store);
 }

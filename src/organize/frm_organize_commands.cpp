@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "core/hot_keys.h"
 #include "core/product.h"
 #include "menu/menu_actions.h"
@@ -23,12 +25,22 @@ static_assert(std::size(kRefreshMenus) == std::size(kProjectionTargets));
 
 frmOrganize::Target frmOrganize::GetSelectedTarget() const {
   if (ActivePane_ == 1) {
-    const ListItem* current = ListView1.SelectedItem();
-    const ListItem* row = current == nullptr || !current->Selected() ? ListView1.FirstSelected() : current;
+    const ListItem* current = list_.View.SelectedItem();
+    const ListItem* row = current == nullptr || !current->Selected() ? list_.View.FirstSelected() : current;
     return row == nullptr ? Target() : Target{row->Tag, row->Icon(), row->Key()};
   }
-  const TreeNode* node = TreeView1.SelectedItem();
+  const TreeNode* node = tree_.View.SelectedItem();
   return node == nullptr ? Target() : Target{node->Tag, node->Image(), node->Key()};
+}
+
+// Of several rows the one that most can be done to, since a command passes over those that it isn't for.
+std::wstring frmOrganize::KeyForCommands() const {
+  const std::wstring current = GetSelectedTarget().Key;
+  if (ActivePane_ != 1 || list_.View.SelectedCount() < 2) return current;
+  const std::vector<std::wstring> keys = list_.SelectedKeys();
+  return *std::min_element(keys.begin(), keys.end(), [](const std::wstring& left, const std::wstring& right) {
+    return KindOfTarget(left) < KindOfTarget(right);
+  });
 }
 
 void frmOrganize::FollowActivePane() {
@@ -42,7 +54,7 @@ void frmOrganize::SetMenuState(MenuKind Kind, const std::wstring& Key, std::int3
   const auto enable = [this, kind = KindOfTarget(Key)](std::span<const EnablingRow> rows) {
     for (const EnablingRow& row : rows) EnableMenu(row.name, row.IsOnFor(kind));
   };
-  const bool pastes = Key != MIT_HF_ROOT && !ClipboardEmpty();
+  const bool pastes = Key != MIT_HF_ROOT && !ClipboardItems_.Empty();
   switch (Kind) {
     case MenuKind::kPopup:
       EnableMenu(L"mnuPopupPaste", pastes);
@@ -82,8 +94,9 @@ void frmOrganize::SetToolsState() {
 }
 
 void frmOrganize::OpenEditMenu() {
-  const Target target = GetSelectedTarget();
-  SetMenuState(MenuKind::kEdit, target.Key, target.Image, true);
+  menus_[L"mnuEditUndo"].SetCaption(L"&Undo" + (history_.Empty() ? std::wstring() : L" " + history_.Name()));
+  EnableMenu(L"mnuEditUndo", !history_.Empty());
+  SetMenuState(MenuKind::kEdit, KeyForCommands(), GetSelectedTarget().Image, true);
 }
 
 void frmOrganize::OpenViewMenu() {
@@ -94,15 +107,17 @@ void frmOrganize::OpenViewMenu() {
 void frmOrganize::SetToolbarState(const std::wstring& Key) {
   const TargetKind kind = KindOfTarget(Key);
   for (const EnablingRow& row : ToolbarEnabling()) EnableButton(row.name, row.IsOnFor(kind));
-  EnableButton(L"keyPaste", kind != TargetKind::kRoot && !ClipboardEmpty());
+  EnableButton(L"keyPaste", kind != TargetKind::kRoot && !ClipboardItems_.Empty());
 }
+
+void frmOrganize::SetToolbarPaste() { EnableButton(L"keyPaste", !ClipboardItems_.Empty()); }
 
 // --- commands
 
 void frmOrganize::PopupExplore() {
   if (ListActive_) {
     OpenSelectedListItem(true);
-  } else if (TreeNode* node = TreeView1.SelectedItem(); TreeActive_ && node != nullptr) {
+  } else if (TreeNode* node = tree_.View.SelectedItem(); TreeActive_ && node != nullptr) {
     node->SetExpanded(!node->Expanded());
     ShowSelectedNode(false);
   }
@@ -132,15 +147,5 @@ void frmOrganize::RefreshProjection(const ProjectionTarget& place) {
 }
 
 void frmOrganize::OpenWebPage(const std::wstring& path) { OpenFile(app_, L"" BURROWMARK_WEB_SITE + path); }
-
-// The shortcut's folder is gone, and the user wants to be rid of it.
-void frmOrganize::DeleteShortcut(const ItemRef& item) {
-  const std::wstring name = item->Name();
-  WorkCollection()->Remove(name);
-  Edited.Changed = true;
-  RemoveListItem(name);
-  RemoveTreeNode(name);
-  RefreshHotKeysOf(app_, *WorkCollection());
-}
 
 }  // namespace burrowmark

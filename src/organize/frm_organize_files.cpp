@@ -30,6 +30,7 @@ bool frmOrganize::FuncConfigFileLoad(const std::wstring& Path) {
   const Hourglass busy(*this);
   std::optional<OpenedConfig> opened = ConfigFileRead(app_, Path);
   if (!opened) return false;
+  ForgetEdits();
   clsMenuCollection& store = *opened->document.Store;
   AddFixedEntries(app_, store, opened->SystemGroupMissing);
   ReportSystemGroup(*opened);
@@ -61,6 +62,7 @@ void frmOrganize::RefreshDefaultCommands() {
 bool frmOrganize::FuncConfigFileSave(bool Rebuild) {
   const Hourglass busy(*this);
   if (!ConfigFileWrite(app_, Edited)) return false;
+  groupsBefore_.reset();
   if (!Rebuild) return true;
   Document document = Edited;
   document.Store = std::make_shared<clsMenuCollection>(app_.platform.clock);
@@ -127,7 +129,10 @@ void frmOrganize::SaveConfigAsCommand() {
   const std::wstring path = WithExtension(Trim(dialog.FileName), asText ? L".txt" : L".bwmk");
   if (!MayReplace(path)) return;
   const bool saved = asText ? SaveListing(path) : ConfigFileWriteAs(app_, Edited, path);
-  if (saved && !asText) SetFormCaption();
+  if (saved && !asText) {
+    groupsBefore_.reset();
+    SetFormCaption();
+  }
   RefreshDefaultCommands();
   saved ? TellSaved(path) : TellSaveError(path);
 }

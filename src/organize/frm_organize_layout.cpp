@@ -30,60 +30,57 @@ void frmOrganize::Form_Resize() {
   const Size area = Client();
   if (area.width <= 0 || area.height <= 0) return;
   tlbMain.AlignTop(area);
-  stbMain.AlignBottom(area);
-  Box tree = TreeView1.Place();
+  strip_.stbMain.AlignBottom(area);
+  Box tree = tree_.View.Place();
   tree.left = kEdge;
   tree.top = tlbMain.Place().height + kEdge;
   if (!TreeWidthSet_) tree.width = Positive(area.width * 2 / 7 - kMargin);
-  tree.height = Positive(area.height - tree.top - (stbMain.Visible() ? stbMain.Place().height : 0));
-  TreeView1.SetPlace(tree);
+  tree.height = Positive(area.height - tree.top - (strip_.stbMain.Visible() ? strip_.stbMain.Place().height : 0));
+  tree_.View.SetPlace(tree);
   ArrangeControls();
-  SetSplitterBounds();
-  Picture1.SetPlace({Picture1.Place().left, tree.top, SplitterRight_ - SplitterLeft_, tree.height});
 }
 
+// All but the tree stand where the tree leaves room.
 void frmOrganize::ArrangeControls() {
-  const Box& tree = TreeView1.Place();
-  const std::int32_t strip = picInfoMain.Place().height;
+  const Box& tree = tree_.View.Place();
+  const std::int32_t strip = strip_.picInfoMain.Place().height;
   const std::int32_t left = tree.left + tree.width + kSplitter;
   const std::int32_t width = Positive(Client().width - left - kMargin);
-  ListView1.SetPlace({left, tree.top + strip, width, Positive(tree.height - strip)});
-  picInfoMain.SetPlace({left, tree.top, width, strip});
-  const auto centred = [strip](Box box) {
-    box.top = (strip - box.height) / 2;
-    return box;
-  };
-  picInfo.SetPlace(centred(picInfo.Place()));
-  Box label = centred(lblInfo.Place());
-  label.width = width;
-  lblInfo.SetPlace(label);
-  txtInfoDrives.SetPlace(ListView1.Place());
+  list_.SetPlace({left, tree.top + strip, width, Positive(tree.height - strip)});
+  strip_.SetPlace(left, tree.top, width);
+  splitter_.SetBounds(tree.left + tree.width, left, tree.top, tree.height);
 }
 
-void frmOrganize::SetSplitterBounds() {
-  SplitterLeft_ = TreeView1.Place().left + TreeView1.Place().width;
-  SplitterRight_ = ListView1.Place().left;
+void frmOrganize::SetTreeWidth(std::int32_t width) {
+  Box tree = tree_.View.Place();
+  tree.width = width;
+  tree_.View.SetPlace(tree);
+  TreeWidthSet_ = true;
+}
+
+void frmOrganize::Form_MouseUp(const MouseEvent& event) {
+  const std::optional<std::int32_t> x = splitter_.MouseUp(event);
+  if (!x) return;
+  const std::int32_t left = tree_.View.Place().left;
+  SetTreeWidth(std::clamp(*x - left, 0, Positive(Client().width - left - kSplitter - kMargin)));
+  ArrangeControls();
 }
 
 void frmOrganize::SetStatusBarVisible(bool visible) {
   layout_.StatusBar = visible;
   menus_[L"mnuViewStatBar"].SetChecked(visible);
-  stbMain.SetVisible(visible);
+  strip_.stbMain.SetVisible(visible);
   Form_Resize();
 }
 
 void frmOrganize::LoadLayout() {
-  layout_ = LoadOrganizeLayout(app_, ListView1);
+  layout_ = LoadOrganizeLayout(app_, list_.View);
+  tree_.AllLeft = layout_.AllLeftPane;
   SetStatusBarVisible(layout_.StatusBar);
   ApplyView(layout_.View);
   SetViewCheckMarks(layout_.View);
-  menus_[L"mnuViewAllLeftPane"].SetChecked(layout_.AllLeftPane);
-  if (layout_.TreeWidth > kNarrowest) {
-    Box tree = TreeView1.Place();
-    tree.width = layout_.TreeWidth;
-    TreeView1.SetPlace(tree);
-    TreeWidthSet_ = true;
-  }
+  menus_[L"mnuViewAllLeftPane"].SetChecked(tree_.AllLeft);
+  if (layout_.TreeWidth > kNarrowest) SetTreeWidth(layout_.TreeWidth);
   SetToolbarText(layout_.ToolbarText);
   SetToolbarImages(layout_.ToolbarLarge);
 }
@@ -91,51 +88,9 @@ void frmOrganize::LoadLayout() {
 void frmOrganize::SaveLayout() {
   SaveFormState(app_, *this, false);
   constexpr std::int32_t kWidest = std::numeric_limits<std::int16_t>::max();
-  layout_.TreeWidth = static_cast<std::int16_t>(std::min(TreeView1.Place().width, kWidest));
-  SaveOrganizeLayout(app_, layout_, ListView1);
-}
-
-// --- the splitter
-
-bool frmOrganize::IsOverSplitter(std::int32_t x) const { return x >= SplitterLeft_ && x <= SplitterRight_; }
-
-void frmOrganize::Form_MouseDown(const MouseEvent& event) {
-  if (!IsOverSplitter(event.x) || SplitterDragging_) return;
-  Box bar = Picture1.Place();
-  bar.left = event.x;
-  Picture1.SetPlace(bar);
-  Picture1.SetVisible(true);
-  SplitterDragging_ = true;
-}
-
-void frmOrganize::Form_MouseMove(const MouseEvent& event) {
-  if (IsOverSplitter(event.x)) {
-    SetMousePointer(kPointerSizeWE);
-    SplitterCursorSet_ = true;
-  } else if (!SplitterDragging_) {
-    ResetSplitterCursor();
-  }
-  if (!SplitterDragging_) return;
-  Box bar = Picture1.Place();
-  bar.left = event.x;
-  Picture1.SetPlace(bar);
-}
-
-void frmOrganize::Form_MouseUp(const MouseEvent& event) {
-  if (!SplitterDragging_) return;
-  Picture1.SetVisible(false);
-  SplitterDragging_ = false;
-  TreeWidthSet_ = true;
-  Box tree = TreeView1.Place();
-  const std::int32_t room = Positive(Client().width - tree.left - kSplitter - kMargin);
-  tree.width = std::clamp(event.x - tree.left, 0, room);
-  TreeView1.SetPlace(tree);
-  ArrangeControls();
-  SetSplitterBounds();
-}
-
-void frmOrganize::ResetSplitterCursor() {
-  if (std::exchange(SplitterCursorSet_, false)) SetMousePointer(kPointerDefault);
+  layout_.TreeWidth = static_cast<std::int16_t>(std::min(tree_.View.Place().width, kWidest));
+  layout_.AllLeftPane = tree_.AllLeft;
+  SaveOrganizeLayout(app_, layout_, list_.View);
 }
 
 // --- toolbar

@@ -5,25 +5,25 @@
 namespace burrowmark {
 
 void frmOrganize::ConnectPanes() {
-  TreeView1.GotFocus = [this] { EnterTree(); };
-  TreeView1.MouseDown = [this](const MouseEvent& event) { TreeMouseDown(event); };
-  TreeView1.MouseUp = [this](const MouseEvent&) { TreeMouseUp(); };
-  TreeView1.MouseMove = [this](const MouseEvent&) { ResetSplitterCursor(); };
-  TreeView1.NodeClick = [this](TreeNode&) { TreeNodeClick(); };
-  TreeView1.DblClick = [this] { TreeDblClick(); };
-  TreeView1.KeyDown = [this](std::int32_t& KeyCode, std::int32_t) { TreeKeyDown(KeyCode); };
+  tree_.View.GotFocus = [this] { EnterTree(); };
+  tree_.View.MouseDown = [this](const MouseEvent& event) { TreeMouseDown(event); };
+  tree_.View.MouseUp = [this](const MouseEvent&) { TreeMouseUp(); };
+  tree_.View.MouseMove = [this](const MouseEvent&) { splitter_.ResetCursor(); };
+  tree_.View.NodeClick = [this](TreeNode&) { TreeNodeClick(); };
+  tree_.View.DblClick = [this] { TreeDblClick(); };
+  tree_.View.KeyDown = [this](std::int32_t& KeyCode, std::int32_t) { TreeKeyDown(KeyCode); };
 
-  ListView1.GotFocus = [this] { EnterList(); };
-  ListView1.MouseDown = [this](const MouseEvent& event) { ListMouseDown(event); };
-  ListView1.MouseUp = [this](const MouseEvent&) { ListMouseUp(); };
-  ListView1.MouseMove = [this](const MouseEvent&) { ResetSplitterCursor(); };
-  ListView1.ItemClick = [this](ListItem& row) { ListItemClick(row); };
-  ListView1.Click = [this] { ListClick(); };
-  ListView1.DblClick = [this] { OpenSelectedListItem(false); };
-  ListView1.ColumnClick = [this](std::int32_t column) { ArrangeBy(column); };
-  ListView1.Paint = [this] { SetStatusBarSelected(); };
-  ListView1.KeyDown = [this](std::int32_t& KeyCode, std::int32_t) { ListKeyDown(KeyCode); };
-  txtInfoDrives.MouseMove = [this](const MouseEvent&) { ResetSplitterCursor(); };
+  list_.View.GotFocus = [this] { EnterList(); };
+  list_.View.MouseDown = [this](const MouseEvent& event) { ListMouseDown(event); };
+  list_.View.MouseUp = [this](const MouseEvent&) { ListMouseUp(); };
+  list_.View.MouseMove = [this](const MouseEvent&) { splitter_.ResetCursor(); };
+  list_.View.ItemClick = [this](ListItem& row) { ListItemClick(row); };
+  list_.View.Click = [this] { ListClick(); };
+  list_.View.DblClick = [this] { OpenSelectedListItem(false); };
+  list_.View.ColumnClick = [this](std::int32_t column) { ArrangeBy(column); };
+  list_.View.Paint = [this] { SetStatusBarSelected(); };
+  list_.View.KeyDown = [this](std::int32_t& KeyCode, std::int32_t) { ListKeyDown(KeyCode); };
+  list_.txtInfoDrives.MouseMove = [this](const MouseEvent&) { splitter_.ResetCursor(); };
 }
 
 // --- the tree
@@ -35,14 +35,14 @@ void frmOrganize::EnterTree() {
 }
 
 void frmOrganize::TreeMouseDown(const MouseEvent& event) {
-  TreeView1.SetDropHighlight(nullptr);
+  tree_.View.SetDropHighlight(nullptr);
   NodeClicked_ = false;
   TreeRightButton_ = event.button == kRightButton;
   ActivePane_ = 0;
 }
 
 void frmOrganize::TreeMouseUp() {
-  const TreeNode* node = TreeView1.SelectedItem();
+  const TreeNode* node = tree_.View.SelectedItem();
   if (!TreeRightButton_ || node == nullptr) return;
   TreeActive_ = true;
   SetMenuState(MenuKind::kPopup, node->Key(), node->Image(), node->Expanded());
@@ -55,7 +55,7 @@ void frmOrganize::TreeNodeClick() {
 }
 
 void frmOrganize::TreeDblClick() {
-  const TreeNode* node = TreeView1.SelectedItem();
+  const TreeNode* node = tree_.View.SelectedItem();
   if (node == nullptr || !NodeClicked_) return;
   const ItemRef item = WorkCollection()->GetMenuItemFromName(NameOfKey(node->Key()));
   if (item && !item->SubMenu()) PopupWindowsExplorer();
@@ -63,9 +63,24 @@ void frmOrganize::TreeDblClick() {
 
 void frmOrganize::TreeKeyDown(std::int32_t& KeyCode) {
   TreeRightButton_ = false;
-  if (KeyCode != kKeyCodeBackspace) return;
+  if (KeyCode == kKeyCodeEscape) {
+    ClearClipboard();
+  } else if (!PaneKeyDown(KeyCode)) {
+    return;
+  }
   KeyCode = 0;
-  GoUp();
+}
+
+// Keys that do the same in both panes.
+bool frmOrganize::PaneKeyDown(std::int32_t KeyCode) {
+  if (KeyCode == kKeyCodeBackspace) {
+    GoUp();
+  } else if (KeyCode == kKeyCodeInsert) {
+    NewItem(MIT_PATH_EXPLORER);
+  } else {
+    return false;
+  }
+  return true;
 }
 
 // --- the list
@@ -77,8 +92,8 @@ void frmOrganize::EnterList() {
 }
 
 void frmOrganize::ListMouseDown(const MouseEvent& event) {
-  ListView1.SetSelectedItem(nullptr);
-  ListView1.SetDropHighlight(nullptr);
+  list_.View.SetSelectedItem(nullptr);
+  list_.View.SetDropHighlight(nullptr);
   ListItemClicked_ = false;
   ListRightButton_ = event.button == kRightButton;
   ActivePane_ = 1;
@@ -87,11 +102,11 @@ void frmOrganize::ListMouseDown(const MouseEvent& event) {
 void frmOrganize::ListMouseUp() {
   if (!ListRightButton_) return;
   const bool before = std::exchange(ListActive_, true);
-  if (HasSelection()) {
-    EnsureCurrentListItem();
-    const ListItem* row = ListView1.SelectedItem();
-    SetMenuState(MenuKind::kPopup, row->Key(), row->Icon(), false);
-  } else if (const TreeNode* node = TreeView1.SelectedItem()) {
+  if (list_.HasSelection()) {
+    list_.EnsureCurrentListItem();
+    const ListItem* row = list_.View.SelectedItem();
+    SetMenuState(MenuKind::kPopup, list_.View.SelectedCount() > 1 ? KeyForCommands() : row->Key(), row->Icon(), false);
+  } else if (const TreeNode* node = tree_.View.SelectedItem()) {
     SetMenuState(MenuKind::kPopup2, node->Key(), node->Image(), false);
   }
   ListActive_ = before;
@@ -102,24 +117,33 @@ void frmOrganize::ListItemClick(const ListItem& row) {
   SetToolbarState(row.Key());
 }
 
+// What was cut or copied is forgotten first, and then what is selected.
+void frmOrganize::EscapeFromList() {
+  if (!ClipboardItems_.Empty()) return ClearClipboard();
+  list_.View.SetAllSelected(false);
+  list_.View.SetSelectedItem(nullptr);
+  if (const TreeNode* node = tree_.View.SelectedItem()) ShowStatusOfNode(*node);
+}
+
 // A click where no row is: toolbar and status bar tell of the group again.
 void frmOrganize::ListClick() {
-  if (ListView1.SelectedItem() != nullptr) return;
-  TreeNode* group = TreeView1.Find(CurrentGroup_ == kRootOwner ? MIT_HF_ROOT : KeyOfName(CurrentGroup_));
+  if (list_.View.SelectedItem() != nullptr) return;
+  TreeNode* group = tree_.View.Find(list_.Group() == kRootOwner ? std::wstring(MIT_HF_ROOT) : KeyOfName(list_.Group()));
   if (group == nullptr) return;
-  TreeView1.SetSelectedItem(group);
+  tree_.View.SetSelectedItem(group);
   ShowSelectedNode(true);
 }
 
 void frmOrganize::ListKeyDown(std::int32_t& KeyCode) {
   ListRightButton_ = false;
-  if (KeyCode == kKeyCodeBackspace) {
-    KeyCode = 0;
-    GoUp();
-  } else if (KeyCode == kKeyCodeReturn) {
-    KeyCode = 0;
+  if (KeyCode == kKeyCodeReturn) {
     OpenSelectedListItem(false);
+  } else if (KeyCode == kKeyCodeEscape) {
+    EscapeFromList();
+  } else if (!PaneKeyDown(KeyCode)) {
+    return;
   }
+  KeyCode = 0;
 }
 
 }  // namespace burrowmark

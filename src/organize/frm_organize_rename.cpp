@@ -3,6 +3,7 @@
 #include "organize/enabling.h"
 #include "organize/frm_organize.h"
 #include "organize/node_keys.h"
+#include "organize/subtree.h"
 
 namespace burrowmark {
 namespace {
@@ -10,11 +11,6 @@ namespace {
 constexpr wchar_t kTitle[] = L"Rename Error";
 constexpr wchar_t kBadCharacters[] =
     L"An item's name cannot contain any of the following characters: \r\n\t\\ / : * ? \" < > |";
-
-// A new title shows in the paths of all that the item holds, which stands behind it.
-void RefreshPaths(const clsMenuCollection& store) {
-  for (std::int32_t i = 1; i <= store.Count(); ++i) store.ItemFullPath(*store.Item(i));
-}
 
 bool CanBeRenamed(const std::wstring& key) {
   const TargetKind kind = KindOfTarget(key);
@@ -26,22 +22,22 @@ bool CanBeRenamed(const std::wstring& key) {
 void frmOrganize::RenameCommand() {
   FollowActivePane();
   if (ListActive_) {
-    EnsureCurrentListItem();
-    const ListItem* row = ListView1.SelectedItem();
-    if (row != nullptr && CanBeRenamed(row->Key())) ListView1.StartLabelEdit();
+    list_.EnsureCurrentListItem();
+    const ListItem* row = list_.View.SelectedItem();
+    if (row != nullptr && CanBeRenamed(row->Key())) list_.View.StartLabelEdit();
     return;
   }
-  const TreeNode* node = TreeView1.SelectedItem();
+  const TreeNode* node = tree_.View.SelectedItem();
   if (node == nullptr || !CanBeRenamed(node->Key())) return app_.platform.windows.Beep();
-  TreeView1.StartLabelEdit();
+  tree_.View.StartLabelEdit();
 }
 
 void frmOrganize::ConnectLabels() {
-  TreeView1.AfterLabelEdit = [this](bool& Cancel, std::wstring& NewString) {
-    RenameItem(TreeView1.EditedNode()->Key(), Cancel, NewString);
+  tree_.View.AfterLabelEdit = [this](bool& Cancel, std::wstring& NewString) {
+    RenameItem(tree_.View.EditedNode()->Key(), Cancel, NewString);
   };
-  ListView1.AfterLabelEdit = [this](bool& Cancel, std::wstring& NewString) {
-    RenameItem(ListView1.EditedItem()->Key(), Cancel, NewString);
+  list_.View.AfterLabelEdit = [this](bool& Cancel, std::wstring& NewString) {
+    RenameItem(list_.View.EditedItem()->Key(), Cancel, NewString);
   };
 }
 
@@ -58,12 +54,9 @@ void frmOrganize::RenameItem(const std::wstring& Key, bool& Cancel, const std::w
         L": An item with the name you specified already exists.\r\nPlease specify a different name.");
   }
   Cancel = false;
-  WorkCollection()->ModifyMenuItem(
-      0, {.Caption = NewString, .Name = name, .SubMenu = item->SubMenu(), .KeyboardCode = item->KeyboardCode});
-  RefreshPaths(*WorkCollection());
-  Edited.Changed = true;
-  SetListItemText(name, NewString);
-  if (TreeNode* node = TreeView1.Find(Key)) node->SetText(NewString);
+  EditTree(L"Rename", [&](TreeEdit& edit) {
+    ModifyItem(edit, item, {.Caption = NewString, .SubMenu = item->SubMenu(), .KeyboardCode = item->KeyboardCode});
+  });
 }
 
 void frmOrganize::TellRenameError(const std::wstring& text) {

@@ -74,10 +74,11 @@ TEST_F(Organize, OnlyGroupsHaveNodesUnlessAllIsWanted) {
 TEST_F(OpenOrganize, ANewNodeStandsAmongTheSiblingsThatHaveOne) {
   scene_.Window().ChooseMenu({L"View", L"Show All in Left Pane"});  // off
   const auto add = [this](const wchar_t* title, const std::wstring& owner) {
-    const ItemRef item =
-        form().WorkCollection()->AddNewMenuItem({.Caption = title, .OwnerName = owner, .SubMenu = true});
-    form().AddTreeNode(*item);
-    return item->Name();
+    std::wstring name;
+    form().EditTree(L"New", [&](TreeEdit& edit) {
+      name = edit.AddNew({.Caption = title, .OwnerName = owner, .SubMenu = true})->Name();
+    });
+    return name;
   };
   const std::wstring personal = MIT_GROUP_USER;
   const std::wstring middle = add(L"Middle", personal);
@@ -162,15 +163,15 @@ TEST_F(Organize, EveryKindOfTargetHasItsCommands) {
   };
   struct Case {
     const wchar_t* node;
-    const wchar_t* edit;   // Cut Copy Paste | Delete Rename Change | Copy Target Location | the selection
+    const wchar_t* edit;   // Undo | Cut Copy Paste | Delete Rename Change | Copy Target Location | the selection
     const wchar_t* popup;  // Collapse | Find Report | as in Edit | Properties
     const wchar_t* buttons;
   };
   const Case cases[] = {
-      {L"Organized Folders", L"...|...|.|+++", L"+|+.|...|...|.|.", L"WindowsExplorer"},
-      {L"Personal", L"...|.+.|.|+++", L"+|+.|...|...|+|.|.", L"Up WindowsExplorer"},
-      {L"System Folders", L"...|...|.|+++", L"+|+.|...|...|+|.|.", L"Up WindowsExplorer"},
-      {L"Alpha", L"...|.+.|+|+++", L"+|+.|...|.+.|+|.", L"Up WindowsExplorer"},
+      {L"Organized Folders", L".|...|...|.|+++", L"+|+.|...|...|.|.", L"WindowsExplorer"},
+      {L"Personal", L".|...|.+.|.|+++", L"+|+.|...|...|+|.|+", L"New Up WindowsExplorer Properties"},
+      {L"System Folders", L".|...|+..|.|+++", L"+|+.|...|+..|+|.|+", L"New Up WindowsExplorer Delete Properties"},
+      {L"Alpha", L".|++.|+++|+|+++", L"+|+.|++.|+++|+|+", L"New Change Up WindowsExplorer Cut Copy Delete Properties"},
   };
   for (const Case& row : cases) {
     scene_.Window().ClickNode(scene_.Tree(), row.node);
@@ -191,7 +192,7 @@ TEST_F(OpenOrganize, PopupsAreThoseOfWhatWasClicked) {
   scene_.ClickRow(L"Alpha", kRightButton);
   machine_.user.NextPopup([](ShownPopup& popup) {
     EXPECT_EQ(popup.Texts(), (std::vector<std::wstring>{L"New", L"-", L"Paste (disabled)", L"-", L"Arrange Icons",
-                                                        L"Select All", L"-", L"Properties... (disabled)"}));
+                                                        L"Select All", L"-", L"Properties..."}));
   });
   scene_.Window().ClickRow(scene_.List(), -1, kRightButton);
   machine_.user.NextPopup([](ShownPopup& popup) {
