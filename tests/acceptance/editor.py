@@ -43,6 +43,10 @@ class Editor:
     def titles(self):
         return [row[0] for row in self.rows()]
 
+    def selected(self):
+        """Titles of the selected rows."""
+        return [line["text0"] for line in self._lines("list", LIST) if line["selected"]]
+
     def wait_titles(self, *titles):
         wait_for(lambda: self.titles() == list(titles), lambda: "rows %r; they are %r" % (titles, self.titles()), 10)
 

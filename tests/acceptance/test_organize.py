@@ -23,6 +23,11 @@ class OrganizeTest(ProgramTest):
                                     bwmk.folder("Letters", "C:\\Letters"), bwmk.folder("Photos", "C:\\Photos", True))
         self.editor = Editor.open(self.program)
 
+    def reopen(self):
+        """The program once more, and its editor."""
+        self.tray = self.program.start()
+        self.editor = Editor.open(self.program)
+
 
 class Panes(OrganizeTest):
     def sort_by_keys(self):

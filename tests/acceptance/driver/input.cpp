@@ -25,12 +25,13 @@ struct KeyName {
 };
 
 constexpr KeyName kKeys[] = {
-    {L"Return", VK_RETURN}, {L"Esc", VK_ESCAPE},  {L"Space", VK_SPACE},  {L"Backspace", VK_BACK},
-    {L"Up", VK_UP},         {L"Down", VK_DOWN},   {L"Left", VK_LEFT},    {L"Right", VK_RIGHT},
-    {L"Home", VK_HOME},     {L"End", VK_END},     {L"Apps", VK_APPS},    {L"F2", VK_F2},
-    {L"F6", VK_F6},         {L"shift", VK_SHIFT}, {L"ctrl", VK_CONTROL}, {L"alt", VK_MENU},
+    {L"Return", VK_RETURN}, {L"Esc", VK_ESCAPE},    {L"Space", VK_SPACE},   {L"Backspace", VK_BACK},
+    {L"Up", VK_UP},         {L"Down", VK_DOWN},     {L"Left", VK_LEFT},     {L"Right", VK_RIGHT},
+    {L"Home", VK_HOME},     {L"End", VK_END},       {L"Apps", VK_APPS},     {L"F2", VK_F2},
+    {L"F4", VK_F4},         {L"Insert", VK_INSERT}, {L"Delete", VK_DELETE}, {L"F6", VK_F6},
+    {L"shift", VK_SHIFT},   {L"ctrl", VK_CONTROL},  {L"alt", VK_MENU},
 };
-constexpr WORD kExtended[] = {VK_UP, VK_DOWN, VK_LEFT, VK_RIGHT, VK_HOME, VK_END, VK_APPS};
+constexpr WORD kExtended[] = {VK_UP, VK_DOWN, VK_LEFT, VK_RIGHT, VK_HOME, VK_END, VK_APPS, VK_INSERT, VK_DELETE};
 
 WORD KeyNamed(const std::wstring& name) {
   const auto* row =

@@ -19,6 +19,7 @@ const std::map<std::wstring, Verb*> kVerbs = {
     {L"activate", BringForward},     // WINDOW: brings it to the front
     {L"tree", ListTree},             // WINDOW: the nodes of a tree view
     {L"list", ListList},             // WINDOW: the rows of a list view
+    {L"clipboard", ReadClipboard},   // the text on it
     {L"menu", ListMenu},             // WINDOW: the entries of an open popup menu
     {L"counters", ShowCounters},     // WINDOW: what its process holds of the system
     {L"keys", PressKeys},            // KEY...: as Down, ctrl+shift+F2, a, or text:Any text
