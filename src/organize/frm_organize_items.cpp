@@ -122,7 +122,7 @@ void frmOrganize::ShowItemProperties(bool FromBackground) {
   if (FromBackground) ListActive_ = false;
   const std::vector<ItemRef> items = SelectedItems();
   if (items.empty()) return app_.platform.windows.Beep();
-  const ItemRef item = items.front();
+  const ItemRef& item = items.front();
   EditTree(L"Properties", [&](TreeEdit& edit) {
     frmProperties dialog(app_);
     dialog.Init(*item, WorkCollection());

@@ -65,7 +65,7 @@ class PasteOne {
   // Nothing here fails or asks, so the tree is whole before and after.
   ItemRef Run(bool sameGroup, const ItemRef& replaced) {
     const std::vector<ItemRef> items = moves_ ? TakeSubtree(edit_, tree_.Origin) : FreshCopies(edit_, tree_.Items);
-    const ItemRef top = items.front();
+    const ItemRef& top = items.front();
     for (const ItemRef& item : items) {
       clsMenuItem& changed = edit_.Change(item);
       if (moves_) changed.NameOld = changed.OwnerName();

@@ -35,7 +35,8 @@ constexpr wchar_t kTitle[] = L"Organize Folders";
 constexpr wchar_t kProjected[] = L"C:\\Users\\User\\Desktop\\Organized Folders";
 
 constexpr std::int32_t kHotKeys[] = {49, 50, 51, 52};
-constexpr std::int32_t kKeys[] = {kKeyCodeF2, kKeyCodeF2, kKeyCodeF5, L'S'};
+constexpr std::int32_t kKeys[] = {kKeyCodeF2, kKeyCodeF2,     kKeyCodeF2, kKeyCodeF5, kKeyCodeDelete,
+                                  L'Z',       kKeyCodeInsert, kKeyCodeF4, L'S'};
 
 // Entries of the editor's menus; the saving ones stand more than once.
 const MenuPath kEntries[] = {{L"File", L"Save"},
@@ -163,7 +164,8 @@ class Stress {
     ShownControl* edited = editor->Edited();
     if (edited == nullptr) {
       const std::int32_t key = AnyOf(kKeys);
-      editor->Press(key, key == L'S' ? kCtrlMask : 0);
+      if (key == L'Z') mayLose_ = true;  // taken back is lost by the user's will
+      editor->Press(key, key == L'S' || key == L'Z' ? kCtrlMask : 0);
       return key == kKeyCodeF2 && Chance(70) ? TypeLater() : void();
     }
     const std::wstring id = IdOf(*edited->labelEdit);
