@@ -26,7 +26,7 @@ namespace {
 constexpr unsigned kFirstSeed = 1;
 constexpr unsigned kSeeds = 12;
 constexpr unsigned kLongestRun = 120;  // seconds; one that takes longer hangs
-constexpr std::size_t kSteps = 190;    // of a run
+constexpr std::size_t kSteps = 170;    // of a run
 constexpr std::size_t kToEnd = 60;     // steps within which "/EXIT" must have ended it
 constexpr std::size_t kTraced = 60;
 constexpr int kDeepest = 3;  // requests within requests
