@@ -21,7 +21,7 @@ def databases():
     """The preset and the compile command of each source file: the Windows build's where the native one leaves it out or
     finds nothing in it."""
     found = {}
-    for preset in ("windows", "native", "release", "fuzz"):
+    for preset in ("windows", "native", "fuzz"):
         path = ROOT / "build" / preset / "compile_commands.json"
         for entry in json.loads(path.read_text()) if path.exists() else []:
             file = pathlib.Path(entry["file"])
