@@ -135,7 +135,7 @@ class frmOrganize final : public ProgramForm {
   void OpenSelectedListItem(bool NoOpen);
   void SetAllListItemsSelected(bool selected);
   PanesState Panes() const;
-  void RestorePanes(const PanesState& panes);
+  void RestorePanes(const PanesState& panes, const TreeChange& change);
 
   // --- what the mouse and the keyboard do in the panes (frm_organize_panes.cpp)
   void EnterTree();

@@ -67,7 +67,8 @@ void frmOrganize::UndoCommand() {
   Edited.Changed = true;
   RefreshGhosts();
   tree_.Follow(change);
-  RestorePanes(step->Panes);
+  list_.Follow(change);
+  RestorePanes(step->Panes, change);
   RefreshHotKeys(app_, WorkCollection());
 }
 

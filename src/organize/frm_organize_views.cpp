@@ -1,4 +1,5 @@
 // The editor's panes follow what the user selects and how the user wants to see it.
+#include <algorithm>
 #include <iterator>
 
 #include "core/form_services.h"
@@ -144,12 +145,15 @@ PanesState frmOrganize::Panes() const {
   return panes;
 }
 
-void frmOrganize::RestorePanes(const PanesState& panes) {
+void frmOrganize::RestorePanes(const PanesState& panes, const TreeChange& change) {
   TreeNode* node = tree_.View.Find(panes.Node);
   if (node == nullptr) return ShowSelectedNode(false);
   tree_.View.SetSelectedItem(node);
   node->SetExpanded(panes.Expanded);
-  list_.ShowGroup(panes.Group);
+  // Rows that came back stand where they stood, which is seldom the end.
+  const bool returned = std::any_of(change.In.begin(), change.In.end(),
+                                    [&panes](const ItemRef& item) { return item->OwnerName() == panes.Group; });
+  if (returned || list_.Group() != panes.Group) list_.ShowGroup(panes.Group);
   ShowSelectedNode(true);
   list_.Select(panes.Rows);
   panes.ActivePane == 1 ? list_.View.SetFocus() : tree_.View.SetFocus();
