@@ -12,7 +12,7 @@ from pathlib import Path
 
 import sample  # first: it finds the modules below
 from burrowmark import KEY, Program
-from editor import HEADER, Editor
+from editor import FORM, HEADER, LIST, TREE, Editor
 from harness import REPOSITORY, Desktop, Settings, wait_for
 
 SCREENS = {96: (1280, 900), 144: (1920, 1350)}
@@ -77,6 +77,42 @@ def take_editor(album, editor):
     album.desktop.keys("alt+Space", "r")
 
 
+def take_dialogs(album, editor):
+    """What the commands on items open, from the keyboard."""
+    desktop = album.desktop
+
+    def show(name, title, *keys):
+        desktop.keys(*keys)
+        dialog = desktop.wait_window(FORM, title, 10)
+        album.save(name)
+        return dialog
+
+    editor.click_node("Personal")
+    desktop.wait_focus(editor.window, TREE)
+    item = show("new-item", "New Item", "ctrl+n")
+    picker = show("browse", "Browse for Target Location", "alt+b")
+    folder = show("new-folder", "New Folder", "alt+n")
+    for dialog in (folder, picker, item):
+        desktop.keys("Esc")
+        desktop.wait_gone(dialog)
+    editor.click_row("Projects")
+    desktop.wait_focus(editor.window, LIST)
+    properties = show("properties", "Properties", "alt+Return")
+    change = show("change", "Change Shortcut Projects", "alt+h")
+    for dialog in (change, properties):
+        desktop.keys("Esc")
+        desktop.wait_gone(dialog)
+    desktop.keys("ctrl+x")
+    album.save("cut")
+    desktop.keys("ctrl+c")
+    editor.click_node("Finance")
+    desktop.wait_focus(editor.window, TREE)
+    desktop.keys("ctrl+v")
+    clash = show("taken-title", "Replace or Rename Existing Item", "ctrl+v")
+    desktop.keys("Esc")
+    desktop.wait_gone(clash)
+
+
 def take_all(settings, output, dpi):
     with Desktop(settings, SCREENS[dpi], dpi) as desktop:
         album = Album(desktop, output)
@@ -92,6 +128,7 @@ def take_all(settings, output, dpi):
         program.wait_no_menu()
         editor = Editor.open(program)
         take_editor(album, editor)
+        take_dialogs(album, editor)
         editor.close_and_wait()
         for name, length in (("W", 5200), ("H", 4800)):
             desktop.driver("write-value", KEY + "\\frmOrg", name, length)
