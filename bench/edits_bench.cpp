@@ -6,6 +6,7 @@
 #include "bench/bench_machine.h"
 #include "core/numbers.h"
 #include "organize/frm_organize.h"
+#include "organize/subtree.h"
 #include "platform/key_codes.h"
 
 namespace burrowmark {
@@ -40,6 +41,13 @@ class BenchEdits {
     std::vector<ItemRef> pasted;
     form_.EditTree(L"Paste", [&](TreeEdit& edit) { PasteItems(edit, clipboard, L"To", {}, pasted); });
   }
+  // All rows of the group that is shown.
+  void DeleteRows() {
+    form_.EditTree(L"Delete", [&](TreeEdit& edit) {
+      for (const ItemRef& item : edit.Store().Children(L"From")) DeleteSubtree(edit, item);
+    });
+  }
+  void ShowFrom() { form_.RefreshViews(L"CFrom", true); }
   void TakeBack() { machine_.machine.user.Window(L"Organize Folders").Press('Z', kCtrlMask); }
 
  private:
@@ -69,6 +77,16 @@ void TakeAPasteBack(benchmark::State& state) {
   }
 }
 BENCHMARK(TakeAPasteBack)->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond);
+
+void DeleteRowsAndTakeThatBack(benchmark::State& state) {
+  BenchEdits edits(state.range(0));
+  edits.ShowFrom();
+  for (auto _ : state) {
+    edits.DeleteRows();
+    edits.TakeBack();
+  }
+}
+BENCHMARK(DeleteRowsAndTakeThatBack)->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace burrowmark
