@@ -11,7 +11,4 @@ namespace burrowmark {
 inline std::wstring KeyOfName(const std::wstring& name) { return L"C" + name; }
 inline std::wstring NameOfKey(const std::wstring& key) { return key.empty() ? key : key.substr(1); }
 
-// The root as one sees it who takes the first character off a key.
-inline constexpr wchar_t kCutRootKey[] = L"IT_HF_ROOT";
-
 }  // namespace burrowmark
