@@ -222,32 +222,6 @@ void clsMenuCollection::GetNewItemCaption2(clsMenuItem& item) const {
   }
 }
 
-std::wstring clsMenuCollection::GetNextMenuItem(const clsMenuItem& item) const {
-  const ListEntry* entry = list_.FirstNamed(item.Name());
-  const std::size_t next = entry == nullptr ? list_.Size() : list_.PositionOf(*entry) + 1;
-  if (next >= list_.Size()) return {};
-  return list_.At(next)->OwnerName() == item.OwnerName() ? list_.At(next)->Name() : std::wstring();
-}
-
-std::wstring clsMenuCollection::GetPrevMenuItem(const clsMenuItem& item) const {
-  const ListEntry* entry = list_.FirstNamed(item.Name());
-  if (entry == nullptr) return {};
-  const EntryRow& siblings = list_.Under(item.OwnerName()).All();
-  const std::size_t ahead = siblings.CountAhead(entry->rank);
-  return ahead == 0 ? std::wstring() : siblings.At(ahead - 1)->item->Name();
-}
-
-ItemRef clsMenuCollection::GetSecondChild(const std::wstring& OwnerName, const std::wstring& ChildName) const {
-  const ListEntry* owner = list_.FirstNamed(OwnerName);
-  if (owner == nullptr) return nullptr;
-  const EntryRow& children = list_.Under(OwnerName).All();
-  for (std::size_t i = children.CountAhead(owner->rank); i < children.Size(); ++i) {
-    const ItemRef& child = children.At(i)->item;
-    if (children.At(i) != owner && child->Name() != ChildName) return child;
-  }
-  return nullptr;
-}
-
 bool clsMenuCollection::HasChildren(const std::wstring& Name) const { return !list_.Under(Name).Empty(); }
 
 std::vector<ItemRef> clsMenuCollection::Children(const std::wstring& OwnerName) const {

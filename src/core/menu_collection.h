@@ -94,12 +94,6 @@ class clsMenuCollection {
   // The same with "X2", "X3" ...
   void GetNewItemCaption2(clsMenuItem& item) const;
 
-  // Name of the next sibling if it is the very next entry, otherwise empty.
-  std::wstring GetNextMenuItem(const clsMenuItem& item) const;
-  // Name of the previous sibling wherever it stands, otherwise empty.
-  std::wstring GetPrevMenuItem(const clsMenuItem& item) const;
-  // The first entry behind the owner that it owns and that isn't the child.
-  ItemRef GetSecondChild(const std::wstring& OwnerName, const std::wstring& ChildName) const;
   bool HasChildren(const std::wstring& Name) const;
   // What an owner holds itself, in order.
   std::vector<ItemRef> Children(const std::wstring& OwnerName) const;

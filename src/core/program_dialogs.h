@@ -7,6 +7,9 @@
 
 namespace burrowmark {
 
+// What a box says when a copy didn't reach the clipboard.
+inline constexpr wchar_t kClipboardFailed[] = L"The data couldn't be copied to the Clipboard.";
+
 // While one is up the program is busy with it. One that is meant for the hidden main window stands over the window in
 // front of the user, if there is one. While the program ends none comes up, and each is answered as if it was
 // cancelled.

@@ -4,8 +4,8 @@
 
 namespace burrowmark {
 
-ProgramForm::ProgramForm(Application& app, ProgramWindow kind, std::wstring name, const Size& client)
-    : Form(app.platform.windows, std::move(name), client), app_(app), kind_(kind) {}
+ProgramForm::ProgramForm(Application& app, ProgramWindow kind, const wchar_t* name, const Size& client)
+    : Form(app.platform.windows, name, client), app_(app), kind_(kind) {}
 
 ProgramForm::~ProgramForm() { app_.Windows.Leave(*this); }
 

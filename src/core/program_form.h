@@ -17,7 +17,7 @@ class ProgramForm : public Form, private OpenWindow {
   void CancelGesture() override {}
 
  protected:
-  ProgramForm(Application& app, ProgramWindow kind, std::wstring name, const Size& client);
+  ProgramForm(Application& app, ProgramWindow kind, const wchar_t* name, const Size& client);
   ~ProgramForm() override;
 
   Application& app_;

@@ -321,10 +321,7 @@ bool frmAddModify::NameIsFree() {
                   cmbType);
   }
   if (!TitleIsTaken(type == kOpenAll ? kOpenAllTitle : name, false)) return true;
-  if (type == kOpenAll) {
-    return Refuse(L"Can't add Open-All shortcut in this group. Only one Open-All shortcut can exist in a group.",
-                  cmbType);
-  }
+  if (type == kOpenAll) return Refuse(kOneOpenAll, cmbType);
   return Refuse(L"A folder shortcut " + name + L" already exists in this group. Please choose another name.",
                 txtItemName);
 }

@@ -16,6 +16,10 @@
 
 namespace burrowmark {
 
+// A second Open-All in a group is refused with this.
+inline constexpr wchar_t kOneOpenAll[] =
+    L"Can't add Open-All shortcut in this group. Only one Open-All shortcut can exist in a group.";
+
 // What was entered.
 struct ItemParameters {
   std::wstring Caption{};  // empty for an Open-All entry, whose title is fixed

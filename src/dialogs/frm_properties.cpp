@@ -4,6 +4,7 @@
 
 #include "core/form_state.h"
 #include "core/hot_keys.h"
+#include "core/program_dialogs.h"
 #include "core/regional_formats.h"
 #include "core/store_copy.h"
 #include "dialogs/frm_add_modify.h"
@@ -120,10 +121,8 @@ void frmProperties::Change() {
 void frmProperties::CopyTarget() {
   if (Item_->FolderPath.empty()) return app_.platform.windows.Beep();
   const bool copied = app_.platform.clipboard.SetText(Item_->FolderPath);
-  app_.platform.dialogs.MessageBoxA(
-      Window(),
-      copied ? L"The data has been copied to the Clipboard." : L"The data couldn't be copied to the Clipboard.", kTitle,
-      copied ? kBoxInformation : kBoxCritical);
+  app_.platform.dialogs.MessageBoxA(Window(), copied ? L"The data has been copied to the Clipboard." : kClipboardFailed,
+                                    kTitle, copied ? kBoxInformation : kBoxCritical);
 }
 
 void frmProperties::ApplyNow() {

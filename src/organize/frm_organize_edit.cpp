@@ -6,6 +6,7 @@
 #include "core/form_services.h"
 #include "core/hot_keys.h"
 #include "core/settings.h"
+#include "dialogs/frm_add_modify.h"
 #include "dialogs/frm_item_exists.h"
 #include "groups/drives.h"
 #include "groups/system_folders.h"
@@ -17,8 +18,6 @@ namespace burrowmark {
 namespace {
 
 constexpr wchar_t kTitle[] = L"Burrowmark";
-constexpr wchar_t kOneOpenAll[] =
-    L"Can't add Open-All shortcut in this group. Only one Open-All shortcut can exist in a group.";
 
 bool IsGenerated(const clsMenuItem& item) { return item.Name() == MIT_PATHS_SYSTEM || item.Name() == MIT_PATHS_DRIVES; }
 

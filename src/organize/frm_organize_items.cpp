@@ -2,6 +2,7 @@
 #include "core/folder_tests.h"
 #include "core/form_services.h"
 #include "core/hot_keys.h"
+#include "core/program_dialogs.h"
 #include "core/services.h"
 #include "core/store_copy.h"
 #include "dialogs/frm_add_modify.h"
@@ -165,7 +166,7 @@ void frmOrganize::CopyTargetLocations(bool complete) {
   }
   if (text.empty()) return app_.platform.windows.Beep();
   if (app_.platform.clipboard.SetText(text)) return;
-  app_.platform.dialogs.MessageBoxA(Window(), L"The Clipboard is in use by another program.", kTitle, kBoxCritical);
+  app_.platform.dialogs.MessageBoxA(Window(), kClipboardFailed, kTitle, kBoxCritical);
 }
 
 void frmOrganize::ShowFolderProperties(std::wstring Path) {

@@ -163,6 +163,7 @@ std::vector<std::wstring> ListPane::SelectedKeys() const {
 }
 
 void ListPane::Select(const std::vector<std::wstring>& keys) {
+  const ListView::Update update(View);
   View.SetAllSelected(false);
   View.SetSelectedItem(nullptr);
   ListItem* last = nullptr;

@@ -2,8 +2,7 @@
 
 namespace burrowmark {
 
-Animation::Animation(ControlParent& parent, std::wstring name, const Box& place)
-    : ControlOf(parent, std::move(name), place) {
+Animation::Animation(ControlParent& parent, const wchar_t* name, const Box& place) : ControlOf(parent, name, place) {
   StartWithoutTabStop();
 }
 

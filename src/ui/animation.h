@@ -8,7 +8,7 @@ namespace burrowmark {
 // A file that is missing, or that the system can't play, leaves the place empty and still; nobody hears of it.
 class Animation final : public ControlOf<AnimationState, AnimationPeer> {
  public:
-  Animation(ControlParent& parent, std::wstring name, const Box& place);
+  Animation(ControlParent& parent, const wchar_t* name, const Box& place);
 
   const std::wstring& File() const override { return file_; }
   bool Playing() const override { return playing_; }

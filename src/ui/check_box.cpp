@@ -2,11 +2,11 @@
 
 namespace burrowmark {
 
-CheckBox::CheckBox(ControlParent& parent, std::wstring name, const Box& place, std::wstring caption)
-    : ControlOf(parent, std::move(name), place), caption_(std::move(caption)) {}
+CheckBox::CheckBox(ControlParent& parent, const wchar_t* name, const Box& place, std::wstring_view caption)
+    : ControlOf(parent, name, place), caption_(caption) {}
 
-void CheckBox::SetCaption(std::wstring caption) {
-  if (Assign(caption_, std::move(caption))) Tell(&CheckBoxPeer::CaptionChanged);
+void CheckBox::SetCaption(std::wstring_view caption) {
+  if (Assign(caption_, std::wstring(caption))) Tell(&CheckBoxPeer::CaptionChanged);
 }
 
 void CheckBox::SetValue(CheckValue value) {

@@ -12,14 +12,14 @@ using enum CheckValue;
 
 class CheckBox final : public ControlOf<CheckBoxState, CheckBoxPeer> {
  public:
-  CheckBox(ControlParent& parent, std::wstring name, const Box& place, std::wstring caption);
+  CheckBox(ControlParent& parent, const wchar_t* name, const Box& place, std::wstring_view caption);
 
   // The value is another one, whoever changed it.
   std::function<void()> Click;
 
   // "&" underlines the character behind it, and Alt with that character clicks.
   const std::wstring& Caption() const override { return caption_; }
-  void SetCaption(std::wstring caption);
+  void SetCaption(std::wstring_view caption);
   CheckValue Value() const override { return value_; }
   void SetValue(CheckValue value);
 

@@ -4,8 +4,7 @@
 
 namespace burrowmark {
 
-ComboBox::ComboBox(ControlParent& parent, std::wstring name, const Box& place)
-    : ControlOf(parent, std::move(name), place) {}
+ComboBox::ComboBox(ControlParent& parent, const wchar_t* name, const Box& place) : ControlOf(parent, name, place) {}
 
 void ComboBox::AddItem(std::wstring text) {
   items_.push_back(std::move(text));

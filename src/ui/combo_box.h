@@ -12,7 +12,7 @@ namespace burrowmark {
 // Entries count from 0; -1 is none.
 class ComboBox final : public ControlOf<ComboBoxState, ComboBoxPeer> {
  public:
-  ComboBox(ControlParent& parent, std::wstring name, const Box& place);
+  ComboBox(ControlParent& parent, const wchar_t* name, const Box& place);
 
   // Another entry is chosen, whoever did that; not where the list is cleared. What the user passes in the open list
   // isn't chosen until that closes, and Esc closes it as it was. With a closed list each arrow key is a choice.

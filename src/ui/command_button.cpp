@@ -2,16 +2,16 @@
 
 namespace burrowmark {
 
-CommandButton::CommandButton(ControlParent& parent, std::wstring name, const Box& place, std::wstring caption)
-    : ControlOf(parent, std::move(name), place), caption_(std::move(caption)) {}
+CommandButton::CommandButton(ControlParent& parent, const wchar_t* name, const Box& place, std::wstring_view caption)
+    : ControlOf(parent, name, place), caption_(caption) {}
 
 CommandButton::~CommandButton() {
   SetDefault(false);
   SetCancel(false);
 }
 
-void CommandButton::SetCaption(std::wstring caption) {
-  if (Assign(caption_, std::move(caption))) Tell(&ButtonPeer::CaptionChanged);
+void CommandButton::SetCaption(std::wstring_view caption) {
+  if (Assign(caption_, std::wstring(caption))) Tell(&ButtonPeer::CaptionChanged);
 }
 
 bool CommandButton::Default() const { return Site().DefaultButton() == this; }

@@ -7,7 +7,7 @@ namespace burrowmark {
 
 class CommandButton final : public ControlOf<ButtonState, ButtonPeer> {
  public:
-  CommandButton(ControlParent& parent, std::wstring name, const Box& place, std::wstring caption);
+  CommandButton(ControlParent& parent, const wchar_t* name, const Box& place, std::wstring_view caption);
   ~CommandButton();
 
   // The mouse, Space, Enter, the mnemonic, or code that sets the value.
@@ -15,7 +15,7 @@ class CommandButton final : public ControlOf<ButtonState, ButtonPeer> {
 
   // "&" underlines the character behind it, and Alt with that character presses the button.
   const std::wstring& Caption() const override { return caption_; }
-  void SetCaption(std::wstring caption);
+  void SetCaption(std::wstring_view caption);
 
   // Enter presses the default button unless another button has the focus; Esc presses the cancel button. A form has at
   // most one of each: setting it takes it from the one before.

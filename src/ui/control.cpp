@@ -4,8 +4,8 @@
 
 namespace burrowmark {
 
-Control::Control(ControlParent& parent, std::wstring name, const Box& place)
-    : parent_(parent), form_(parent.Site()), name_(std::move(name)), place_(place) {
+Control::Control(ControlParent& parent, const wchar_t* name, const Box& place)
+    : parent_(parent), form_(parent.Site()), name_(name), place_(place) {
   form_.Enter(*this);
 }
 
@@ -36,8 +36,8 @@ void Control::SetTabStop(bool tabStop) {
   if (ControlPeer* peer = ThePeer()) peer->TabStopChanged();
 }
 
-void Control::SetToolTipText(std::wstring text) {
-  if (!Assign(toolTip_, std::move(text))) return;
+void Control::SetToolTipText(std::wstring_view text) {
+  if (!Assign(toolTip_, std::wstring(text))) return;
   if (ControlPeer* peer = ThePeer()) peer->ToolTipChanged();
 }
 

@@ -102,7 +102,7 @@ void Raise(std::function<void(Parameters...)> event, Arguments&&... arguments) {
 
 class Control : public virtual ControlState {
  public:
-  Control(ControlParent& parent, std::wstring name, const Box& place);
+  Control(ControlParent& parent, const wchar_t* name, const Box& place);
   Control(const Control&) = delete;
   Control& operator=(const Control&) = delete;
 
@@ -130,7 +130,7 @@ class Control : public virtual ControlState {
   bool TabStop() const final { return tabStop_; }
   void SetTabStop(bool tabStop);
   const std::wstring& ToolTipText() const final { return toolTip_; }
-  void SetToolTipText(std::wstring text);
+  void SetToolTipText(std::wstring_view text);
 
   bool HasFocus() const;
   // Does nothing unless the form is loaded and the user could go there too.

@@ -28,8 +28,8 @@ void Form::EndEvent() {
   if (--running_ == 0) BuryRemains();
 }
 
-Form::Form(WindowSystem& windows, std::wstring name, const Size& client)
-    : windows_(windows), name_(std::move(name)), design_(client) {}
+Form::Form(WindowSystem& windows, const wchar_t* name, const Size& client)
+    : windows_(windows), name_(name), design_(client) {}
 
 Form::~Form() {
   for (Form* form : owned_) {
@@ -263,8 +263,8 @@ void Form::SetOwner(const FormOwner& owner) {
 
 // --- state
 
-void Form::SetCaption(std::wstring caption) {
-  if (Assign(caption_, std::move(caption))) Tell(&FormPeer::CaptionChanged);
+void Form::SetCaption(std::wstring_view caption) {
+  if (Assign(caption_, std::wstring(caption))) Tell(&FormPeer::CaptionChanged);
 }
 
 void Form::SetBorder(FormBorder border) {

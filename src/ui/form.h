@@ -40,7 +40,7 @@ class FormOwner {
 class Form : public FormState, public ControlSite {
  public:
   // `client` is the size of what is within the frame.
-  Form(WindowSystem& windows, std::wstring name, const Size& client);
+  Form(WindowSystem& windows, const wchar_t* name, const Size& client);
   // Nothing of the form may be running.
   virtual ~Form();
   Form(const Form&) = delete;
@@ -66,7 +66,7 @@ class Form : public FormState, public ControlSite {
   void BringToFront();
 
   const std::wstring& Caption() const final { return caption_; }
-  void SetCaption(std::wstring caption);
+  void SetCaption(std::wstring_view caption);
   FormBorder Border() const final { return border_; }
   void SetBorder(FormBorder border);
   const Box& Place() const final { return geometry_.place; }

@@ -2,13 +2,13 @@
 
 namespace burrowmark {
 
-Frame::Frame(ControlParent& parent, std::wstring name, const Box& place, std::wstring caption)
-    : ContainerOf(parent, std::move(name), place), caption_(std::move(caption)) {
+Frame::Frame(ControlParent& parent, const wchar_t* name, const Box& place, std::wstring_view caption)
+    : ContainerOf(parent, name, place), caption_(caption) {
   StartWithoutTabStop();
 }
 
-void Frame::SetCaption(std::wstring caption) {
-  if (Assign(caption_, std::move(caption))) Tell(&FramePeer::CaptionChanged);
+void Frame::SetCaption(std::wstring_view caption) {
+  if (Assign(caption_, std::wstring(caption))) Tell(&FramePeer::CaptionChanged);
 }
 
 }  // namespace burrowmark

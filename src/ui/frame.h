@@ -8,10 +8,10 @@ namespace burrowmark {
 // Not a tab stop.
 class Frame final : public ContainerOf<FrameState, FramePeer> {
  public:
-  Frame(ControlParent& parent, std::wstring name, const Box& place, std::wstring caption = {});
+  Frame(ControlParent& parent, const wchar_t* name, const Box& place, std::wstring_view caption = {});
 
   const std::wstring& Caption() const override { return caption_; }
-  void SetCaption(std::wstring caption);
+  void SetCaption(std::wstring_view caption);
 
  private:
   std::wstring caption_;

@@ -2,13 +2,13 @@
 
 namespace burrowmark {
 
-Label::Label(ControlParent& parent, std::wstring name, const Box& place, std::wstring caption)
-    : ControlOf(parent, std::move(name), place), caption_(std::move(caption)) {
+Label::Label(ControlParent& parent, const wchar_t* name, const Box& place, std::wstring_view caption)
+    : ControlOf(parent, name, place), caption_(caption) {
   StartWithoutTabStop();
 }
 
-void Label::SetCaption(std::wstring caption) {
-  if (Assign(caption_, std::move(caption))) Tell(&LabelPeer::CaptionChanged);
+void Label::SetCaption(std::wstring_view caption) {
+  if (Assign(caption_, std::wstring(caption))) Tell(&LabelPeer::CaptionChanged);
 }
 
 void Label::SetTextAlignment(Alignment alignment) {

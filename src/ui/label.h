@@ -7,10 +7,10 @@ namespace burrowmark {
 
 class Label final : public ControlOf<LabelState, LabelPeer> {
  public:
-  Label(ControlParent& parent, std::wstring name, const Box& place, std::wstring caption = {});
+  Label(ControlParent& parent, const wchar_t* name, const Box& place, std::wstring_view caption = {});
 
   const std::wstring& Caption() const override { return caption_; }
-  void SetCaption(std::wstring caption);
+  void SetCaption(std::wstring_view caption);
   Alignment TextAlignment() const override { return alignment_; }
   void SetTextAlignment(Alignment alignment);
   bool UseMnemonic() const override { return useMnemonic_; }

@@ -7,7 +7,7 @@ namespace burrowmark {
 
 class Line final : public ControlOf<LineState, LinePeer> {
  public:
-  Line(ControlParent& parent, std::wstring name, const Box& place) : ControlOf(parent, std::move(name), place) {
+  Line(ControlParent& parent, const wchar_t* name, const Box& place) : ControlOf(parent, name, place) {
     StartWithoutTabStop();
   }
 };

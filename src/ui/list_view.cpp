@@ -72,8 +72,7 @@ void ListItem::EnsureVisible() { list_.Tell(&ListViewPeer::EnsureVisible, row_);
 
 // --- rows
 
-ListView::ListView(ControlParent& parent, std::wstring name, const Box& place)
-    : ControlOf(parent, std::move(name), place) {}
+ListView::ListView(ControlParent& parent, const wchar_t* name, const Box& place) : ControlOf(parent, name, place) {}
 
 ListView::~ListView() = default;
 

@@ -57,7 +57,7 @@ enum class SortOrder : std::uint8_t { kAscending, kDescending };
 // Selecting, label edits and clicks raise events for the user alone.
 class ListView final : public ControlOf<ListViewState, ListViewPeer> {
  public:
-  ListView(ControlParent& parent, std::wstring name, const Box& place);
+  ListView(ControlParent& parent, const wchar_t* name, const Box& place);
   ~ListView();
 
   // A row became selected and the current one.

@@ -4,16 +4,16 @@
 
 namespace burrowmark {
 
-OptionButton::OptionButton(ControlParent& parent, std::wstring name, const Box& place, std::wstring caption)
-    : ControlOf(parent, std::move(name), place), caption_(std::move(caption)) {
+OptionButton::OptionButton(ControlParent& parent, const wchar_t* name, const Box& place, std::wstring_view caption)
+    : ControlOf(parent, name, place), caption_(caption) {
   const std::vector<OptionButton*> group = Group();
   if (std::any_of(group.begin(), group.end(), [this](const auto* option) { return option != this; })) {
     StartWithoutTabStop();
   }
 }
 
-void OptionButton::SetCaption(std::wstring caption) {
-  if (Assign(caption_, std::move(caption))) Tell(&OptionPeer::CaptionChanged);
+void OptionButton::SetCaption(std::wstring_view caption) {
+  if (Assign(caption_, std::wstring(caption))) Tell(&OptionPeer::CaptionChanged);
 }
 
 std::vector<OptionButton*> OptionButton::Group() const {

@@ -13,14 +13,14 @@ namespace burrowmark {
 // The focus alone turns none on: a form that shows may have none.
 class OptionButton final : public ControlOf<OptionState, OptionPeer> {
  public:
-  OptionButton(ControlParent& parent, std::wstring name, const Box& place, std::wstring caption);
+  OptionButton(ControlParent& parent, const wchar_t* name, const Box& place, std::wstring_view caption);
 
   // It is on now, whoever did that.
   std::function<void()> Click;
 
   // "&" underlines the character behind it, and Alt with that character turns it on.
   const std::wstring& Caption() const override { return caption_; }
-  void SetCaption(std::wstring caption);
+  void SetCaption(std::wstring_view caption);
   bool Value() const override { return value_; }
   // True turns the others off, without an event of theirs.
   void SetValue(bool value);

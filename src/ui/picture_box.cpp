@@ -2,8 +2,8 @@
 
 namespace burrowmark {
 
-PictureBox::PictureBox(ControlParent& parent, std::wstring name, const Box& place)
-    : ContainerOf(parent, std::move(name), place) {
+PictureBox::PictureBox(ControlParent& parent, const wchar_t* name, const Box& place)
+    : ContainerOf(parent, name, place) {
   StartWithoutTabStop();
 }
 

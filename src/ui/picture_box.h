@@ -8,7 +8,7 @@ namespace burrowmark {
 // Not a tab stop.
 class PictureBox final : public ContainerOf<PictureState, PicturePeer> {
  public:
-  PictureBox(ControlParent& parent, std::wstring name, const Box& place);
+  PictureBox(ControlParent& parent, const wchar_t* name, const Box& place);
 
   std::int32_t Icon() const override { return icon_; }
   std::int32_t IconSize() const override { return iconSize_; }

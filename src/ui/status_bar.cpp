@@ -4,8 +4,8 @@
 
 namespace burrowmark {
 
-StatusBar::StatusBar(ControlParent& parent, std::wstring name, std::vector<StatusPanelState> panels)
-    : ControlOf(parent, std::move(name), Box()), panels_(std::move(panels)) {
+StatusBar::StatusBar(ControlParent& parent, const wchar_t* name, std::vector<StatusPanelState> panels)
+    : ControlOf(parent, name, Box()), panels_(std::move(panels)) {
   StartWithoutTabStop();
 }
 

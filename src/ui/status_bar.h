@@ -10,7 +10,7 @@ namespace burrowmark {
 
 class StatusBar final : public ControlOf<StatusBarState, StatusBarPeer> {
  public:
-  StatusBar(ControlParent& parent, std::wstring name, std::vector<StatusPanelState> panels);
+  StatusBar(ControlParent& parent, const wchar_t* name, std::vector<StatusPanelState> panels);
 
   const std::vector<StatusPanelState>& Panels() const override { return panels_; }
   bool SizeGrip() const override { return true; }

@@ -4,8 +4,8 @@
 
 namespace burrowmark {
 
-TabStrip::TabStrip(ControlParent& parent, std::wstring name, const Box& place, std::vector<std::wstring> tabs)
-    : ControlOf(parent, std::move(name), place), tabs_(std::move(tabs)), selected_(tabs_.empty() ? 0 : 1) {}
+TabStrip::TabStrip(ControlParent& parent, const wchar_t* name, const Box& place, std::vector<std::wstring> tabs)
+    : ControlOf(parent, name, place), tabs_(std::move(tabs)), selected_(tabs_.empty() ? 0 : 1) {}
 
 void TabStrip::SetSelectedTab(std::int32_t tab) {
   if (tab < 1 || tab > static_cast<std::int32_t>(tabs_.size()) || !Assign(selected_, tab)) return;

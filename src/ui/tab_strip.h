@@ -12,7 +12,7 @@ namespace burrowmark {
 // Tabs count from 1. Ctrl and the Tab key go on to the next one wherever the focus is on the form.
 class TabStrip final : public ControlOf<TabStripState, TabStripPeer> {
  public:
-  TabStrip(ControlParent& parent, std::wstring name, const Box& place, std::vector<std::wstring> tabs);
+  TabStrip(ControlParent& parent, const wchar_t* name, const Box& place, std::vector<std::wstring> tabs);
 
   // Another tab is in front, whoever did that.
   std::function<void()> Click;

@@ -34,8 +34,8 @@ std::int32_t LengthOf(const std::wstring& text) { return static_cast<std::int32_
 
 }  // namespace
 
-TextBox::TextBox(ControlParent& parent, std::wstring name, const Box& place, const std::wstring& text)
-    : ControlOf(parent, std::move(name), place), text_(WithLineEnds(text)) {}
+TextBox::TextBox(ControlParent& parent, const wchar_t* name, const Box& place, std::wstring_view text)
+    : ControlOf(parent, name, place), text_(WithLineEnds(std::wstring(text))) {}
 
 void TextBox::SetText(const std::wstring& text) {
   if (!Assign(text_, WithLineEnds(text))) return;
@@ -84,7 +84,7 @@ void TextBox::UserText(const std::wstring& text, const TextSelection& selection)
 
 void TextBox::UserType(const std::wstring& text) {
   if (!IsReachable() || readOnly_) return;
-  std::wstring typed = multiLine_ ? WithLineEnds(text) : text.substr(0, text.find_first_of(L"\r\n"));
+  std::wstring typed = multiLine_ ? WithLineEnds(std::wstring(text)) : text.substr(0, text.find_first_of(L"\r\n"));
   std::wstring whole = text_;
   const auto start = static_cast<std::size_t>(selection_.start);
   whole.erase(start, static_cast<std::size_t>(selection_.length));

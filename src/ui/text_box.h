@@ -10,7 +10,7 @@ namespace burrowmark {
 
 class TextBox final : public ControlOf<TextBoxState, TextBoxPeer> {
  public:
-  TextBox(ControlParent& parent, std::wstring name, const Box& place, const std::wstring& text = {});
+  TextBox(ControlParent& parent, const wchar_t* name, const Box& place, std::wstring_view text = {});
 
   // The text is another one, whoever changed it.
   std::function<void()> Change;

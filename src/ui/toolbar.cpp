@@ -5,8 +5,8 @@
 
 namespace burrowmark {
 
-Toolbar::Toolbar(ControlParent& parent, std::wstring name, std::vector<ToolbarButtonState> buttons)
-    : ControlOf(parent, std::move(name), Box()), buttons_(std::move(buttons)) {
+Toolbar::Toolbar(ControlParent& parent, const wchar_t* name, std::vector<ToolbarButtonState> buttons)
+    : ControlOf(parent, name, Box()), buttons_(std::move(buttons)) {
   StartWithoutTabStop();
 }
 

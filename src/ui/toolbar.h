@@ -12,7 +12,7 @@ namespace burrowmark {
 // Buttons count from 0, separators among them.
 class Toolbar final : public ControlOf<ToolbarState, ToolbarPeer> {
  public:
-  Toolbar(ControlParent& parent, std::wstring name, std::vector<ToolbarButtonState> buttons);
+  Toolbar(ControlParent& parent, const wchar_t* name, std::vector<ToolbarButtonState> buttons);
 
   std::function<void(const std::wstring& key)> ButtonClick;
   std::function<void(const std::wstring& key)> ButtonMenuClick;

@@ -43,8 +43,7 @@ void TreeNode::EnsureVisible() {
 
 // --- nodes of a tree
 
-TreeView::TreeView(ControlParent& parent, std::wstring name, const Box& place)
-    : ControlOf(parent, std::move(name), place) {}
+TreeView::TreeView(ControlParent& parent, const wchar_t* name, const Box& place) : ControlOf(parent, name, place) {}
 
 TreeView::~TreeView() = default;
 

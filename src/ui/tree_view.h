@@ -51,7 +51,7 @@ enum class TreeRelation : std::uint8_t { kNext = 2, kPrevious = 3, kChild = 4 };
 // Selecting, checks, label edits and clicks raise events for the user alone.
 class TreeView final : public ControlOf<TreeViewState, TreeViewPeer> {
  public:
-  TreeView(ControlParent& parent, std::wstring name, const Box& place);
+  TreeView(ControlParent& parent, const wchar_t* name, const Box& place);
   ~TreeView();
 
   std::function<void(TreeNode&)> NodeClick;  // clicked, or moved to by keyboard

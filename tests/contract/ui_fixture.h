@@ -39,7 +39,7 @@ constexpr std::int32_t kSystemEntry = 555;
 class HearingForm : public Form {
  public:
   HearingForm(WindowSystem& windows, const std::wstring& caption, const Size& client, Texts& heard)
-      : Form(windows, L"frm" + caption, client), heard_(heard) {
+      : Form(windows, L"frmHearing", client), heard_(heard) {
     SetCaption(caption);
   }
 

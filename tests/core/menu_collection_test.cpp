@@ -162,24 +162,11 @@ TEST_F(MenuCollection, WalksToTheTopGoUpOnceEvenAroundACircle) {
   EXPECT_EQ(store_.Item(4)->ItemPath, L"Beta\\");
 }
 
-TEST_F(MenuCollection, NextSiblingMustFollowAtOncePreviousNeedNot) {
-  for (const auto& [name, owner] : {std::pair{L"a", L"g"}, {L"other", L"h"}, {L"b", L"g"}, {L"c", L"g"}}) {
-    store_.AddOne(Leaf(name, L"", owner), true, false);
-  }
-  EXPECT_EQ(store_.GetNextMenuItem(*store_.Item(1)), L"");
-  EXPECT_EQ(store_.GetNextMenuItem(*store_.Item(3)), L"c");
-  EXPECT_EQ(store_.GetNextMenuItem(*store_.Item(4)), L"");
-  EXPECT_EQ(store_.GetPrevMenuItem(*store_.Item(3)), L"a");
-  EXPECT_EQ(store_.GetPrevMenuItem(*store_.Item(2)), L"");
-}
-
 TEST_F(MenuCollection, ChildrenAreTheDirectOnesBehindTheirOwner) {
   FillThreeLevels();
   EXPECT_EQ(store_.ChildrenNumber(MIT_GROUP_USER), 1);
   EXPECT_TRUE(store_.HasChildren(L"B"));
   EXPECT_FALSE(store_.HasChildren(L"leaf"));
-  EXPECT_EQ(store_.GetSecondChild(L"B", L"leaf"), nullptr);
-  EXPECT_EQ(store_.GetSecondChild(L"B", L"other"), store_.Item(4));
   store_.Remove(L"a");  // what a group held stays
   EXPECT_EQ(NamesOf(store_), L"MIT_GROUP_USER B leaf");
 }
