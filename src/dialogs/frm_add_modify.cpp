@@ -78,6 +78,19 @@ std::int32_t IndexOfCode(std::int32_t code) {
   return code < kFirstHotKey || code > kLastHotKey ? 0 : code - kFirstHotKey + 1;
 }
 
+// The first of the files is taken.
+void TakeDrops(TextBox& box, const std::function<void(const std::wstring& path)>& take) {
+  box.SetOLEDrop(true);
+  box.OLEDragOver = [](const DragEvent& event, DragState, std::uint32_t& effect) {
+    if (event.files) effect = EffectOnFiles(event.allowed);
+  };
+  box.OLEDragDrop = [take](const DragEvent& event, const std::vector<std::wstring>& files, std::uint32_t& effect) {
+    if (files.empty()) return;
+    effect = EffectOnFiles(event.allowed);
+    take(files.front());
+  };
+}
+
 }  // namespace
 
 ItemChange ChangeOf(const ItemParameters& parameters) {
@@ -120,6 +133,8 @@ void frmAddModify::Connect() {
   txtItemName.KeyPress = SwallowEnter;
   txtPath.KeyPress = SwallowEnter;
   txtPath.LostFocus = [this] { txtPath.SetText(GetPath()); };
+  TakeDrops(txtPath, [this](const std::wstring& path) { SetPath(path); });
+  TakeDrops(txtItemName, [this](const std::wstring& path) { SetItemName(LastPart(path)); });
   cmdDescErase.Click = [this] { TakeNameFromPath(); };
   cmdBrowse.Click = [this] { Browse(); };
   cmdFinish.Click = [this] { Finish(); };
@@ -198,14 +213,6 @@ ItemParameters frmAddModify::GetParameters() const {
 void frmAddModify::SetPath(const std::wstring& path) { SetAtEnd(txtPath, path); }
 void frmAddModify::SetItemName(const std::wstring& name) { SetAtEnd(txtItemName, name); }
 void frmAddModify::SetDescription(const std::wstring& description) { SetAtEnd(txtDescription, description); }
-
-void frmAddModify::DropOnPath(const std::vector<std::wstring>& files) {
-  if (!files.empty()) SetPath(files.front());
-}
-
-void frmAddModify::DropOnName(const std::vector<std::wstring>& files) {
-  if (!files.empty()) SetItemName(LastPart(files.front()));
-}
 
 // --- type, hot key, path
 

@@ -62,9 +62,6 @@ class frmAddModify final : public ProgramForm {
   void SetPath(const std::wstring& path);
   void SetItemName(const std::wstring& name);
   void SetDescription(const std::wstring& description);
-  // Files that were dropped on the box of the path or of the name: the first one counts.
-  void DropOnPath(const std::vector<std::wstring>& files);
-  void DropOnName(const std::vector<std::wstring>& files);
 
  private:
   void Form_Activate() override;

@@ -106,7 +106,8 @@ void frmOrganize::Form_Activate() {
 }
 
 bool frmOrganize::InGesture() const {
-  return tree_.View.EditedNode() != nullptr || list_.View.EditedItem() != nullptr || splitter_.Dragging();
+  return tree_.View.EditedNode() != nullptr || list_.View.EditedItem() != nullptr || splitter_.Dragging() ||
+         drag_.SourcePane >= 0;
 }
 
 void frmOrganize::CancelGesture() {

@@ -27,6 +27,7 @@
 #include "projection/organized_folders.h"
 #include "tools/network_drives.h"
 #include "ui/menu.h"
+#include "ui/timer.h"
 #include "ui/toolbar.h"
 
 namespace burrowmark {
@@ -169,7 +170,7 @@ class frmOrganize final : public ProgramForm {
   void RefreshGhosts();
   // An empty target is the selected node.
   void PasteCommand(const std::wstring& target);
-  void FuncPaste(std::wstring target);
+  void FuncPaste(std::wstring target, bool inDrag = false);
   void ShowNewRows(const std::vector<ItemRef>& items);
   void RefusePaste(const PastePlace& place);
   void ShowSameDestinationError(const std::wstring& Name);
@@ -186,6 +187,7 @@ class frmOrganize final : public ProgramForm {
   // --- single items (frm_organize_items.cpp)
   void NewItem(const std::wstring& Kind);
   void NewItemInGroup(const std::wstring& group, const std::wstring& Kind, const std::wstring& Path);
+  ItemRef GroupForNewItems(const std::wstring& Name);
   std::wstring GroupForAdding() const;
   void ChangeCommand();
   void ChangeItem(const ItemRef& item);
@@ -194,6 +196,32 @@ class frmOrganize final : public ProgramForm {
   std::vector<clsNetworkDrive> MappedDrives();
   void CopyTargetLocations(bool complete);
   void ShowFolderProperties(std::wstring Path);
+
+  // --- drag and drop (frm_organize_drag.cpp)
+  // What is dragged out of a pane.
+  struct PaneDrag {
+    std::int16_t SourcePane = -1;  // 0: the tree, 1: the list, -1: nothing of ours is dragged
+    std::wstring Key;              // of the node or row
+  };
+  void ConnectDrags();
+  void StartTreeDrag(std::uint32_t& allowed);
+  void StartListDrag(std::uint32_t& allowed);
+  void BeginDrag(std::int16_t pane, const std::wstring& key, std::uint32_t& allowed);
+  void EndDragState();
+  bool TakesDrop(const std::wstring& key) const;
+  std::uint32_t EffectOf(const DragEvent& event);
+  void ListDragOver(const DragEvent& event, DragState state, std::uint32_t& effect);
+  void TreeDragOver(const DragEvent& event, DragState state, std::uint32_t& effect);
+  void ListDragDrop(const DragEvent& event, const std::vector<std::wstring>& files, std::uint32_t& effect);
+  void TreeDragDrop(const DragEvent& event, const std::vector<std::wstring>& files, std::uint32_t& effect);
+  void StartExpandTimer();
+  void StopExpandTimer();
+  void ExpandHoverNode();
+  void AfterDrag(std::function<void()> work);
+  void PasteAfterDrag(const std::wstring& target);
+  void DropFiles(const std::vector<std::wstring>& paths, const std::wstring& key);
+  bool OnlyFolders(const std::vector<std::wstring>& paths);
+  void AddFolders(const std::vector<std::wstring>& paths, const clsMenuItem& group);
 
   // --- renaming in place (frm_organize_rename.cpp)
   void ConnectLabels();
@@ -238,6 +266,11 @@ class frmOrganize final : public ProgramForm {
   bool TreeWidthSet_ = false;
   OrganizeLayout layout_;
   ItemClipboard ClipboardItems_;
+  std::wstring HitKey_;  // of the row or node under the mouse when a button went down
+  PaneDrag drag_;
+  std::wstring HoverKey_;  // of the node that something is dragged over
+  Timer TimerOLE_{app_.platform.windows};
+  std::shared_ptr<bool> life_ = std::make_shared<bool>(true);  // a request asks whether this is still there
   EditHistory history_;
   std::optional<GeneratedGroups> groupsBefore_;  // what the options asked for before edits that aren't saved
 

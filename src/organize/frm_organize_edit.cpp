@@ -151,15 +151,16 @@ void frmOrganize::PasteCommand(const std::wstring& target) {
   FuncPaste(target);
 }
 
-void frmOrganize::FuncPaste(std::wstring target) {
+void frmOrganize::FuncPaste(std::wstring target, bool inDrag) {
   if (ClipboardItems_.Empty()) return;
   const TreeNode* node = tree_.View.SelectedItem();
   if (target.empty() && node != nullptr) target = NameOfKey(node->Key());
-  const PastePlace place = FindPastePlace(*WorkCollection(), ClipboardItems_, target, false);
+  const PastePlace place = FindPastePlace(*WorkCollection(), ClipboardItems_, target, inDrag);
   if (place.Refusal != PasteRefusal::kNone) return RefusePaste(place);
   const Hourglass busy(*this);
   std::vector<ItemRef> pasted;
-  EditTree(L"Paste", [&](TreeEdit& edit) {
+  const wchar_t* name = ClipboardItems_.Mode == PasteMode::kMove ? L"Move" : L"Copy";
+  EditTree(inDrag ? name : L"Paste", [&](TreeEdit& edit) {
     const bool done = PasteItems(edit, ClipboardItems_, place.Text,
                                  {[&](const clsMenuItem& existing, const clsMenuItem& incoming) {
                                     FollowEdit(edit);

@@ -41,11 +41,22 @@ void frmOrganize::NewItem(const std::wstring& Kind) {
   NewItemInGroup(NameOfKey(node->Key()), Kind, {});
 }
 
-void frmOrganize::NewItemInGroup(const std::wstring& Name, const std::wstring& Kind, const std::wstring& Path) {
+// The group itself, or that of a shortcut. None, and the user is told why, where nothing can be added.
+ItemRef frmOrganize::GroupForNewItems(const std::wstring& Name) {
   ItemRef group = WorkCollection()->GetMenuItemFromName(Name);
   if (group && !group->SubMenu()) group = WorkCollection()->GetMenuItemFromName(group->OwnerName());
-  if (!group) return Inform(L"Can't add new items here.");
-  if (group->Name() == MIT_PATHS_DRIVES) return RefusePaste({{}, PasteRefusal::kDrives});
+  if (!group) {
+    Inform(L"Can't add new items here.");
+  } else if (group->Name() == MIT_PATHS_DRIVES) {
+    RefusePaste({{}, PasteRefusal::kDrives});
+    group = nullptr;
+  }
+  return group;
+}
+
+void frmOrganize::NewItemInGroup(const std::wstring& Name, const std::wstring& Kind, const std::wstring& Path) {
+  const ItemRef group = GroupForNewItems(Name);
+  if (!group) return;
   frmAddModify dialog(app_);
   dialog.Init({.Mode = 0,
                .Location = LocationIn(*group),

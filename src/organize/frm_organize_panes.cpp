@@ -5,6 +5,7 @@
 namespace burrowmark {
 
 void frmOrganize::ConnectPanes() {
+  ConnectDrags();
   tree_.View.GotFocus = [this] { EnterTree(); };
   tree_.View.MouseDown = [this](const MouseEvent& event) { TreeMouseDown(event); };
   tree_.View.MouseUp = [this](const MouseEvent&) { TreeMouseUp(); };
@@ -37,7 +38,10 @@ void frmOrganize::EnterTree() {
 void frmOrganize::TreeMouseDown(const MouseEvent& event) {
   tree_.View.SetDropHighlight(nullptr);
   NodeClicked_ = false;
+  const TreeNode* node = tree_.View.HitTest(event.x, event.y);
+  HitKey_ = node == nullptr ? std::wstring() : node->Key();
   TreeRightButton_ = event.button == kRightButton;
+  if (event.button == kLeftButton) ListRightButton_ = false;
   ActivePane_ = 0;
 }
 
@@ -95,7 +99,10 @@ void frmOrganize::ListMouseDown(const MouseEvent& event) {
   list_.View.SetSelectedItem(nullptr);
   list_.View.SetDropHighlight(nullptr);
   ListItemClicked_ = false;
+  const ListItem* row = list_.View.HitTest(event.x, event.y);
+  HitKey_ = row == nullptr ? std::wstring() : row->Key();
   ListRightButton_ = event.button == kRightButton;
+  if (event.button == kLeftButton) TreeRightButton_ = false;
   ActivePane_ = 1;
 }
 

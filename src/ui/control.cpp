@@ -86,4 +86,39 @@ std::int32_t Control::UserKeyPress(std::int32_t character) {
 
 bool Control::IsReachable() const { return visible_ && enabled_ && parent_.IsReachable(); }
 
+// --- drag and drop
+
+void Control::UserStartDrag(const std::function<std::uint32_t(std::uint32_t allowed)>& run) {
+  if (!OLEStartDrag || !IsReachable()) return;
+  const ControlSite::Running running(form_);
+  std::uint32_t allowed = kEffectNone;
+  Raise(OLEStartDrag, allowed);
+  const std::uint32_t effect = allowed == kEffectNone ? kEffectNone : run(allowed);
+  Raise(OLECompleteDrag, effect);
+}
+
+std::uint32_t Control::UserDragOver(const DragEvent& event, DragState state) {
+  const bool leaves = state == DragState::kLeave || !IsReachable();
+  if (leaves && !dragIn_) return kEffectNone;
+  const ControlSite::Running running(form_);
+  if (leaves) {
+    state = DragState::kLeave;
+  } else if (!dragIn_) {
+    state = DragState::kEnter;
+  }
+  dragIn_ = !leaves;
+  std::uint32_t effect = kEffectNone;
+  Raise(OLEDragOver, event, state, effect);
+  return leaves ? kEffectNone : effect & event.allowed;
+}
+
+std::uint32_t Control::UserDragDrop(const DragEvent& event, const std::vector<std::wstring>& files) {
+  if (!dragIn_ || !IsReachable()) return UserDragOver(event, DragState::kLeave);
+  const ControlSite::Running running(form_);
+  dragIn_ = false;
+  std::uint32_t effect = kEffectNone;
+  Raise(OLEDragDrop, event, files, effect);
+  return effect & event.allowed;
+}
+
 }  // namespace burrowmark

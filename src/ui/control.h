@@ -117,6 +117,14 @@ class Control : public virtual ControlState {
   // what it is changed to, and 0 keeps it from everybody: an Enter doesn't press the form's button then.
   std::function<void(std::int32_t& KeyAscii)> KeyPress;
 
+  // The user drags. Nothing is dragged unless `AllowedEffects` gets something. The other always follows.
+  std::function<void(std::uint32_t& AllowedEffects)> OLEStartDrag;
+  std::function<void(std::uint32_t Effect)> OLECompleteDrag;
+  // Of what is dragged over it, also from other programs: these run inside the source's own loop, so they only look
+  // and take notes. A drop that was entered leaves or is dropped.
+  std::function<void(const DragEvent&, DragState, std::uint32_t& Effect)> OLEDragOver;
+  std::function<void(const DragEvent&, const std::vector<std::wstring>& Files, std::uint32_t& Effect)> OLEDragDrop;
+
   const std::wstring& Name() const { return name_; }
   // 0 while the form isn't loaded.
   WindowHandle Window() const;
@@ -131,6 +139,9 @@ class Control : public virtual ControlState {
   void SetTabStop(bool tabStop);
   const std::wstring& ToolTipText() const final { return toolTip_; }
   void SetToolTipText(std::wstring_view text);
+  bool OLEDrop() const final { return oleDrop_; }
+  // Holds for the windows that are made from then on.
+  void SetOLEDrop(bool on) { oleDrop_ = on; }
 
   bool HasFocus() const;
   // Does nothing unless the form is loaded and the user could go there too.
@@ -146,6 +157,9 @@ class Control : public virtual ControlState {
   void UserMouse(MouseAction action, const MouseEvent& event) final;
   bool UserKeyDown(std::int32_t keyCode, std::int32_t shift) final;
   std::int32_t UserKeyPress(std::int32_t character) final;
+  void UserStartDrag(const std::function<std::uint32_t(std::uint32_t allowed)>& run) final;
+  std::uint32_t UserDragOver(const DragEvent& event, DragState state) final;
+  std::uint32_t UserDragDrop(const DragEvent& event, const std::vector<std::wstring>& files) final;
 
  protected:
   ~Control() = default;
@@ -178,6 +192,8 @@ class Control : public virtual ControlState {
   bool visible_ = true;
   bool enabled_ = true;
   bool tabStop_ = true;
+  bool oleDrop_ = false;
+  bool dragIn_ = false;  // something that is dragged has entered
   std::wstring toolTip_;
 };
 

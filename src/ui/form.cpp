@@ -111,6 +111,7 @@ void Form::DropPeers() {
   remains.form = std::move(peer_);
   for (Control* control : controls_) {
     remains.controls.push_back(control->TakePeer());
+    control->dragIn_ = false;
     control->PeerTaken();
   }
   focused_ = nullptr;

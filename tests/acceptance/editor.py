@@ -59,6 +59,12 @@ class Editor:
                 return left + 20 * self.desktop.dpi // 96, (top + bottom) // 2
         raise AssertionError("nothing with the text %r" % text)
 
+    def place_of_row(self, text):
+        return self._place("list", LIST, "text0", text)
+
+    def place_of_node(self, text):
+        return self._place("tree", TREE, "text", text)
+
     def click_node(self, text, button="left"):
         self.desktop.click(self._place("tree", TREE, "text", text), button)
 

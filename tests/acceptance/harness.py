@@ -282,6 +282,29 @@ class Pointer:
                 self._test.XTestFakeButtonEvent(self._display, number, pressed, 0)
             self._library.XSync(self._display, 0)
 
+    def key(self, number, pressed):
+        self._test.XTestFakeKeyEvent(self._display, number, pressed, 0)
+        self._library.XSync(self._display, 0)
+
+    def button(self, pressed):
+        self._test.XTestFakeButtonEvent(self._display, 1, pressed, 0)
+        self._library.XSync(self._display, 0)
+
+    def drag(self, places, rest, before_end):
+        """Presses at the first place, goes to each of the others and rests there, and lets go at the last one."""
+        self.move(places[0])
+        time.sleep(0.1)
+        self.button(1)
+        try:
+            for start, end in zip(places, places[1:]):
+                for step in range(1, 11):
+                    self.move(tuple(int(a + (b - a) * step / 10) for a, b in zip(start, end)))
+                    time.sleep(0.02)
+                time.sleep(rest)
+            before_end()
+        finally:
+            self.button(0)
+
 
 class Desktop:
     """A virtual screen with the Windows desktop of one prefix on it."""
@@ -401,6 +424,9 @@ class Desktop:
 
     def click(self, place, button="left"):
         self.pointer.click(place, button)
+
+    def drag(self, *places, rest=0.2, before_end=lambda: None):
+        self.pointer.drag(places, rest, before_end)
 
     def keys(self, *words):
         self.driver("keys", *words)

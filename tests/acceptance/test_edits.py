@@ -1,5 +1,7 @@
 """Building and rearranging the tree in the editor, and what the file and the menu hold afterwards."""
 
+import time
+
 import bwmk
 from editor import FORM, LIST, TREE
 from harness import BOX_CLASS, wait_for
@@ -168,3 +170,27 @@ class Carrying(EditTest):
         self.desktop.driver("close", properties.handle)
         self.desktop.wait_gone(properties)
         self.assertEqual(next(row[2] for row in self.editor.rows() if row[0] == "Photos"), "Shift+Ctrl+2")
+
+
+class ByMouse(EditTest):
+    CONTROL, ESCAPE = 37, 9  # keys by the numbers that the screen has for them
+
+    def drag(self, row, node, **options):
+        self.desktop.drag(self.editor.place_of_row(row), self.editor.place_of_node(node), **options)
+
+    def press(self, key):
+        for pressed in (1, 0):
+            self.desktop.pointer.key(key, pressed)
+        time.sleep(0.3)  # the drag looks at its keys now and then
+
+    def test_rows_are_moved_copied_and_left_where_they_are(self):
+        self.drag("Photos", "Home", before_end=lambda: self.press(self.ESCAPE))
+        self.drag("Letters", "Home")
+        self.editor.wait_titles("Home", "Photos")
+        self.take_back(*TITLES)
+        self.desktop.pointer.key(self.CONTROL, 1)
+        self.drag("Letters", "Home")
+        self.desktop.pointer.key(self.CONTROL, 0)
+        wait_for(lambda: (3, "Letters") in self.editor.tree(), "a copy in the group", 10)
+        self.editor.wait_titles(*TITLES)
+        self.assertEqual(self.file_after_closing(), list(TITLES))

@@ -2,7 +2,9 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
+#include <vector>
 
 #include "platform/twips.h"
 #include "platform/window_handle.h"
@@ -24,6 +26,30 @@ struct MouseEvent {
   friend bool operator==(const MouseEvent&, const MouseEvent&) = default;
 };
 
+// What becomes of what is dragged and dropped, one bit each (oleidl.h).
+inline constexpr std::uint32_t kEffectNone = 0;
+inline constexpr std::uint32_t kEffectCopy = 1;
+inline constexpr std::uint32_t kEffectMove = 2;
+inline constexpr std::uint32_t kEffectLink = 4;
+
+// The numbers are those of the controls' events.
+enum class DragState : std::uint8_t { kEnter, kLeave, kOver };
+
+// Something is dragged over a control.
+struct DragEvent {
+  std::int32_t shift = 0;  // kShiftMask and its like
+  std::int32_t x = 0;      // twips from the corner of the control
+  std::int32_t y = 0;
+  std::uint32_t allowed = kEffectNone;  // what its source puts up with
+  bool files = false;                   // it is files and folders
+  bool ours = false;                    // it began in a control of this program
+};
+
+// What may be done with files that nobody shall lose: a copy, or else a link.
+constexpr std::uint32_t EffectOnFiles(std::uint32_t allowed) {
+  return (allowed & kEffectCopy) != 0 ? kEffectCopy : allowed & kEffectLink;
+}
+
 // The state of a control as its peer reads it. Functions that start with User are the doors by which what the user did
 // comes in.
 class ControlState {
@@ -43,6 +69,17 @@ class ControlState {
   // A character that a key made, ahead of what the control makes of it; Enter and Esc are told by UserKeyDown already.
   // The one to go on with, 0 for none.
   virtual std::int32_t UserKeyPress(std::int32_t character) = 0;
+
+  // Something may be dropped on it.
+  virtual bool OLEDrop() const = 0;
+  // The user drags from where the button went down. `run` carries it to its end, with what may become of it, and tells
+  // what became of it. Without any of that it isn't run.
+  virtual void UserStartDrag(const std::function<std::uint32_t(std::uint32_t allowed)>& run) = 0;
+  // What is dragged is over the control, or leaves it; each one that entered leaves or is dropped. What a drop there
+  // and then would do, none if nothing.
+  virtual std::uint32_t UserDragOver(const DragEvent& event, DragState state) = 0;
+  // It is dropped; the paths if it is files. What was done with it.
+  virtual std::uint32_t UserDragDrop(const DragEvent& event, const std::vector<std::wstring>& files) = 0;
 
  protected:
   ControlState() = default;

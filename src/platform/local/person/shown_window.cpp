@@ -63,10 +63,10 @@ ShownControl* ShownWindow::Find(const std::wstring& text) const {
   return found == controls.end() ? nullptr : found->get();
 }
 
-ShownControl* ShownWindow::WithWindow(WindowHandle handle) const {
+std::shared_ptr<ShownControl> ShownWindow::Shared(WindowHandle handle) const {
   const auto found = std::find_if(controls.begin(), controls.end(),
                                   [handle](const auto& control) { return control->window == handle; });
-  return found == controls.end() ? nullptr : found->get();
+  return found == controls.end() ? nullptr : *found;
 }
 
 ShownControl* ShownWindow::Focused() const {

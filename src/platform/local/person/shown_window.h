@@ -14,6 +14,7 @@
 
 namespace burrowmark {
 
+class ShownDrag;
 class ShownWindow;
 
 // The desktop that a window is on.
@@ -69,7 +70,8 @@ struct ShownControl {
 
   TextSelection selection;                    // of a text box
   bool multiLine = false;                     // likewise
-  bool readOnly = false;                      // likewise
+  bool oleDrop = false;                       // something may be dropped on it
+  bool readOnly = false;                      // of a text box
   bool wantsEnter = false;                    // has a use of its own for the Enter key
   std::int32_t icon = 0;                      // of a picture, by its number
   std::int32_t backColor = 0;                 // likewise, a system colour
@@ -92,6 +94,9 @@ struct ShownControl {
   std::function<bool(std::int32_t keyCode, std::int32_t shift)> UserKeyDown;
   std::function<std::int32_t(std::int32_t character)> UserKeyPress;  // the character to go on with
   std::function<void()> UserClick;
+  std::function<void(const std::function<std::uint32_t(std::uint32_t allowed)>& run)> UserStartDrag;
+  std::function<std::uint32_t(const DragEvent&, DragState)> UserDragOver;
+  std::function<std::uint32_t(const DragEvent&, const std::vector<std::wstring>& files)> UserDragDrop;
   std::function<void(std::int32_t keyCode, std::int32_t shift)> PressKey;  // what the control itself does with a key
   std::function<void(const std::wstring&)> UserType;
   std::function<void(std::int32_t index)> UserChoose;
@@ -138,7 +143,8 @@ class ShownWindow {
   bool IsOpen() const { return form_ != nullptr; }
   // None if there is no control with such a text; "&" doesn't count.
   ShownControl* Find(const std::wstring& text) const;
-  ShownControl* WithWindow(WindowHandle handle) const;
+  ShownControl* WithWindow(WindowHandle handle) const { return Shared(handle).get(); }
+  std::shared_ptr<ShownControl> Shared(WindowHandle handle) const;
   ShownControl* Focused() const;
   // The control whose label is being edited; mostly none.
   ShownControl* Edited() const;
@@ -186,6 +192,9 @@ class ShownWindow {
   void CheckNode(WindowHandle tree, const std::wstring& text);
   // The button that opens or closes it.
   void ToggleNode(WindowHandle tree, const std::wstring& text);
+  // Presses there and drags: `way` is what happens until the button is let go, by Drop, or given up.
+  void DragRow(WindowHandle list, std::int32_t row, const std::function<void(ShownDrag& drag)>& way);
+  void DragNode(WindowHandle tree, const std::wstring& text, const std::function<void(ShownDrag& drag)>& way);
   // Into the open label edit, instead of what is there. Enter takes it, Esc gives it up.
   void TypeLabel(const std::wstring& text);
 
@@ -218,6 +227,7 @@ class ShownWindow {
   ShownControl& GetTree(WindowHandle control) const;
   void Press(WindowHandle control, const MouseEvent& event);
   void PressTwice(WindowHandle control, const MouseEvent& event);
+  void DragFrom(WindowHandle control, const MouseEvent& event, const std::function<void(ShownDrag& drag)>& way);
   void RunEditKey(ShownControl& edited, std::int32_t keyCode);
   void RunKey(std::int32_t keyCode, std::int32_t shift);
   void RunOwnKey(std::int32_t keyCode, std::int32_t shift);

@@ -5,6 +5,7 @@
 
 #include "platform/characters.h"
 #include "platform/key_codes.h"
+#include "platform/local/person/shown_drag.h"
 #include "platform/local/person/shown_window.h"
 
 namespace burrowmark {
@@ -106,6 +107,76 @@ void ShownWindow::ClickNode(WindowHandle tree, const std::wstring& text, std::in
 
 void ShownWindow::DoubleClickNode(WindowHandle tree, const std::wstring& text) {
   PressTwice(tree, EventAt(*GetTree(tree).tree, text, kLeftButton, 0));
+}
+
+// The press selects what it selects, and is let go by the drag.
+void ShownWindow::DragFrom(WindowHandle control, const MouseEvent& event,
+                           const std::function<void(ShownDrag& drag)>& way) {
+  Do([this, control, event, way] {
+    if (const auto door = Get(control).UserMouse) door(MouseAction::kDown, event);
+    const ShownControl* pressed = WithWindow(control);
+    const auto start = pressed == nullptr ? nullptr : pressed->UserStartDrag;
+    if (!start) return;
+    start([&way](std::uint32_t allowed) {
+      ShownDrag drag(allowed);
+      way(drag);
+      return drag.GiveUp();
+    });
+  });
+}
+
+void ShownWindow::DragRow(WindowHandle list, std::int32_t row, const std::function<void(ShownDrag& drag)>& way) {
+  DragFrom(list, EventAt(*GetList(list).list, row, kLeftButton, 0), way);
+}
+
+void ShownWindow::DragNode(WindowHandle tree, const std::wstring& text,
+                           const std::function<void(ShownDrag& drag)>& way) {
+  DragFrom(tree, EventAt(*GetTree(tree).tree, text, kLeftButton, 0), way);
+}
+
+// --- what is dragged
+
+void ShownDrag::Move(const ShownWindow& window, WindowHandle control, const MouseEvent& at) {
+  event_.shift = at.shift;
+  event_.x = at.x;
+  event_.y = at.y;
+  std::shared_ptr<ShownControl> under = window.Shared(control);
+  if (under != nullptr && !under->oleDrop) under = nullptr;
+  if (under != over_) Leave();
+  const bool enters = over_ == nullptr;
+  over_ = under;
+  const auto door = over_ == nullptr ? nullptr : over_->UserDragOver;
+  Effect = door ? door(event_, enters ? DragState::kEnter : DragState::kOver) : kEffectNone;
+}
+
+void ShownDrag::OverRow(const ShownWindow& window, WindowHandle list, std::int32_t row, std::int32_t shift) {
+  Move(window, list, EventAt(*window.Shared(list)->list, row, 0, shift));
+}
+
+void ShownDrag::OverNode(const ShownWindow& window, WindowHandle tree, const std::wstring& text, std::int32_t shift) {
+  Move(window, tree, EventAt(*window.Shared(tree)->tree, text, 0, shift));
+}
+
+void ShownDrag::Over(const ShownWindow& window, WindowHandle control) { Move(window, control, {}); }
+
+void ShownDrag::Leave() {
+  const auto door = over_ == nullptr ? nullptr : over_->UserDragOver;
+  over_ = nullptr;
+  Effect = kEffectNone;
+  if (door) door(event_, DragState::kLeave);
+}
+
+// Where nothing would be done with it, it leaves.
+void ShownDrag::Drop() {
+  const auto door = over_ == nullptr || Effect == kEffectNone ? nullptr : over_->UserDragDrop;
+  if (!door) return Leave();
+  over_ = nullptr;
+  Effect = door(event_, files_);
+}
+
+std::uint32_t ShownDrag::GiveUp() {
+  if (over_ != nullptr) Leave();
+  return Effect;
 }
 
 void ShownWindow::CheckNode(WindowHandle tree, const std::wstring& text) {

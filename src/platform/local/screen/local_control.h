@@ -32,6 +32,12 @@ class LocalControl : public KindPeer {
       return state.UserKeyDown(keyCode, shift);
     };
     shown_->UserKeyPress = [&state](std::int32_t character) { return state.UserKeyPress(character); };
+    shown_->oleDrop = state.OLEDrop();
+    shown_->UserStartDrag = [&state](const auto& run) { state.UserStartDrag(run); };
+    shown_->UserDragOver = [&state](const DragEvent& event, DragState drag) { return state.UserDragOver(event, drag); };
+    shown_->UserDragDrop = [&state](const DragEvent& event, const std::vector<std::wstring>& files) {
+      return state.UserDragDrop(event, files);
+    };
     ToolTipChanged();
     PlaceChanged();
     form_->controls.push_back(shown_);
@@ -49,6 +55,9 @@ class LocalControl : public KindPeer {
     shown_->UserMouse = nullptr;
     shown_->UserKeyDown = nullptr;
     shown_->UserKeyPress = nullptr;
+    shown_->UserStartDrag = nullptr;
+    shown_->UserDragOver = nullptr;
+    shown_->UserDragDrop = nullptr;
     shown_->UserClick = nullptr;
     shown_->PressKey = nullptr;
     shown_->UserButtonClick = nullptr;

@@ -273,6 +273,9 @@ LRESULT Win32ListView::Notify(NMHDR& record) {
     case NM_DBLCLK:
       NoteDoubleClick();
       return 0;
+    case LVN_BEGINDRAG:
+      Drag();
+      return 0;
     case NM_RCLICK:
       return 1;  // no context menu of its own
     case LVN_COLUMNCLICK:

@@ -230,6 +230,9 @@ LRESULT Win32TreeView::Notify(NMHDR& record) {
     case NM_DBLCLK:
       NoteDoubleClick();
       return 0;
+    case TVN_BEGINDRAGW:
+      Drag();
+      return 0;
     case NM_RCLICK:
       return 1;  // no context menu of its own
     case TVN_SELCHANGEDW:

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "platform/key_codes.h"
+#include "platform/win32/windows/drag_source.h"
 
 namespace burrowmark {
 
@@ -54,9 +55,11 @@ LRESULT ViewWindow::Press(const MouseEvent& event, UINT message, WPARAM wParam, 
   held_ = event.button;
   clicked_ = false;
   doubleClicked_ = false;
+  dragged_ = false;
   if (message != WM_LBUTTONDBLCLK) state_.UserMouse(MouseAction::kDown, event);
   if (IsRetired()) return 0;
   const LRESULT result = RunNative(message == WM_RBUTTONDBLCLK ? WM_RBUTTONDOWN : message, wParam, lParam);
+  if (dragged_) return result;
   if (!IsRetired()) Pressed(event);
   if (!IsRetired() && std::exchange(doubleClicked_, false)) {
     clicked_ = false;
@@ -70,6 +73,15 @@ LRESULT ViewWindow::LetGo(const MouseEvent& event, UINT message, WPARAM wParam, 
   const LRESULT result = RunNative(message, wParam, lParam);
   if (!IsRetired() && held_ == event.button) Finish(event);
   return result;
+}
+
+void ViewWindow::Drag() {
+  state_.UserStartDrag([this](std::uint32_t allowed) {
+    dragged_ = true;
+    held_ = 0;
+    clicked_ = false;
+    return RunDrag(Handle(), allowed);
+  });
 }
 
 void ViewWindow::Finish(MouseEvent event) {

@@ -38,6 +38,8 @@ class ViewWindow : public ChildWindow {
   // True for the outermost.
   bool StopUpdate();
 
+  // The control says that the user begins to drag.
+  void Drag();
   // The control's notifications of clicks.
   void NoteClick() { clicked_ = true; }
   void NoteDoubleClick() { doubleClicked_ = true; }
@@ -79,6 +81,7 @@ class ViewWindow : public ChildWindow {
   std::int32_t held_ = 0;  // the button that is down
   bool clicked_ = false;
   bool doubleClicked_ = false;
+  bool dragged_ = false;  // the press went over into a drag, which swallows its release
 };
 
 }  // namespace burrowmark

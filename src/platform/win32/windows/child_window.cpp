@@ -28,10 +28,17 @@ ChildWindow::ChildWindow(const wchar_t* className, const std::wstring& text, DWO
   ::SendMessageW(window_, WM_SETFONT, reinterpret_cast<WPARAM>(form_.Font()), FALSE);
   ::SetWindowSubclass(window_, Procedure, kSubclass, reinterpret_cast<DWORD_PTR>(this));
   if (!control.ToolTipText().empty()) ShowTip();
+  if (control.OLEDrop()) drop_ = std::make_unique<DropRegistration>(window_, control, form_);
+}
+
+void ChildWindow::Retire() {
+  control_ = nullptr;
+  if (drop_) drop_->Retire();
 }
 
 ChildWindow::~ChildWindow() {
   Retire();
+  drop_ = nullptr;
   if (window_ != nullptr) ::DestroyWindow(window_);
 }
 
@@ -85,6 +92,7 @@ LRESULT CALLBACK ChildWindow::Procedure(HWND window, UINT message, WPARAM wParam
   if (message == WM_NCDESTROY) {
     ::RemoveWindowSubclass(window, Procedure, kSubclass);
     self->form_.RemoveControl(window);
+    self->drop_ = nullptr;
     self->window_ = nullptr;
   } else if (!self->IsRetired()) {
     const auto result = FromSystem([&] { return self->Receive(message, wParam, lParam); }, std::optional<LRESULT>());

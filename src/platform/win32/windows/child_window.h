@@ -3,11 +3,13 @@
 
 #include <windows.h>
 
+#include <memory>
 #include <optional>
 #include <string>
 
 #include "platform/peers/ui_peers.h"
 #include "platform/win32/handles.h"
+#include "platform/win32/windows/drop_target.h"
 #include "platform/win32/windows/form_window.h"
 
 namespace burrowmark {
@@ -27,7 +29,7 @@ class ChildWindow {
   ChildWindow& operator=(const ChildWindow&) = delete;
 
   HWND Handle() const { return window_; }
-  void Retire() { control_ = nullptr; }
+  void Retire();
   bool IsRetired() const { return control_ == nullptr; }
 
   void Place() const;
@@ -74,6 +76,7 @@ class ChildWindow {
   ControlState* control_;  // none after the retirement
   HWND window_ = nullptr;
   WNDPROC native_ = nullptr;
+  std::unique_ptr<DropRegistration> drop_;
 };
 
 // The peer of a control whose window is a system's own.

@@ -4,6 +4,7 @@
 
 #include "platform/from_system.h"
 #include "platform/win32/handles.h"
+#include "platform/win32/windows/drag_source.h"
 
 namespace burrowmark {
 namespace {
@@ -121,6 +122,7 @@ std::int64_t Win32Windows::ProcessNumber() { return ::GetCurrentProcessId(); }
 void Win32Windows::SetForegroundWindow(WindowHandle window) { ::SetForegroundWindow(FrontOf(ToHwnd(window))); }
 
 void Win32Windows::CancelModes() {
+  CancelDrag();
   GUITHREADINFO thread = {};
   thread.cbSize = sizeof(thread);
   if (::GetGUIThreadInfo(::GetCurrentThreadId(), &thread) == FALSE) return;
