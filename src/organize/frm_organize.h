@@ -121,6 +121,7 @@ class frmOrganize final : public ProgramForm {
   bool SaveListing(const std::wstring& path);
   void TellSaved(const std::wstring& path);
   void SetDefaultCommand();
+  void ShowInformation();
 
   // --- panes (frm_organize_views.cpp)
   void ShowSelectedNode(bool KeepList);

@@ -78,7 +78,7 @@ std::span<const frmOrganize::CommandRow> frmOrganize::Commands() {
       {{1, L"mnuFileSaveAs", L"Save &As..."}, [](frmOrganize& form) { form.SaveConfigAsCommand(); }},
       {{1, L"mnuFileSetDefault", L"Set As Defaul&t"}, [](frmOrganize& form) { form.SetDefaultCommand(); }},
       Line(1, L"mnuFileSep3"),
-      {{1, L"mnuFileProperties", L"&Information..."}, kLater},
+      {{1, L"mnuFileProperties", L"&Information..."}, [](frmOrganize& form) { form.ShowInformation(); }},
       {{1, L"mnuOptionsSettings", L"O&ptions..."}, kLater},
       Line(1, L"mnuFileSep4"),
       {{1, L"mnuFileExitDiscardChanges", L"Exit Discarding &Changes"},
