@@ -15,6 +15,7 @@
 #include "config/config_file.h"
 #include "core/program_form.h"
 #include "core/progress.h"
+#include "groups/personal_group.h"
 #include "organize/edit_history.h"
 #include "organize/enabling.h"
 #include "organize/item_clipboard.h"
@@ -183,6 +184,10 @@ class frmOrganize final : public ProgramForm {
   void DeleteItems(const std::vector<ItemRef>& items);
   void DeleteGeneratedGroup(TreeEdit& edit, const clsMenuItem& group);
   void Inform(const std::wstring& text);
+
+  // --- the groups that can be made anew (frm_organize_restore.cpp)
+  void ShowRestoreWizard(const std::wstring& group);
+  bool RestoreShortcuts(const std::wstring& group, PersonalContent content);
 
   // --- single items (frm_organize_items.cpp)
   void NewItem(const std::wstring& Kind);
