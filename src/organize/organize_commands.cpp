@@ -8,6 +8,7 @@
 #include "platform/key_codes.h"
 #include "projection/organized_folders.h"
 #include "tools/about.h"
+#include "tools/tip.h"
 
 namespace burrowmark {
 namespace {
@@ -167,7 +168,7 @@ std::span<const frmOrganize::CommandRow> frmOrganize::Commands() {
       {{1, L"mnuHelpCheckLatestVersion", L"Check Latest &Version"},
        [](frmOrganize& form) { form.OpenWebPage(L"/products/bm/versions.html"); }},
       Line(1, L"mnuHelpSep2"),
-      {{1, L"mnuHelpTip", L"&Tip of the Day..."}, kLater},
+      {{1, L"mnuHelpTip", L"&Tip of the Day..."}, [](frmOrganize& form) { frmTip(form.app_).Show(Modal, form); }},
       Line(1, L"mnuHelpSep3"),
       {{1, L"mnuHelpAbout", L"&About Burrowmark..."}, [](frmOrganize& form) { frmAbout(form.app_).Show(Modal, form); }},
       Holds(0, L"mnuPopup", L"Popup"),
