@@ -5,6 +5,8 @@ from harness import BOX_CLASS, wait_for
 from test_edits import EditTest
 from test_organize import TITLES
 
+INTERNATIONAL = "Control Panel\\International"
+
 
 class Information(EditTest):
     def open(self):
@@ -35,6 +37,27 @@ class Information(EditTest):
         self.keys("Esc")
         self.desktop.wait_gone(dialog)
         self.assertEqual(self.program.file.read_bytes(), content)
+
+
+class Properties(EditTest):
+    def set_form(self, **values):
+        """Settings of the user's own form of dates and times, until the end of the test."""
+        for name, text in values.items():
+            before = self.desktop.registry_text(INTERNATIONAL, name) or ""
+            self.addCleanup(self.desktop.driver, "write-value", INTERNATIONAL, name, before)
+            self.desktop.driver("write-value", INTERNATIONAL, name, text)
+
+    def test_times_show_in_the_users_own_form(self):
+        self.editor.close_and_wait()
+        self.program.end()
+        self.set_form(sLongDate="yyyy d MMMM", sTime=".", iTime="1", iTLZero="1", s2359="nachm.")
+        self.reopen()
+        self.select("Photos")
+        self.keys("alt+Return")
+        properties = self.dialog("Properties")
+        self.assertIn("2003 5 November 14.07.09 nachm.", [child.title for child in self.desktop.children(properties)])
+        self.keys("Esc")
+        self.desktop.wait_gone(properties)
 
 
 class Restore(EditTest):
