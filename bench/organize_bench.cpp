@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "bench/bench_machine.h"
+#include "config/frm_properties_config_file.h"
 #include "core/numbers.h"
 #include "organize/frm_organize.h"
 
@@ -30,6 +31,12 @@ class BenchEditor {
   }
   void Close() { form_->Unload(); }
   void Refresh() { form_->RefreshViews({}, true); }
+  void Inform() {
+    frmPropertiesConfigFile dialog(app_);
+    dialog.Init(app_.MainDocument);
+    dialog.Show();
+    dialog.Unload();
+  }
 
  private:
   BenchMachine machine_;
@@ -54,6 +61,12 @@ void RefreshThePanes(benchmark::State& state) {
   for (auto _ : state) editor.Refresh();
 }
 BENCHMARK(RefreshThePanes)->Arg(300)->Arg(3000)->Unit(benchmark::kMillisecond);
+
+void ShowTheInformation(benchmark::State& state) {
+  BenchEditor editor(state.range(0));
+  for (auto _ : state) editor.Inform();
+}
+BENCHMARK(ShowTheInformation)->Arg(3000)->Arg(30000)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace burrowmark

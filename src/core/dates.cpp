@@ -131,10 +131,11 @@ std::size_t AppendQuoted(std::wstring& text, std::wstring_view picture, std::siz
 
 }  // namespace
 
-Date Now(const Clock& clock) {
-  const LocalTime now = clock.GetLocalTime();
-  return AddSeconds(DateFromParts(now.year, now.month, now.day),
-                    static_cast<long long>(now.hour) * 3600 + now.minute * 60 + now.second);
+Date Now(const Clock& clock) { return DateOf(clock.GetLocalTime()); }
+
+Date DateOf(const LocalTime& moment) {
+  return AddSeconds(DateFromParts(moment.year, moment.month, moment.day),
+                    static_cast<long long>(moment.hour) * 3600 + moment.minute * 60 + moment.second);
 }
 
 Date DateFromParts(int year, int month, int day) {

@@ -13,6 +13,8 @@ using Date = double;
 
 // This moment, to the second.
 Date Now(const Clock& clock);
+// Throws OverflowFailure for dates outside the years 100 to 9999, as does what follows.
+Date DateOf(const LocalTime& moment);
 
 // A date from its numbers. A month or a day beyond its range runs into the next ones; years 0 to 29 are 2000 to 2029,
 // and 30 to 99 are 1930 to 1999. Throws OverflowFailure for dates outside the years 100 to 9999.

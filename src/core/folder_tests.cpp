@@ -9,7 +9,6 @@
 namespace burrowmark {
 namespace {
 
-constexpr std::int32_t kPatience = 3000;  // milliseconds for a server
 constexpr wchar_t kSeparators[] = L"\\/";
 
 bool IsSeparator(wchar_t character) { return character == L'\\' || character == L'/'; }
@@ -17,7 +16,7 @@ bool IsSeparator(wchar_t character) { return character == L'\\' || character == 
 bool IsOnServer(const std::wstring& path) { return path.size() > 2 && IsSeparator(path[0]) && IsSeparator(path[1]); }
 
 // "\\SERVER", or "X:".
-std::wstring PlaceOf(const std::wstring& path) {
+std::wstring ServerOf(const std::wstring& path) {
   const std::wstring place =
       IsOnServer(path) ? L"\\\\" + path.substr(2, path.find_first_of(kSeparators, 2) - 2) : path.substr(0, 2);
   return UpperCaseText(place);
@@ -30,18 +29,38 @@ bool IsNetworkPlace(FileSystem& files, const std::wstring& path) {
          (path.size() > 1 && path[1] == L':' && files.GetDriveTypeA(path.substr(0, 2)) == kDriveTypeRemote);
 }
 
+std::wstring ShareOf(const std::wstring& path) {
+  if (!IsOnServer(path)) return path.substr(0, 2) + L"\\";
+  const std::size_t behindServer = path.find_first_of(kSeparators, 2);
+  return behindServer == std::wstring::npos ? path : path.substr(0, path.find_first_of(kSeparators, behindServer + 1));
+}
+
 FolderAnswer FolderTests::Test(const std::wstring& path) {
   const auto answer = [](bool there) { return there ? FolderAnswer::kThere : FolderAnswer::kMissing; };
   if (!IsNetworkPlace(files_, path)) return answer(FolderOrDriveExists(files_, path));
   if (files_.DriveExists(path)) return FolderAnswer::kThere;
-  const std::wstring place = PlaceOf(path);
-  if (silent_.contains(place)) return FolderAnswer::kNoAnswer;
+  const auto there = std::make_shared<bool>(false);
+  const bool told = Ask(path, [there, path](FileSystem& files) {
+    *there = files.FolderExists(path);
+    return true;
+  });
+  return told ? answer(*there) : FolderAnswer::kNoAnswer;
+}
+
+bool FolderTests::Ask(const std::wstring& path, const std::function<bool(FileSystem& files)>& question) {
+  if (!IsNetworkPlace(files_, path)) return question(files_);
+  const std::wstring server = ServerOf(path);
+  const std::wstring share = UpperCaseText(ShareOf(path));
+  if (silent_.contains(server) || silent_.contains(share)) return false;
   const auto there = std::make_shared<bool>(false);
   // The file system is there as long as the process.
-  const auto work = [there, path, &files = files_] { *there = files.FolderExists(path); };
-  if (workers_.RunWithin(kPatience, work)) return answer(*there);
-  silent_.insert(place);
-  return FolderAnswer::kNoAnswer;
+  const auto work = [there, question, &files = files_] { *there = question(files); };
+  if (!workers_.RunWithin(patience_, work)) {
+    silent_.insert(server);
+    return false;
+  }
+  if (!*there) silent_.insert(share);
+  return *there;
 }
 
 }  // namespace burrowmark

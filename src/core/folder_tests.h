@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <set>
 #include <string>
 
@@ -14,20 +15,28 @@ enum class FolderAnswer : std::uint8_t { kThere, kMissing, kNoAnswer };
 // The path stands on a server: its own, or that of the drive that it names. No server is asked.
 bool IsNetworkPlace(FileSystem& files, const std::wstring& path);
 
-// For the paths of one task. A folder on the machine itself is asked for directly. One on a server has three seconds;
-// a server that didn't answer in that time isn't asked again by this object.
+// "\\server\share" of a path on a server, "X:\" of one on a drive, in the letter case of the path.
+std::wstring ShareOf(const std::wstring& path);
+
+// For the paths of one task. A folder on the machine itself is asked for directly. One on a server has some seconds; a
+// server that didn't answer in that time isn't asked again by this object.
 class FolderTests {
  public:
-  // What the platform refers to must outlive this object.
-  explicit FolderTests(const Platform& platform) : files_(platform.files), workers_(platform.workers) {}
+  // What the platform refers to must outlive this object. `patience` is what a server gets, in milliseconds.
+  explicit FolderTests(const Platform& platform, std::int32_t patience = 3000)
+      : files_(platform.files), workers_(platform.workers), patience_(patience) {}
 
   // Of a folder, or of a drive with a medium in it or not.
   FolderAnswer Test(const std::wstring& path);
+  // Runs a question about a path: as work of platform/workers.h where that is on a server, so that it may outlive this
+  // call. The question's own false: its share or drive isn't there, and isn't asked again. False without an answer.
+  bool Ask(const std::wstring& path, const std::function<bool(FileSystem& files)>& question);
 
  private:
   FileSystem& files_;
   Workers& workers_;
-  std::set<std::wstring> silent_;  // servers and drives that didn't answer, in capitals
+  std::int32_t patience_;
+  std::set<std::wstring> silent_;  // servers, shares and drives that aren't asked any more, in capitals
 };
 
 }  // namespace burrowmark

@@ -1,10 +1,16 @@
 #include "groups/personal_group.h"
 
 #include <algorithm>
+#include <memory>
+#include <utility>
 
+#include "core/dates.h"
+#include "core/failure.h"
 #include "core/file_names.h"
+#include "core/folder_tests.h"
 #include "core/numbers.h"
 #include "core/services.h"
+#include "core/store_copy.h"
 #include "core/text.h"
 #include "groups/special_folders.h"
 
@@ -14,13 +20,12 @@ namespace {
 constexpr std::size_t kMostRecentFolders = 25;
 // The counters start and are tested where they always were: 25 folders in all, or 24 groups of 24 folders each.
 constexpr int kLastCounted = 24;
-constexpr int kDriveUnknownRoot = 1;  // GetDriveTypeA of a root that it can't tell anything about
-constexpr std::uint32_t kFileCompressed = 2048;
+constexpr std::int32_t kPatience = 2000;  // milliseconds for a server that links lead to
+constexpr int kDriveUnknownRoot = 1;      // GetDriveTypeA of a root that it can't tell anything about
 constexpr std::uint32_t kSkippedFolders = kFileHidden | kFileSystem | kFileCompressed;
 
 struct SampleItem {
-  int number;
-  bool inFirst;  // in the group of the first row, not beside it
+  bool below;
   const wchar_t* caption;
   const wchar_t* folder;  // key of a special folder
   bool group;
@@ -28,9 +33,9 @@ struct SampleItem {
 };
 
 constexpr SampleItem kSample[] = {
-    {1, false, L"My Group", L"", true, MIT_GROUP_GENERAL}, {2, false, L"My Documents", L"Personal", false, MIT_PATH},
-    {3, true, L"Desktop", L"Desktop", false, MIT_PATH},    {4, true, L"Start Menu", L"Start Menu", false, MIT_PATH},
-    {5, true, L"Open-All", L"", false, MIT_OPENALL},
+    {false, L"My Group", L"", true, MIT_GROUP_GENERAL}, {false, L"My Documents", L"Personal", false, MIT_PATH},
+    {true, L"Desktop", L"Desktop", false, MIT_PATH},    {true, L"Start Menu", L"Start Menu", false, MIT_PATH},
+    {true, L"Open-All", L"", false, MIT_OPENALL},
 };
 
 // "M" and the number, or the first one from there on that nobody has: an item that was moved elsewhere keeps its own.
@@ -40,17 +45,11 @@ std::wstring FreeFixedName(const clsMenuCollection& store, int number) {
   return name;
 }
 
-ItemRef NewItem(const Application& app, const std::wstring& name, const std::wstring& owner,
-                const std::wstring& caption) {
-  auto item = std::make_shared<clsMenuItem>(app.platform.clock);
-  item->SetName(name);
-  item->SetOwnerName(owner);
-  item->SetCaption(caption);
-  return item;
-}
-
 void AddGroup(const Application& app, clsMenuCollection& store) {
-  const ItemRef group = NewItem(app, MIT_GROUP_USER, kRootOwner, L"Personal");
+  auto group = std::make_shared<clsMenuItem>(app.platform.clock);
+  group->SetName(MIT_GROUP_USER);
+  group->SetOwnerName(kRootOwner);
+  group->SetCaption(L"Personal");
   group->SetSubMenu(true);
   group->UserDescription = L"Contains your shortcuts to local and network folders";
   if (store.ItemExists(MIT_HF_HELP_SEP)) {
@@ -60,34 +59,40 @@ void AddGroup(const Application& app, clsMenuCollection& store) {
   }
 }
 
-void AddSample(const Application& app, clsMenuCollection& store) {
-  std::wstring first;
-  for (const SampleItem& row : kSample) {
-    const std::wstring name = FreeFixedName(store, row.number);
-    if (first.empty()) first = name;
-    const ItemRef item = NewItem(app, name, row.inFirst ? first : MIT_GROUP_USER, row.caption);
-    item->SetSubMenu(row.group);
-    item->ItemType = row.type;
-    item->OpenType = MIT_PATH_EXPLORER;
-    if (*row.folder != L'\0') item->FolderPath = GetSpecialFolderPath(app, row.folder);
-    store.AddOne(item, false, true);
-  }
-}
-
-ItemRef AddFolder(const Application& app, clsMenuCollection& store, const std::wstring& owner,
-                  const std::wstring& caption, const std::wstring& path) {
-  const ItemRef item = NewItem(app, {}, owner, caption);
-  item->FolderPath = path;
+ItemRef AddEntry(const Application& app, clsMenuCollection& store, const std::wstring& owner,
+                 const PersonalEntry& entry) {
+  auto item = std::make_shared<clsMenuItem>(app.platform.clock);
+  if (entry.number > 0) item->SetName(FreeFixedName(store, entry.number));
+  item->SetOwnerName(owner);
+  item->SetCaption(entry.caption);
+  item->SetSubMenu(entry.group);
+  if (!entry.group) item->ItemType = entry.type;
   item->OpenType = MIT_PATH_EXPLORER;
+  item->FolderPath = entry.path;
   store.AddOne(item, false, true);
+  store.GetNewItemCaption2(*item);
   return item;
 }
 
-void AddRecentFolders(Application& app, clsMenuCollection& store) {
-  for (const std::wstring& path : BuildRecentFolders(app)) {
-    const ItemRef item = AddFolder(app, store, MIT_GROUP_USER, GetFileName(path), path);
-    store.GetNewItemCaption2(*item);
+PersonalEntries ReadSample(const Application& app) {
+  PersonalEntries entries;
+  for (const SampleItem& row : kSample) {
+    entries.push_back({.number = static_cast<int>(entries.size()) + 1,
+                       .caption = row.caption,
+                       .path = *row.folder == L'\0' ? std::wstring() : GetSpecialFolderPath(app, row.folder),
+                       .group = row.group,
+                       .below = row.below,
+                       .type = row.type});
   }
+  return entries;
+}
+
+PersonalEntries ReadRecentFolders(Application& app) {
+  PersonalEntries entries;
+  for (const std::wstring& path : BuildRecentFolders(app)) {
+    entries.push_back({.caption = GetFileName(path), .path = path});
+  }
+  return entries;
 }
 
 // A fixed drive of the machine, as an entry of the drive list tells it.
@@ -129,77 +134,125 @@ std::vector<std::wstring> VisibleFolders(Application& app, const std::wstring& d
   return names;
 }
 
-void AddDriveFolders(Application& app, clsMenuCollection& store) {
+PersonalEntries ReadDriveFolders(Application& app) {
+  PersonalEntries entries;
   int folders = 0;
   for (const FixedDrive& drive : FixedDrives(app)) {
     for (const std::wstring& name : VisibleFolders(app, drive.name)) {
-      if (folders > kLastCounted) return;
-      AddFolder(app, store, MIT_GROUP_USER, drive.name + L"_" + name, drive.name + L"\\" + name);
+      if (folders > kLastCounted) return entries;
+      entries.push_back({.caption = drive.name + L"_" + name, .path = drive.name + L"\\" + name});
       ++folders;
     }
   }
+  return entries;
 }
 
-void AddDriveGroups(Application& app, clsMenuCollection& store) {
+PersonalEntries ReadDriveGroups(Application& app) {
+  PersonalEntries entries;
   int groups = 1;
   for (const FixedDrive& drive : FixedDrives(app)) {
-    if (groups > kLastCounted) return;
+    if (groups > kLastCounted) break;
     ++groups;
-    const std::wstring owner = FreeFixedName(store, groups);
-    const ItemRef group = NewItem(app, owner, MIT_GROUP_USER, drive.caption);
-    group->SetSubMenu(true);
-    store.AddOne(group, false, true);
+    entries.push_back({.number = groups, .caption = drive.caption, .group = true});
     int folders = 1;
     for (const std::wstring& name : VisibleFolders(app, drive.name)) {
       if (folders > kLastCounted) break;
-      AddFolder(app, store, owner, name, drive.name + L"\\" + name);
+      entries.push_back({.caption = name, .path = drive.name + L"\\" + name, .below = true});
       ++folders;
     }
   }
+  return entries;
 }
 
-// The folder that a recent link leads to: the one that holds its file, or its target itself; empty where there is none.
-std::wstring FolderOfLink(Application& app, const std::wstring& link) {
+// A link of the Recent folder and the moment at which it was written.
+struct RecentLink {
+  std::wstring path;
+  Date written = 0;
+};
+
+std::vector<RecentLink> RecentLinks(Application& app) {
+  std::vector<RecentLink> links;
+  std::vector<FolderEntry> entries;
+  FileSystem& files = app.platform.files;
+  files.ListFolder(app.RecentFolder, entries);
+  for (const FolderEntry& entry : entries) {
+    if ((entry.attributes & kFileDirectory) != 0 || GetFileExtension(entry.name) != L"lnk") continue;
+    RecentLink link{app.RecentFolder + L"\\" + entry.name};
+    const std::optional<FileFacts> facts = files.GetFileFacts(link.path);
+    Skip([&] {
+      if (facts && facts->modified) link.written = DateOf(*facts->modified);
+    });
+    links.push_back(std::move(link));
+  }
+  std::stable_sort(links.begin(), links.end(),
+                   [](const RecentLink& left, const RecentLink& right) { return left.written > right.written; });
+  return links;
+}
+
+// Tells the folder that a path leads to, the one that holds it where it is a file. False if there is nothing, and its
+// share isn't there either.
+bool FindFolder(FileSystem& files, const std::wstring& path, std::wstring& folder) {
+  if (FileExists(files, path)) {
+    const std::wstring parent = GetFolderName(path);
+    if (files.FolderExists(parent)) folder = parent;
+    return true;
+  }
+  if (files.FolderExists(path)) folder = path;
+  return !folder.empty() || files.FolderExists(ShareOf(path));
+}
+
+// The folder that a link leads to; empty where there is none.
+std::wstring FolderOfLink(Application& app, FolderTests& tests, const std::wstring& link) {
   ShellLink read;
   if (!app.platform.shell.ReadShellLink(link, read)) return {};
-  FileSystem& files = app.platform.files;
-  if (FileExists(files, read.target)) {
-    const std::wstring parent = GetFolderName(read.target);
-    return files.FolderExists(parent) ? parent : std::wstring();
-  }
-  return files.FolderExists(read.target) ? read.target : std::wstring();
+  const auto folder = std::make_shared<std::wstring>();
+  const bool told = tests.Ask(
+      read.target, [folder, path = read.target](FileSystem& files) { return FindFolder(files, path, *folder); });
+  return told ? *folder : std::wstring();
 }
 
 }  // namespace
 
-void SetupPersonalGroup(Application& app, clsMenuCollection& store, PersonalContent content) {
-  AddGroup(app, store);
+PersonalEntries ReadPersonalContent(Application& app, PersonalContent content) {
   switch (content) {
     case PersonalContent::kBlank:
       break;
     case PersonalContent::kSample:
-      AddSample(app, store);
-      break;
+      return ReadSample(app);
     case PersonalContent::kDriveFolders:
-      AddDriveFolders(app, store);
-      break;
+      return ReadDriveFolders(app);
     case PersonalContent::kDriveGroups:
-      AddDriveGroups(app, store);
-      break;
+      return ReadDriveGroups(app);
     case PersonalContent::kRecentFolders:
-      AddRecentFolders(app, store);
-      break;
+      return ReadRecentFolders(app);
   }
+  return {};
+}
+
+void SetupPersonalGroup(Application& app, clsMenuCollection& store, const PersonalEntries& entries) {
+  AddGroup(app, store);
+  std::wstring group = MIT_GROUP_USER;
+  for (const PersonalEntry& entry : entries) {
+    const ItemRef item = AddEntry(app, store, entry.below ? group : MIT_GROUP_USER, entry);
+    if (entry.group) group = item->Name();
+  }
+}
+
+void SetupPersonalGroup(Application& app, clsMenuCollection& store, PersonalContent content) {
+  SetupPersonalGroup(app, store, ReadPersonalContent(app, content));
+}
+
+void RemovePersonalGroup(Application& app, clsMenuCollection& store) {
+  const auto group = CopyGroup(app.platform.clock, store, MIT_GROUP_USER);
+  for (std::int32_t i = group->Count(); i >= 1; --i) store.Remove(group->Item(i)->Name());
 }
 
 std::vector<std::wstring> BuildRecentFolders(Application& app) {
   std::vector<std::wstring> folders;
-  std::vector<FolderEntry> entries;
-  app.platform.files.ListFolder(app.RecentFolder, entries);
-  for (const FolderEntry& entry : entries) {
-    if ((entry.attributes & kFileDirectory) != 0 || GetFileExtension(entry.name) != L"lnk") continue;
+  FolderTests tests(app.platform, kPatience);
+  for (const RecentLink& link : RecentLinks(app)) {
     if (folders.size() >= kMostRecentFolders) break;
-    const std::wstring folder = FolderOfLink(app, app.RecentFolder + L"\\" + entry.name);
+    const std::wstring folder = FolderOfLink(app, tests, link.path);
     const bool known = std::any_of(folders.begin(), folders.end(),
                                    [&folder](const std::wstring& other) { return EqualIgnoringCase(other, folder); });
     if (!folder.empty() && !known) folders.push_back(folder);

@@ -17,11 +17,27 @@ enum class PersonalContent {
   kRecentFolders = 4,  // 25 folders of the user's recent documents
 };
 
-// Adds the personal group behind the Help entries, or at its sorted place without them, and fills it. Drives and
-// folders that can't be read are passed over.
-void SetupPersonalGroup(Application& app, clsMenuCollection& store, PersonalContent content);
+// What shall stand in the personal group, in order.
+struct PersonalEntry {
+  int number = 0;  // of its fixed name; 0: the store gives it one
+  std::wstring caption{};
+  std::wstring path{};
+  bool group = false;
+  bool below = false;  // in the group that comes ahead of it
+  std::wstring type = MIT_PATH;
+};
+using PersonalEntries = std::vector<PersonalEntry>;
 
-// The folders that the user's recent documents stand in, each once, in the order of the list: at most 25.
+// Reads drives, folders and links, and lets messages run meanwhile. What can't be read is passed over.
+PersonalEntries ReadPersonalContent(Application& app, PersonalContent content);
+
+// Adds the personal group behind the Help entries, or at its sorted place without them, and fills it.
+void SetupPersonalGroup(Application& app, clsMenuCollection& store, const PersonalEntries& entries);
+void SetupPersonalGroup(Application& app, clsMenuCollection& store, PersonalContent content);
+// Takes the group and everything under it out of a store.
+void RemovePersonalGroup(Application& app, clsMenuCollection& store);
+
+// The folders that the user's recent documents stand in, each once, the latest first: at most 25.
 std::vector<std::wstring> BuildRecentFolders(Application& app);
 
 }  // namespace burrowmark

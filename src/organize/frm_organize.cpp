@@ -12,6 +12,7 @@
 #include "groups/drives.h"
 #include "organize/node_keys.h"
 #include "platform/key_codes.h"
+#include "tools/tip.h"
 
 namespace burrowmark {
 namespace {
@@ -50,6 +51,12 @@ std::vector<ToolbarButtonState> ToolbarButtons() {
           Button(L"keyDelete", 8),
           Separator(),
           std::move(properties)};
+}
+
+// The window may have gone by then.
+void ShowTip(Application& app) {
+  const OpenWindow* editor = app.Windows.Find(ProgramWindow::kOrganize);
+  if (editor != nullptr) frmTip(app).Show(Modal, editor->Handle());
 }
 
 }  // namespace
@@ -100,9 +107,12 @@ void frmOrganize::AdoptDefaultFile() {
 void frmOrganize::Form_Activate() {
   if (!std::exchange(FirstActivate_, false)) return;
   const std::wstring notice = std::exchange(app_.MainDocument.Notice, {});
-  if (notice.empty()) return;
-  app_.Requests.Add(
-      [&app = app_, notice] { app.platform.dialogs.MessageBoxA(app.MainWindow, notice, kMessageTitle, kBoxWarning); });
+  if (!notice.empty()) {
+    app_.Requests.Add([&app = app_, notice] {
+      app.platform.dialogs.MessageBoxA(app.MainWindow, notice, kMessageTitle, kBoxWarning);
+    });
+  }
+  if (app_.ShowTips) app_.Requests.Add([&app = app_] { ShowTip(app); });
 }
 
 bool frmOrganize::InGesture() const {

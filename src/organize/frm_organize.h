@@ -15,6 +15,7 @@
 #include "config/config_file.h"
 #include "core/program_form.h"
 #include "core/progress.h"
+#include "groups/personal_group.h"
 #include "organize/edit_history.h"
 #include "organize/enabling.h"
 #include "organize/item_clipboard.h"
@@ -122,6 +123,7 @@ class frmOrganize final : public ProgramForm {
   bool SaveListing(const std::wstring& path);
   void TellSaved(const std::wstring& path);
   void SetDefaultCommand();
+  void ShowInformation();
 
   // --- panes (frm_organize_views.cpp)
   void ShowSelectedNode(bool KeepList);
@@ -183,6 +185,10 @@ class frmOrganize final : public ProgramForm {
   void DeleteItems(const std::vector<ItemRef>& items);
   void DeleteGeneratedGroup(TreeEdit& edit, const clsMenuItem& group);
   void Inform(const std::wstring& text);
+
+  // --- the groups that can be made anew (frm_organize_restore.cpp)
+  void ShowRestoreWizard(const std::wstring& group);
+  bool RestoreShortcuts(const std::wstring& group, PersonalContent content);
 
   // --- single items (frm_organize_items.cpp)
   void NewItem(const std::wstring& Kind);

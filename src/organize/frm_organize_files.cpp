@@ -1,4 +1,5 @@
 #include "config/config_file.h"
+#include "config/frm_properties_config_file.h"
 #include "core/file_names.h"
 #include "core/form_services.h"
 #include "core/hot_keys.h"
@@ -170,6 +171,23 @@ void frmOrganize::SetDefaultCommand() {
   app_.platform.dialogs.MessageBoxA(Window(), name + L" is now the default configuration file.", kTitle,
                                     kBoxInformation);
   DefaultChanged = true;
+}
+
+// The texts are written at once, without the tree. Those that couldn't be written wait for the next save.
+void frmOrganize::ShowInformation() {
+  frmPropertiesConfigFile dialog(app_);
+  if (!dialog.Init(Edited)) {
+    app_.platform.dialogs.MessageBoxA(Window(), L"File " + Edited.CurrentConfigFile + L" doesn't exist.", kTitle,
+                                      kBoxCritical);
+  }
+  dialog.Show(Modal, *this);
+  if (!dialog.Changed) return;
+  Edited.Summary = dialog.Summary();
+  // The menu's document may belong to the same file, and mustn't bring the old texts back.
+  if (app_.MainDocument.CurrentConfigFile == Edited.CurrentConfigFile) app_.MainDocument.Summary = Edited.Summary;
+  if (ConfigFileUpdateSummary(app_, Edited)) return;
+  Edited.Changed = true;
+  ReportSaveError();
 }
 
 }  // namespace burrowmark

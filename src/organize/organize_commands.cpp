@@ -8,6 +8,7 @@
 #include "platform/key_codes.h"
 #include "projection/organized_folders.h"
 #include "tools/about.h"
+#include "tools/tip.h"
 
 namespace burrowmark {
 namespace {
@@ -78,7 +79,7 @@ std::span<const frmOrganize::CommandRow> frmOrganize::Commands() {
       {{1, L"mnuFileSaveAs", L"Save &As..."}, [](frmOrganize& form) { form.SaveConfigAsCommand(); }},
       {{1, L"mnuFileSetDefault", L"Set As Defaul&t"}, [](frmOrganize& form) { form.SetDefaultCommand(); }},
       Line(1, L"mnuFileSep3"),
-      {{1, L"mnuFileProperties", L"&Information..."}, kLater},
+      {{1, L"mnuFileProperties", L"&Information..."}, [](frmOrganize& form) { form.ShowInformation(); }},
       {{1, L"mnuOptionsSettings", L"O&ptions..."}, kLater},
       Line(1, L"mnuFileSep4"),
       {{1, L"mnuFileExitDiscardChanges", L"Exit Discarding &Changes"},
@@ -153,8 +154,10 @@ std::span<const frmOrganize::CommandRow> frmOrganize::Commands() {
       {{2, L"mnuToolsRefreshFavorites", L"in the &Favorites"},
        [](frmOrganize& form) { form.RefreshProjection(kProjectionTargets[2]); }},
       Holds(1, L"mnuToolsRestore", L"Res&tore"),
-      {{2, L"mnuToolsRestorePersonal", L"&Personal Group..."}, kLater},
-      {{2, L"mnuToolsRestoreSystemFolders", L"&System Folders Group..."}, kLater},
+      {{2, L"mnuToolsRestorePersonal", L"&Personal Group..."},
+       [](frmOrganize& form) { form.ShowRestoreWizard(MIT_GROUP_USER); }},
+      {{2, L"mnuToolsRestoreSystemFolders", L"&System Folders Group..."},
+       [](frmOrganize& form) { form.ShowRestoreWizard(MIT_PATHS_SYSTEM); }},
       Holds(0, L"mnuHelp", L"&Help"),
       {{1, L"mnuHelpContents", L"&Contents"}, [](frmOrganize& form) { ShowHelp(form.app_, kHelpContents); }},
       {{1, L"mnuHelpIndex", L"&Index"}, [](frmOrganize& form) { ShowHelp(form.app_, kHelpIndex); }},
@@ -165,7 +168,7 @@ std::span<const frmOrganize::CommandRow> frmOrganize::Commands() {
       {{1, L"mnuHelpCheckLatestVersion", L"Check Latest &Version"},
        [](frmOrganize& form) { form.OpenWebPage(L"/products/bm/versions.html"); }},
       Line(1, L"mnuHelpSep2"),
-      {{1, L"mnuHelpTip", L"&Tip of the Day..."}, kLater},
+      {{1, L"mnuHelpTip", L"&Tip of the Day..."}, [](frmOrganize& form) { frmTip(form.app_).Show(Modal, form); }},
       Line(1, L"mnuHelpSep3"),
       {{1, L"mnuHelpAbout", L"&About Burrowmark..."}, [](frmOrganize& form) { frmAbout(form.app_).Show(Modal, form); }},
       Holds(0, L"mnuPopup", L"Popup"),
@@ -189,7 +192,8 @@ std::span<const frmOrganize::CommandRow> frmOrganize::Commands() {
       {{2, L"mnuPopupCopyComplete", L"&Complete Network Path"},
        [](frmOrganize& form) { form.CopyTargetLocations(true); }},
       Line(1, L"mnuPopupSepRestore"),
-      {{1, L"mnuPopupRestore", L"Re&store..."}, kLater},
+      {{1, L"mnuPopupRestore", L"Re&store..."},
+       [](frmOrganize& form) { form.ShowRestoreWizard(NameOfKey(form.GetSelectedTarget().Key)); }},
       Line(1, L"mnuPopupSep5"),
       {{1, L"mnuPopupProperties", L"P&roperties..."}, [](frmOrganize& form) { form.ShowItemProperties(false); }},
       Holds(0, L"mnuPopup2", L"Popup2"),

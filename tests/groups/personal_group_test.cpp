@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
+#include <filesystem>
+
 #include "core/numbers.h"
 #include "tests/support/menu_scene.h"
 
@@ -107,16 +110,36 @@ TEST_F(PersonalGroup, RecentDocumentsBecomeTheFoldersThatHoldThem) {
   EXPECT_EQ(store_.CaptionExists2(L"C", MIT_GROUP_USER, false, L"")->FolderPath, L"C:\\");
 }
 
-TEST_F(PersonalGroup, TwentyFiveRecentFoldersEachOnce) {
+TEST_F(PersonalGroup, TwentyFiveRecentFoldersEachOnceTheLatestFirst) {
   for (int i = 10; i < 40; ++i) {
     const std::wstring folder = L"C:\\r\\" + DecimalText(i);
     machine_.AddFolders(folder);
-    MakeLink(DecimalText(i) + L" a", folder);
-    MakeLink(DecimalText(i) + L" b", folder);
+    for (const wchar_t* name : {L"a", L"b"}) {
+      MakeLink(name + DecimalText(i), folder);
+      const auto written = std::filesystem::file_time_type::clock::now() - std::chrono::hours(i % 30);
+      std::filesystem::last_write_time(machine_.RealPath(app_.RecentFolder + L"\\" + name + DecimalText(i) + L".lnk"),
+                                       written);
+    }
   }
   const std::vector<std::wstring> folders = BuildRecentFolders(app_);
   ASSERT_EQ(folders.size(), 25U);
-  EXPECT_EQ(folders.back(), L"C:\\r\\34");
+  EXPECT_EQ(folders.front(), L"C:\\r\\30");
+  EXPECT_EQ(folders.back(), L"C:\\r\\24");
+}
+
+// Each would cost seconds.
+TEST_F(PersonalGroup, AServerThatIsAwayIsAskedOnceForAllLinks) {
+  machine_.AddFolders(L"\\\\live\\share\\Docs");
+  machine_.faults.SilentPlaces = {L"\\\\DEAD"};
+  for (int i = 0; i < 40; ++i) {
+    MakeLink(L"d" + DecimalText(i), L"\\\\dead\\share\\" + DecimalText(i) + L".txt");
+    MakeLink(L"g" + DecimalText(i), L"\\\\live\\gone\\" + DecimalText(i) + L".txt");
+    MakeLink(L"m" + DecimalText(i), L"\\\\live\\share\\missing.txt");
+  }
+  MakeLink(L"x", L"\\\\live\\share\\Docs");
+  EXPECT_EQ(BuildRecentFolders(app_), std::vector<std::wstring>{L"\\\\live\\share\\Docs"});
+  EXPECT_EQ(machine_.workers.VainWaits, 1U);
+  EXPECT_EQ(machine_.workers.Waits, 43U) << "the server that is away, the share that is gone, and what is missing";
 }
 
 TEST_F(PersonalGroup, WithoutRecentFoldersTheFirstStartMapsTheDrives) {

@@ -164,13 +164,13 @@ TEST_F(Organize, EveryKindOfTargetHasItsCommands) {
   struct Case {
     const wchar_t* node;
     const wchar_t* edit;   // Undo | Cut Copy Paste | Delete Rename Change | Copy Target Location | the selection
-    const wchar_t* popup;  // Collapse | Find Report | as in Edit | Properties
+    const wchar_t* popup;  // Collapse | Find Report | as in Edit | Restore | Properties
     const wchar_t* buttons;
   };
   const Case cases[] = {
       {L"Organized Folders", L".|...|...|.|+++", L"+|+.|...|...|.|.", L"WindowsExplorer"},
-      {L"Personal", L".|...|.+.|.|+++", L"+|+.|...|...|+|.|+", L"New Up WindowsExplorer Properties"},
-      {L"System Folders", L".|...|+..|.|+++", L"+|+.|...|+..|+|.|+", L"New Up WindowsExplorer Delete Properties"},
+      {L"Personal", L".|...|.+.|.|+++", L"+|+.|...|...|+|+|+", L"New Up WindowsExplorer Properties"},
+      {L"System Folders", L".|...|+..|.|+++", L"+|+.|...|+..|+|+|+", L"New Up WindowsExplorer Delete Properties"},
       {L"Alpha", L".|++.|+++|+|+++", L"+|+.|++.|+++|+|+", L"New Change Up WindowsExplorer Cut Copy Delete Properties"},
   };
   for (const Case& row : cases) {

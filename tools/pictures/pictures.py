@@ -111,6 +111,19 @@ def take_dialogs(album, editor):
     clash = show("taken-title", "Replace or Rename Existing Item", "ctrl+v")
     desktop.keys("Esc")
     desktop.wait_gone(clash)
+    information = show("information", "Information", "alt+f", "i")
+    for name in ("summary", "statistics"):
+        desktop.keys("ctrl+Tab")
+        album.save("information-" + name)
+    desktop.keys("Esc")
+    desktop.wait_gone(information)
+    for name, key in (("Personal", "p"), ("System Folders", "s")):
+        wizard = show("restore-" + key, "Restore %s Group Wizard" % name, "alt+t", "t", key)
+        desktop.keys("Esc")
+        desktop.wait_gone(wizard)
+    tip = show("tip", "Tip of the Day", "alt+h", "t")
+    desktop.keys("Esc")
+    desktop.wait_gone(tip)
 
 
 def take_all(settings, output, dpi):
