@@ -17,6 +17,7 @@
 #include "core/registry.h"
 #include "core/registry_keys.h"
 #include "platform/key_codes.h"
+#include "platform/local/person/shown_drag.h"
 #include "tests/stress/documents.h"
 #include "tests/support/scratch_machine.h"
 
@@ -182,6 +183,20 @@ class Stress {
     editor->ClickNode(tree->window, node->text);
     editor->Press(kKeyCodeF2);
     if (Chance(85)) TypeLater();
+  }
+  // Within the tree, or folders of another program; what comes meanwhile comes in the middle of the drag.
+  void Drag() {
+    const auto editor = Editor();
+    if (!editor || !editor->enabled) return;
+    const WindowHandle tree = TreeOf(*editor)->window;
+    const auto way = [this, &editor, tree](ShownDrag& drag) {
+      if (Chance(30)) Chance(30) ? OtherProcess(L"/EXIT") : Open();
+      drag.OverNode(*editor, tree, AnyOf(TreeOf(*editor)->tree->Visible())->text, Chance(30) ? kCtrlMask : 0);
+      if (Chance(80)) drag.Drop();
+    };
+    if (Chance(60)) return editor->DragNode(tree, AnyOf(TreeOf(*editor)->tree->Visible())->text, way);
+    ShownDrag folders(kEffectCopy, std::vector<std::wstring>(1 + Upto(3), L"C:\\Windows"));
+    way(folders);
   }
   void ChooseFromBar() {
     const auto editor = Editor();
@@ -393,6 +408,8 @@ class Stress {
     Look();
     const std::optional<EditorView> editor = LookAtEditor();
     if (unsaved_ && documents_.AnyFileHolds(unsaved_->tree)) unsaved_.reset();
+    // What is on a drive that is away just now is seen when it comes back.
+    if (unsaved_ && machine_.RealPath(unsaved_->path).empty()) return;
     const bool stays = unsaved_ && editor && documents_.Same(editor->tree, unsaved_->tree);
     if (unsaved_ && !stays && !mayLose_) Fail("what was edited is lost: " + ToUtf8(unsaved_->path));
     if (!stays) unsaved_.reset();
@@ -498,6 +515,7 @@ constexpr Deed kDeeds[] = {
     {"close box", 20, When::kAnyTime, [](Stress& s) { s.CloseWindows(); }},
     {"rename", 100, When::kAtDoEvents, [](Stress& s) { s.Rename(); }},
     {"menu bar", 100, When::kAtDoEvents, [](Stress& s) { s.ChooseFromBar(); }},
+    {"drag", 50, When::kAtDoEvents, [](Stress& s) { s.Drag(); }},
     {"popup", 50, When::kAtDoEvents, [](Stress& s) { s.ClickRight(); }},
     {"time", 50, When::kAtRest, [](Stress& s) { s.LetTimePass(); }},
     {"fault", 10, When::kAtRest, [](Stress& s) { s.Fault(); }},
