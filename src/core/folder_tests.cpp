@@ -16,18 +16,17 @@ bool IsSeparator(wchar_t character) { return character == L'\\' || character == 
 
 bool IsOnServer(const std::wstring& path) { return path.size() > 2 && IsSeparator(path[0]) && IsSeparator(path[1]); }
 
-// "\\SERVER", or "X:".
-std::wstring PlaceOf(const std::wstring& path) {
-  const std::wstring place =
-      IsOnServer(path) ? L"\\\\" + path.substr(2, path.find_first_of(kSeparators, 2) - 2) : path.substr(0, 2);
-  return UpperCaseText(place);
-}
+bool IsOnDrive(const std::wstring& path) { return path.size() > 1 && path[1] == L':'; }
 
 }  // namespace
 
 bool IsNetworkPlace(FileSystem& files, const std::wstring& path) {
-  return IsOnServer(path) ||
-         (path.size() > 1 && path[1] == L':' && files.GetDriveTypeA(path.substr(0, 2)) == kDriveTypeRemote);
+  return IsOnServer(path) || (IsOnDrive(path) && files.GetDriveTypeA(path.substr(0, 2)) == kDriveTypeRemote);
+}
+
+std::wstring PlaceOf(const std::wstring& path) {
+  if (IsOnServer(path)) return UpperCaseText(L"\\\\" + path.substr(2, path.find_first_of(kSeparators, 2) - 2));
+  return IsOnDrive(path) ? UpperCaseText(path.substr(0, 2)) : std::wstring();
 }
 
 FolderAnswer FolderTests::Test(const std::wstring& path) {

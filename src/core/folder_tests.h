@@ -13,6 +13,8 @@ enum class FolderAnswer : std::uint8_t { kThere, kMissing, kNoAnswer };
 
 // The path stands on a server: its own, or that of the drive that it names. No server is asked.
 bool IsNetworkPlace(FileSystem& files, const std::wstring& path);
+// What a path stands on, in capitals: "\\\\SERVER", or the drive "X:"; empty for a path that names neither.
+std::wstring PlaceOf(const std::wstring& path);
 
 // For the paths of one task. A folder on the machine itself is asked for directly. One on a server has three seconds;
 // a server that didn't answer in that time isn't asked again by this object.

@@ -140,7 +140,7 @@ std::span<const frmOrganize::CommandRow> frmOrganize::Commands() {
       {{1, L"mnuToolsFind", L"&Find..."}, [](frmOrganize& form) { form.FindCommand(); }},
       {{1, L"mnuToolsReport", L"Folder &Report..."}, kLater},
       Line(1, L"mnuToolsSep1"),
-      {{1, L"mnuToolsVerifyShortcuts", L"&Verify Shortcuts..."}, kLater},
+      {{1, L"mnuToolsVerifyShortcuts", L"&Verify Shortcuts..."}, [](frmOrganize& form) { form.VerifyShortcuts(); }},
       Line(1, L"mnuToolsSep2"),
       {{1, L"mnuToolsNetworkDrives", L"&Network Drives..."}, kLater},
       {{1, L"mnuToolsPersonalNetworkInfo", L"&Personal Network Info..."}, kLater},
