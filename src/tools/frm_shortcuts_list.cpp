@@ -297,7 +297,8 @@ ItemRef frmShortcutsList::ItemOf(const ListItem& row) const { return store_->Get
 void frmShortcutsList::RemoveRows(const std::vector<std::wstring>& keys) {
   {
     const ListView::Update update(ListView1);
-    for (const std::wstring& key : keys) ListView1.Remove(key);
+    // From below, where fewer rows move up.
+    std::for_each(keys.rbegin(), keys.rend(), [this](const std::wstring& key) { ListView1.Remove(key); });
   }
   RefreshStatusBar();
 }
