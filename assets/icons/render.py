@@ -23,6 +23,8 @@ HERE = pathlib.Path(__file__).resolve().parent
 MENU = (16, 20, 24, 32, 48)
 # For buttons of 16 and of 24 pixels, at 96, 120, 144 and 192 dots an inch.
 TOOLBAR = (16, 20, 24, 30, 32, 36, 48)
+# For rows and buttons of 16 pixels that are never disabled.
+SMALL = (16, 20, 24, 32)
 # burrowmark.ico: the program file's icon.
 PROGRAM = (16, 20, 24, 32, 40, 48, 64, 256)
 
@@ -30,6 +32,7 @@ PROGRAM = (16, 20, 24, 32, 40, 48, 64, 256)
 KINDS = (
     (range(1, 21), MENU),
     (range(21, 30), TOOLBAR),
+    (range(41, 50), SMALL),
 )
 # A toolbar icon's number and this make the number of its disabled variant.
 OFF_STEP = 10

@@ -15,18 +15,17 @@ bool IsSeparator(wchar_t character) { return character == L'\\' || character == 
 
 bool IsOnServer(const std::wstring& path) { return path.size() > 2 && IsSeparator(path[0]) && IsSeparator(path[1]); }
 
-// "\\SERVER", or "X:".
-std::wstring ServerOf(const std::wstring& path) {
-  const std::wstring place =
-      IsOnServer(path) ? L"\\\\" + path.substr(2, path.find_first_of(kSeparators, 2) - 2) : path.substr(0, 2);
-  return UpperCaseText(place);
-}
+bool IsOnDrive(const std::wstring& path) { return path.size() > 1 && path[1] == L':'; }
 
 }  // namespace
 
 bool IsNetworkPlace(FileSystem& files, const std::wstring& path) {
-  return IsOnServer(path) ||
-         (path.size() > 1 && path[1] == L':' && files.GetDriveTypeA(path.substr(0, 2)) == kDriveTypeRemote);
+  return IsOnServer(path) || (IsOnDrive(path) && files.GetDriveTypeA(path.substr(0, 2)) == kDriveTypeRemote);
+}
+
+std::wstring PlaceOf(const std::wstring& path) {
+  if (IsOnServer(path)) return UpperCaseText(L"\\\\" + path.substr(2, path.find_first_of(kSeparators, 2) - 2));
+  return IsOnDrive(path) ? UpperCaseText(path.substr(0, 2)) : std::wstring();
 }
 
 std::wstring ShareOf(const std::wstring& path) {
@@ -49,7 +48,7 @@ FolderAnswer FolderTests::Test(const std::wstring& path) {
 
 bool FolderTests::Ask(const std::wstring& path, const std::function<bool(FileSystem& files)>& question) {
   if (!IsNetworkPlace(files_, path)) return question(files_);
-  const std::wstring server = ServerOf(path);
+  const std::wstring server = PlaceOf(path);
   const std::wstring share = UpperCaseText(ShareOf(path));
   if (silent_.contains(server) || silent_.contains(share)) return false;
   const auto there = std::make_shared<bool>(false);

@@ -14,6 +14,8 @@ enum class FolderAnswer : std::uint8_t { kThere, kMissing, kNoAnswer };
 
 // The path stands on a server: its own, or that of the drive that it names. No server is asked.
 bool IsNetworkPlace(FileSystem& files, const std::wstring& path);
+// What a path stands on, in capitals: "\\\\SERVER", or the drive "X:"; empty for a path that names neither.
+std::wstring PlaceOf(const std::wstring& path);
 
 // "\\server\share" of a path on a server, "X:\" of one on a drive, in the letter case of the path.
 std::wstring ShareOf(const std::wstring& path);

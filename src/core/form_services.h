@@ -1,6 +1,8 @@
 // What windows of the whole program do in the same way.
 #pragma once
 
+#include <string>
+
 #include "core/application.h"
 #include "ui/form.h"
 
@@ -9,6 +11,9 @@ namespace burrowmark {
 // The pointer over a form while the program is busy, and afterwards.
 void SetHourglass(Form& form);
 void SetNormalPointer(Form& form);
+
+// Asks whether an item shall be deleted; several ones for an empty name.
+bool ConfirmDelete(Application& app, const Form& form, const std::wstring& name);
 
 // The busy pointer as long as this lives; then the pointer from before.
 class Hourglass {

@@ -64,9 +64,8 @@ class frmOrganize final : public ProgramForm {
   Document Edited;              // no tree while the window is closed
   bool DefaultChanged = false;  // another file became the default one
   bool SaveOnExit = true;
-  bool FileOpened = false;         // another file was opened in this window
-  bool SavedToDefault = false;     // the default file was written from this window
-  bool ListChangedByTool = false;  // the list of shortcuts changed items
+  bool FileOpened = false;      // another file was opened in this window
+  bool SavedToDefault = false;  // the default file was written from this window
 
  private:
   struct CommandRow;
@@ -161,6 +160,7 @@ class frmOrganize final : public ProgramForm {
     bool SystemFolders = true;
     bool Drives = true;
   };
+  void EditOn(TreeEdit& open, const std::function<void(TreeEdit&)>& edit);
   void FollowEdit(TreeEdit& edit);
   void UndoCommand();
   void SetGeneratedGroups(bool systemFolders, bool drives);
@@ -180,7 +180,6 @@ class frmOrganize final : public ProgramForm {
   void DeleteCommand();
   void FuncDelete();
   bool AskAboutGeneratedGroups(std::vector<ItemRef>& items);
-  bool ConfirmDelete(const std::wstring& Caption);
   std::wstring RowBeside(const std::vector<ItemRef>& items) const;
   void DeleteItems(const std::vector<ItemRef>& items);
   void DeleteGeneratedGroup(TreeEdit& edit, const clsMenuItem& group);
@@ -202,6 +201,7 @@ class frmOrganize final : public ProgramForm {
   std::vector<clsNetworkDrive> MappedDrives();
   void CopyTargetLocations(bool complete);
   void ShowFolderProperties(std::wstring Path);
+  void VerifyShortcuts();
 
   // --- drag and drop (frm_organize_drag.cpp)
   // What is dragged out of a pane.
@@ -278,6 +278,7 @@ class frmOrganize final : public ProgramForm {
   Timer TimerOLE_{app_.platform.windows};
   std::shared_ptr<bool> life_ = std::make_shared<bool>(true);  // a request asks whether this is still there
   EditHistory history_;
+  TreeEdit* openEdit_ = nullptr;                 // that is going on
   std::optional<GeneratedGroups> groupsBefore_;  // what the options asked for before edits that aren't saved
 
   // What lies above others comes first.

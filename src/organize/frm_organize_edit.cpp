@@ -19,6 +19,18 @@ namespace {
 
 constexpr wchar_t kTitle[] = L"Burrowmark";
 
+// An edit is open as long as this lives.
+class OpenEdit {
+ public:
+  OpenEdit(TreeEdit*& open, TreeEdit& edit) : open_(open) { open_ = &edit; }
+  ~OpenEdit() { open_ = nullptr; }
+  OpenEdit(const OpenEdit&) = delete;
+  OpenEdit& operator=(const OpenEdit&) = delete;
+
+ private:
+  TreeEdit*& open_;
+};
+
 bool IsGenerated(const clsMenuItem& item) { return item.Name() == MIT_PATHS_SYSTEM || item.Name() == MIT_PATHS_DRIVES; }
 
 }  // namespace
@@ -30,6 +42,7 @@ void frmOrganize::Inform(const std::wstring& text) {
 // --- an edit and its way back
 
 void frmOrganize::EditTree(const std::wstring& name, const std::function<void(TreeEdit&)>& edit) {
+  if (openEdit_ != nullptr) return EditOn(*openEdit_, edit);
   const std::shared_ptr<clsMenuCollection> store = WorkCollection();
   HistoryStep step{.Name = name,
                    .Tree = {},
@@ -37,12 +50,18 @@ void frmOrganize::EditTree(const std::wstring& name, const std::function<void(Tr
                    .SystemFolders = app_.AC[Appearance::kSystemFolders],
                    .Drives = app_.AC[Appearance::kDrives]};
   TreeEdit changes(app_.platform.clock, *store);
-  Attempt([&] { edit(changes); });
-  FollowEdit(changes);
+  {
+    const OpenEdit open(openEdit_, changes);
+    EditOn(changes, edit);
+  }
   step.Tree = changes.Record();
-  if (step.Tree.Empty()) return;
-  history_.Add(std::move(step));
-  RefreshHotKeys(app_, WorkCollection());
+  if (!step.Tree.Empty()) history_.Add(std::move(step));
+}
+
+// What comes while an edit is open, from a window over the editor, belongs to that one.
+void frmOrganize::EditOn(TreeEdit& open, const std::function<void(TreeEdit&)>& edit) {
+  Attempt([&] { edit(open); });
+  FollowEdit(open);
 }
 
 // What is edited so far counts, whatever comes.
@@ -50,6 +69,7 @@ void frmOrganize::FollowEdit(TreeEdit& edit) {
   const TreeChange change = edit.TakeChange();
   if (change.Empty()) return;
   Edited.Changed = true;
+  RefreshHotKeys(app_, WorkCollection());
   RefreshGhosts();
   tree_.Follow(change);
   list_.Follow(change);
@@ -237,7 +257,7 @@ void frmOrganize::FuncDelete() {
   }
   if (items.empty()) return;
   const bool asks = app_.GC[General::kAskBeforeDeleting] && (several || !IsGenerated(*items.front()));
-  if (asks && !ConfirmDelete(several ? std::wstring() : items.front()->Caption())) return;
+  if (asks && !ConfirmDelete(app_, *this, several ? std::wstring() : items.front()->Caption())) return;
   if (!AskAboutGeneratedGroups(items)) return;
   const std::wstring next = fromList ? RowBeside(items) : std::wstring();
   DeleteItems(items);
@@ -261,14 +281,6 @@ bool frmOrganize::AskAboutGeneratedGroups(std::vector<ItemRef>& items) {
   }
   for (const ItemRef& item : kept) std::erase(items, item);
   return true;
-}
-
-bool frmOrganize::ConfirmDelete(const std::wstring& Caption) {
-  const bool several = Caption.empty();
-  const std::wstring text = several ? L"Are you sure you want to delete these selected items?"
-                                    : L"Are you sure you want to delete '" + Caption + L"'?";
-  return app_.platform.dialogs.MessageBoxA(Window(), text, several ? L"Confirm Multiple Delete" : L"Confirm Delete",
-                                           kBoxYesNoCancel | kBoxQuestion) == kAnswerYes;
 }
 
 // The key of the row behind those that go, else of the one ahead of them.

@@ -10,6 +10,7 @@
 #include "organize/frm_organize.h"
 #include "organize/node_keys.h"
 #include "organize/subtree.h"
+#include "tools/frm_shortcuts_list.h"
 #include "tools/network_drives.h"
 
 namespace burrowmark {
@@ -138,10 +139,7 @@ void frmOrganize::ShowItemProperties(bool FromBackground) {
   EditTree(L"Properties", [&](TreeEdit& edit) {
     frmProperties dialog(app_);
     dialog.Init(*item, WorkCollection());
-    dialog.Apply = [&](const ItemRef& copy) {
-      FuncPropertiesRefresh(edit, item, *copy, dialog.HotKeyHolder);
-      RefreshHotKeys(app_, WorkCollection());
-    };
+    dialog.Apply = [&](const ItemRef& copy) { FuncPropertiesRefresh(edit, item, *copy, dialog.HotKeyHolder); };
     dialog.Show(Modal, *this);
     if (!dialog.Cancelled) FuncPropertiesRefresh(edit, item, *dialog.DohvatiMenuItem(), dialog.HotKeyHolder);
   });
@@ -150,9 +148,40 @@ void frmOrganize::ShowItemProperties(bool FromBackground) {
 
 void frmOrganize::FuncPropertiesRefresh(TreeEdit& edit, const ItemRef& item, const clsMenuItem& copy,
                                         const ItemRef& hotKeyHolder) {
+  if (!edit.Has(item)) return;
   TakeHotKey(edit, hotKeyHolder);
   ModifyItem(edit, item, copy.SubMenu(), [&copy](clsMenuItem& changed) { CloneMenuItem(copy, changed); });
   FollowEdit(edit);
+}
+
+// --- the list of all shortcuts
+
+// All that is done there is one edit.
+void frmOrganize::VerifyShortcuts() {
+  EditTree(L"Verify Shortcuts", [this](TreeEdit& edit) {
+    frmShortcutsList list(app_);
+    list.Init(WorkCollection(),
+              {.Remove =
+                   [&](const std::vector<ItemRef>& items) {
+                     for (const ItemRef& item : items) edit.TakeOut(item);
+                     FollowEdit(edit);
+                   },
+               .Modify =
+                   [&](const ItemRef& item, const ItemChange& change, const ItemRef& holder) {
+                     if (!edit.Has(item)) return;
+                     TakeHotKey(edit, holder);
+                     ModifyItem(edit, item, change);
+                     FollowEdit(edit);
+                   },
+               .TakeOver = [&](const ItemRef& item, const clsMenuItem& copy,
+                               const ItemRef& holder) { FuncPropertiesRefresh(edit, item, copy, holder); },
+               .ClearHotKeys =
+                   [&](const std::vector<ItemRef>& items) {
+                     for (const ItemRef& item : items) TakeHotKey(edit, item);
+                     FollowEdit(edit);
+                   }});
+    list.Show(Modal, *this);
+  });
 }
 
 // --- the folders of what is selected

@@ -75,8 +75,7 @@ void ListPane::ShowGroup(const std::wstring& group) {
   txtInfoDrives.SetVisible(group == MIT_PATHS_DRIVES);
   if (group == MIT_PATHS_DRIVES) return View.Clear();
   group_ = group;
-  ClearSortMark();
-  sortColumn_ = 0;
+  sort_.Reset();
   const ListView::Update update(View);
   View.Clear();
   for (const ItemRef& item : document_.Store->Children(group)) {
@@ -183,25 +182,6 @@ void ListPane::InvertSelection() {
 }
 
 // --- order and view
-
-void ListPane::ArrangeBy(std::int32_t Column) {
-  ClearSortMark();
-  const bool descending = Column == sortColumn_ && View.Order() != SortOrder::kDescending;
-  View.SetOrder(descending ? SortOrder::kDescending : SortOrder::kAscending);
-  const std::wstring& header = View.Columns().at(static_cast<std::size_t>(Column) - 1).text;
-  View.SetColumnText(Column, header + (descending ? L"-" : L"+"));
-  View.SetSortKey(Column - 1);
-  sortColumn_ = Column;
-  View.SetSorted(true);
-}
-
-void ListPane::ClearSortMark() {
-  if (sortColumn_ <= 0) return;
-  const std::wstring header = View.Columns().at(static_cast<std::size_t>(sortColumn_) - 1).text;
-  if (header.ends_with(L'-') || header.ends_with(L'+')) {
-    View.SetColumnText(sortColumn_, header.substr(0, header.size() - 1));
-  }
-}
 
 bool ListPane::ApplyView(const std::wstring& viewKey) {
   const auto* view =

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "core/application.h"
+#include "core/column_sort.h"
 #include "organize/tree_edit.h"
 #include "ui/list_view.h"
 #include "ui/text_box.h"
@@ -42,7 +43,7 @@ class ListPane {
   void InvertSelection();
 
   // Columns counted from 1. The same one once more turns the order round.
-  void ArrangeBy(std::int32_t Column);
+  void ArrangeBy(std::int32_t Column) { sort_.Click(Column); }
   // One of the five views by its key. False: there is none.
   bool ApplyView(const std::wstring& viewKey);
   void Release();
@@ -50,13 +51,12 @@ class ListPane {
  private:
   void AddListItem(const clsMenuItem& item, bool Ghosted);
   void WriteColumns(ListItem& row, const clsMenuItem& item);
-  void ClearSortMark();
 
   Application& app_;
   const Document& document_;
   const std::set<std::wstring>& cutKeys_;
   std::wstring group_;
-  std::int32_t sortColumn_ = 0;
+  ColumnSort sort_{View};
 };
 
 }  // namespace burrowmark

@@ -9,6 +9,8 @@
 #include "projection/organized_folders.h"
 #include "tools/about.h"
 #include "tools/tip.h"
+#include "tools/frm_network_drives.h"
+#include "tools/frm_personal_network_info.h"
 
 namespace burrowmark {
 namespace {
@@ -141,10 +143,12 @@ std::span<const frmOrganize::CommandRow> frmOrganize::Commands() {
       {{1, L"mnuToolsFind", L"&Find..."}, [](frmOrganize& form) { form.FindCommand(); }},
       {{1, L"mnuToolsReport", L"Folder &Report..."}, kLater},
       Line(1, L"mnuToolsSep1"),
-      {{1, L"mnuToolsVerifyShortcuts", L"&Verify Shortcuts..."}, kLater},
+      {{1, L"mnuToolsVerifyShortcuts", L"&Verify Shortcuts..."}, [](frmOrganize& form) { form.VerifyShortcuts(); }},
       Line(1, L"mnuToolsSep2"),
-      {{1, L"mnuToolsNetworkDrives", L"&Network Drives..."}, kLater},
-      {{1, L"mnuToolsPersonalNetworkInfo", L"&Personal Network Info..."}, kLater},
+      {{1, L"mnuToolsNetworkDrives", L"&Network Drives..."},
+       [](frmOrganize& form) { frmNetworkDrives(form.app_).Show(Modal, form); }},
+      {{1, L"mnuToolsPersonalNetworkInfo", L"&Personal Network Info..."},
+       [](frmOrganize& form) { frmPersonalNetworkInfo(form.app_).Show(Modal, form); }},
       Line(1, L"mnuToolsSep3"),
       Holds(1, L"mnuToolsRefresh", L"Refresh Organi&zed Folders"),
       {{2, L"mnuToolsRefreshDesktop", L"on the &Desktop"},

@@ -1,9 +1,11 @@
-// What the machine's networks offer: connected drives, and the shares of a server.
+// What the machine's networks offer: connected drives, the shares of a server, addresses of hosts, and the user.
 #pragma once
 
 #include <cstdint>
 #include <string>
 #include <vector>
+
+#include "platform/window_handle.h"
 
 namespace burrowmark {
 
@@ -26,8 +28,21 @@ struct NetworkResource {
   std::uint32_t DisplayType = kDisplayGeneric;
 };
 
-// The calls may take long, and may be made by any thread. They give the system's error number where they couldn't
-// begin; what fails later ends the list.
+enum class HostAnswer : std::uint8_t {
+  kFound,
+  kUnknown,
+  kOtherFamily,  // it has addresses, but none of four numbers
+};
+
+struct WorkstationUser {
+  std::wstring UserName;
+  std::wstring LogonDomain;
+  std::wstring OtherDomains;
+  std::wstring LogonServer;
+};
+
+// The calls may take long, and may be made by any thread. Enumerations give the system's error number where they
+// couldn't begin; what fails later ends the list.
 class Network {
  public:
   virtual ~Network() = default;
@@ -36,6 +51,19 @@ class Network {
   virtual std::uint32_t EnumResources(std::uint32_t scope, std::vector<NetworkResource>& resources) = 0;
   // The disks that a server ("\\server") offers to everybody who looks.
   virtual std::uint32_t EnumShares(const std::wstring& server, std::vector<NetworkResource>& shares) = 0;
+
+  // The system's own dialogs over a window, to connect a drive and to disconnect one. They return when they are gone.
+  virtual void WNetConnectionDialog(WindowHandle owner) = 0;
+  virtual void WNetDisconnectDialog(WindowHandle owner) = 0;
+
+  // Hosts are looked up between these two. False: that can't be done, and the second isn't called.
+  virtual bool WSAStartup() = 0;
+  virtual void WSACleanup() = 0;
+  // The first address of a host, "127.0.0.1"; of this machine for an empty name.
+  virtual HostAnswer GetHostByName(const std::wstring& host, std::wstring& address) = 0;
+
+  // Who is logged on here; false, and nothing, where the system doesn't tell.
+  virtual bool NetWkstaUserGetInfo(WorkstationUser& user) = 0;
 };
 
 }  // namespace burrowmark

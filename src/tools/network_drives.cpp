@@ -30,6 +30,30 @@ std::uint32_t EnumNetworkDrives(Network& network, std::vector<clsNetworkDrive>& 
   return result == kNoNetwork ? kNetworkDone : result;
 }
 
+std::wstring GetServerName(const std::wstring& remoteName) {
+  constexpr std::wstring_view kServer = L"\\\\";
+  if (!remoteName.starts_with(kServer)) return remoteName;
+  return remoteName.substr(kServer.size(), remoteName.find(L'\\', kServer.size()) - kServer.size());
+}
+
+bool DriveIsReady(FileSystem& files, const std::wstring& drive) {
+  std::wstring label;
+  return files.DriveExists(drive) && files.GetVolumeInformationA(drive, label);
+}
+
+std::wstring GetIPFromHostName(Network& network, const std::wstring& hostName) {
+  std::wstring address;
+  switch (network.GetHostByName(hostName, address)) {
+    case HostAnswer::kFound:
+      return address;
+    case HostAnswer::kOtherFamily:
+      return L"Non IP Address returned";
+    case HostAnswer::kUnknown:
+      break;
+  }
+  return L"Get host by address failed";
+}
+
 std::wstring GetRemoteName(const std::wstring& localPath, const std::vector<clsNetworkDrive>& drives) {
   const std::wstring drive = localPath.substr(0, kDriveLength);
   const auto found = std::find_if(drives.begin(), drives.end(), [&drive](const clsNetworkDrive& candidate) {

@@ -1,4 +1,5 @@
 // What stands beside windows and files: the clipboard, work on other threads, networks.
+#include <algorithm>
 #include <atomic>
 
 #include "tests/contract/system_under_test.h"
@@ -31,6 +32,23 @@ TEST_F(BesideContract, WorkIsDoneBesideTheLoopWhichHearsOfItsEnd) {
   EXPECT_EQ(told, "") << "not before the loop runs";
   for (int i = 0; i < kTries && told.empty(); ++i) system_->LetPass(10);
   EXPECT_EQ(told, "done");
+}
+
+TEST_F(BesideContract, AHostHasAnAddressAndTheUserAName) {
+  Network& network = platform_.network;
+  ASSERT_TRUE(network.WSAStartup());
+  std::wstring address;
+  EXPECT_EQ(network.GetHostByName(L"localhost", address), HostAnswer::kFound);
+  EXPECT_EQ(address, L"127.0.0.1");
+  EXPECT_EQ(network.GetHostByName(L"", address), HostAnswer::kFound) << "the machine itself";
+  EXPECT_EQ(std::count(address.begin(), address.end(), L'.'), 3);
+  EXPECT_EQ(network.GetHostByName(L"no host has blanks", address), HostAnswer::kUnknown);
+  EXPECT_EQ(address, L"");
+  network.WSACleanup();
+  WorkstationUser user;
+  EXPECT_TRUE(network.NetWkstaUserGetInfo(user));
+  EXPECT_NE(user.UserName, L"");
+  EXPECT_NE(platform_.system.GetComputerNameA(), L"");
 }
 
 TEST_F(BesideContract, NobodyWaitsForWorkLongerThanHeSaid) {

@@ -12,7 +12,7 @@ from pathlib import Path
 
 import sample  # first: it finds the modules below
 from burrowmark import KEY, Program
-from editor import FORM, HEADER, LIST, TREE, Editor
+from editor import FORM, HEADER, LIST, TREE, Editor, ListWindow
 from harness import REPOSITORY, Desktop, Settings, wait_for
 
 SCREENS = {96: (1280, 900), 144: (1920, 1350)}
@@ -126,6 +126,37 @@ def take_dialogs(album, editor):
     desktop.wait_gone(tip)
 
 
+def take_tools(album, editor):
+    """The windows of the Tools menu."""
+    desktop = album.desktop
+
+    def show(name, title, letter):
+        desktop.keys("alt+t", letter)
+        window = ListWindow(desktop, title, 10)
+        time.sleep(1)  # for what comes later
+        album.save(name)
+        return window
+
+    def close(window):
+        desktop.keys("Esc")
+        desktop.wait_gone(window.window)
+
+    shown = show("shortcuts-list", "Folder Shortcuts List", "v")
+    for name in ("downwards", "upwards"):
+        shown.click_first_header()
+        album.save("shortcuts-list-" + name)
+    shown.click_row(shown.titles()[0], "right")
+    album.save("shortcuts-list-popup")
+    desktop.keys("Esc")
+    close(shown)
+    drives = show("network-drives", "Network Drives", "n")
+    desktop.keys("ctrl+m")
+    time.sleep(1)
+    album.save("network-drives-map")
+    close(drives)
+    close(show("personal-network-info", "Personal Network Info", "p"))
+
+
 def take_all(settings, output, dpi):
     with Desktop(settings, SCREENS[dpi], dpi) as desktop:
         album = Album(desktop, output)
@@ -142,6 +173,7 @@ def take_all(settings, output, dpi):
         editor = Editor.open(program)
         take_editor(album, editor)
         take_dialogs(album, editor)
+        take_tools(album, editor)
         editor.close_and_wait()
         for name, length in (("W", 5200), ("H", 4800)):
             desktop.driver("write-value", KEY + "\\frmOrg", name, length)

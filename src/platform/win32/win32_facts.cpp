@@ -65,6 +65,13 @@ std::wstring Win32Facts::GetWindowsDirectoryA() const { return FolderFrom(::GetW
 
 std::wstring Win32Facts::GetSystemDirectoryA() const { return FolderFrom(::GetSystemDirectoryW); }
 
+std::wstring Win32Facts::GetComputerNameA() const {
+  std::wstring name(MAX_COMPUTERNAME_LENGTH + 1, L'\0');
+  auto length = static_cast<DWORD>(name.size());
+  name.resize(::GetComputerNameW(name.data(), &length) != FALSE ? length : 0);
+  return name;
+}
+
 std::wstring Win32Facts::GetModuleFileNameA() const {
   std::wstring path(kLongestPath, L'\0');
   const DWORD length = ::GetModuleFileNameW(nullptr, path.data(), kLongestPath);
