@@ -86,7 +86,8 @@ std::wstring PreviousName(const std::wstring& path) { return NameWith(path, L"pr
 // wants the edits first.
 void KeepPrevious(Application& app, const std::wstring& path) {
   FileSystem& files = app.platform.files;
-  const std::optional<LocalTime> written = files.GetFileTime(path);
+  const std::optional<FileFacts> facts = files.GetFileFacts(path);
+  const std::optional<LocalTime> written = facts ? facts->modified : std::nullopt;
   const LocalTime now = app.platform.clock.GetLocalTime();
   if (!written || (written->year == now.year && written->month == now.month && written->day == now.day)) return;
   std::string bytes;

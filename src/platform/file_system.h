@@ -27,6 +27,16 @@ struct FolderEntry {
   bool isLink = false;  // leads to a folder elsewhere
 };
 
+// What the disk knows of a file or a folder. Moments are on the user's clock, and absent where the disk keeps none.
+struct FileFacts {
+  std::uint64_t size = 0;  // bytes; 0 for a folder
+  std::uint32_t attributes = 0;
+  std::optional<LocalTime> created;
+  std::optional<LocalTime> modified;
+  std::optional<LocalTime> accessed;
+  std::wstring shortName;  // of eight and three characters; empty where there is none beside the name itself
+};
+
 // Kinds of drive that GetDriveTypeA tells apart (fileapi.h): what isn't known, a letter without a drive, removable,
 // fixed, remote, compact disc, memory disk.
 inline constexpr std::int32_t kDriveTypeUnknown = 0;
@@ -67,8 +77,8 @@ class FileSystem {
   virtual std::optional<std::uint32_t> GetFileAttributesA(const std::wstring& path) = 0;
   virtual bool SetFileAttributesA(const std::wstring& path, std::uint32_t attributes) = 0;
 
-  // The moment of a file's last write on the user's clock; nothing if there is no such file.
-  virtual std::optional<LocalTime> GetFileTime(const std::wstring& path) = 0;
+  // What the disk knows of a file or a folder; nothing if there is neither.
+  virtual std::optional<FileFacts> GetFileFacts(const std::wstring& path) = 0;
 
   // Reads a whole file. `bytes` is empty on failure.
   virtual bool ReadWholeFile(const std::wstring& path, std::string& bytes) = 0;

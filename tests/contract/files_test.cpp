@@ -105,13 +105,28 @@ TEST_F(FilesContract, AFileIsTheSameHoweverItIsSpelled) {
   }
 }
 
-TEST_F(FilesContract, AFileTellsWhenItWasWritten) {
-  const std::optional<LocalTime> written = files_.GetFileTime(In(L"file"));
-  ASSERT_TRUE(written);
+TEST_F(FilesContract, OneCallTellsWhatTheDiskKnows) {
+  ASSERT_TRUE(files_.SetFileAttributesA(In(L"file"), kFileHidden | kFileArchive));
   const LocalTime now = platform_.clock.GetLocalTime();
-  EXPECT_NEAR(written->hour * 60 + written->minute, now.hour * 60 + now.minute, 1);
-  EXPECT_EQ(std::tie(written->year, written->month, written->day), std::tie(now.year, now.month, now.day));
-  EXPECT_FALSE(files_.GetFileTime(In(L"missing")));
+  for (const auto& [name, size, attributes] :
+       {std::tuple(L"FILE", 4U, kFileHidden | kFileArchive), std::tuple(L"folder", 0U, kFileDirectory)}) {
+    const std::optional<FileFacts> facts = files_.GetFileFacts(In(name));
+    ASSERT_TRUE(facts) << ::testing::PrintToString(std::wstring(name));
+    EXPECT_EQ(facts->size, size);
+    EXPECT_EQ(facts->attributes & (kSettable | kFileArchive | kFileDirectory), attributes);
+    EXPECT_EQ(facts->shortName, L"") << "the name itself is short";
+    ASSERT_TRUE(facts->modified);
+    for (const std::optional<LocalTime>& moment : {facts->created, facts->modified, facts->accessed}) {
+      if (!moment) continue;  // not every disk keeps all three
+      EXPECT_NEAR(moment->hour * 60 + moment->minute, now.hour * 60 + now.minute, 1);
+      EXPECT_EQ(std::tie(moment->year, moment->month, moment->day), std::tie(now.year, now.month, now.day));
+    }
+  }
+  const std::optional<FileFacts> root = files_.GetFileFacts(system_->Folder().substr(0, 3));
+  EXPECT_TRUE(root && (root->attributes & kFileDirectory) != 0);
+  for (const wchar_t* name : {L"missing", L"fil?", L"file\\", L"missing\\file"}) {
+    EXPECT_FALSE(files_.GetFileFacts(In(name))) << ::testing::PrintToString(std::wstring(name));
+  }
 }
 
 TEST_F(FilesContract, AFileThatAnotherProgramHoldsIsLeftAlone) {

@@ -1,16 +1,16 @@
 #include "platform/local/disk/disk.h"
 
 #include <fcntl.h>
+#include <sys/stat.h>
 
 #include <algorithm>
 #include <cerrno>
-#include <chrono>
+#include <ctime>
 #include <fstream>
 #include <iterator>
 
 #ifdef _WIN32
 #include <io.h>
-#include <sys/stat.h>
 #else
 #include <unistd.h>
 #endif
@@ -31,6 +31,12 @@ std::ptrdiff_t WriteSome(int descriptor, const char* bytes, std::size_t count) {
 }
 bool Sync(int descriptor) { return _commit(descriptor) == 0; }
 bool CloseDescriptor(int descriptor) { return _close(descriptor) == 0; }
+
+using DiskEntry = struct _stat64;
+bool ReadEntry(const std::filesystem::path& path, DiskEntry& entry) { return _wstat64(path.c_str(), &entry) == 0; }
+std::optional<std::time_t> Birth(const std::filesystem::path& /*path*/, const DiskEntry& entry) {
+  return entry.st_ctime;
+}
 #else
 constexpr mode_t kNewFileMode = 0666;
 int OpenNew(const std::filesystem::path& path) {
@@ -41,6 +47,19 @@ std::ptrdiff_t WriteSome(int descriptor, const char* bytes, std::size_t count) {
 }
 bool Sync(int descriptor) { return fsync(descriptor) == 0; }
 bool CloseDescriptor(int descriptor) { return close(descriptor) == 0; }
+
+using DiskEntry = struct stat;
+bool ReadEntry(const std::filesystem::path& path, DiskEntry& entry) { return stat(path.c_str(), &entry) == 0; }
+// Only some systems tell when a file was made.
+std::optional<std::time_t> Birth([[maybe_unused]] const std::filesystem::path& path, const DiskEntry& /*entry*/) {
+#ifdef STATX_BTIME
+  struct statx facts = {};
+  if (statx(AT_FDCWD, path.c_str(), 0, STATX_BTIME, &facts) == 0 && (facts.stx_mask & STATX_BTIME) != 0) {
+    return facts.stx_btime.tv_sec;
+  }
+#endif
+  return std::nullopt;
+}
 #endif
 
 constexpr std::size_t kLargestWrite = 1U << 20;
@@ -69,14 +88,15 @@ bool ReadDiskFile(const std::filesystem::path& path, std::string& bytes) {
   return false;
 }
 
-std::optional<LocalTime> DiskFileTime(const std::filesystem::path& path) {
-  std::error_code error;
-  const auto written = std::filesystem::last_write_time(path, error);
-  if (error) return std::nullopt;
-  const auto age = std::filesystem::file_time_type::clock::now() - written;
-  const auto onClock = std::chrono::system_clock::now() - age;
-  return LocalClock::Split(
-      std::chrono::system_clock::to_time_t(std::chrono::time_point_cast<std::chrono::system_clock::duration>(onClock)));
+FileFacts DiskFacts(const std::filesystem::path& path) {
+  FileFacts facts;
+  DiskEntry entry = {};
+  if (!ReadEntry(path, entry)) return facts;
+  facts.size = static_cast<std::uint64_t>(entry.st_size);
+  if (const std::optional<std::time_t> born = Birth(path, entry)) facts.created = LocalClock::Split(*born);
+  facts.modified = LocalClock::Split(entry.st_mtime);
+  facts.accessed = LocalClock::Split(entry.st_atime);
+  return facts;
 }
 
 DiskFile::DiskFile(const std::filesystem::path& path) : descriptor_(OpenNew(path)) {}

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/system_facts.h"
+#include "platform/file_system.h"
 
 namespace burrowmark {
 
@@ -17,8 +17,8 @@ std::wstring NameFromDisk(const std::filesystem::path& path);
 // False if the file can't be read as a whole; `bytes` is empty then.
 bool ReadDiskFile(const std::filesystem::path& path, std::string& bytes);
 
-// When the file was written last, by the clock of the disk below, whatever the machine's own clock shows.
-std::optional<LocalTime> DiskFileTime(const std::filesystem::path& path);
+// Size and moments of what stands there, by the clock of the disk below, whatever the machine's own clock shows.
+FileFacts DiskFacts(const std::filesystem::path& path);
 
 // A new file that is open for writing, until it is closed or the object goes.
 class DiskFile {

@@ -132,10 +132,15 @@ bool LocalFileSystem::Remember(const Entry& entry, std::uint32_t attributes) {
   return kept == (entry.isFolder ? 0 : kFileArchive) ? attributes_.Forget(name) : attributes_.Set(name, kept);
 }
 
-std::optional<LocalTime> LocalFileSystem::GetFileTime(const std::wstring& path) {
-  if (faults_.Strikes("GetFileTime", path)) return std::nullopt;
-  const std::optional<Entry> entry = LookForFile(path);
-  return entry ? DiskFileTime(entry->place) : std::nullopt;
+// The disk below keeps no short names.
+std::optional<FileFacts> LocalFileSystem::GetFileFacts(const std::wstring& path) {
+  if (faults_.Strikes("GetFileFacts", path)) return std::nullopt;
+  const std::optional<Entry> entry = Look(path);
+  if (!entry || !entry->Exists()) return std::nullopt;
+  FileFacts facts = DiskFacts(entry->place);
+  facts.attributes = entry->attributes;
+  if (entry->isFolder) facts.size = 0;
+  return facts;
 }
 
 bool LocalFileSystem::ReadWholeFile(const std::wstring& path, std::string& bytes) {

@@ -10,6 +10,7 @@
 #include "platform/characters.h"
 #include "platform/drive_letter.h"
 #include "platform/win32/files/drive_facts.h"
+#include "platform/win32/files/file_facts.h"
 #include "platform/win32/files/file_handle.h"
 #include "platform/win32/files/folder_listing.h"
 #include "platform/win32/files/folder_removal.h"
@@ -124,20 +125,7 @@ bool Win32FileSystem::SetFileAttributesA(const std::wstring& path, std::uint32_t
   return name && ::SetFileAttributesW(name->c_str(), attributes & ~kFileDirectory) != 0;
 }
 
-std::optional<LocalTime> Win32FileSystem::GetFileTime(const std::wstring& path) {
-  const std::optional<std::wstring> name = SystemPath(path);
-  if (!name) return std::nullopt;
-  const QuietDrives quiet;
-  WIN32_FILE_ATTRIBUTE_DATA data = {};
-  SYSTEMTIME universal = {};
-  SYSTEMTIME local = {};
-  if (::GetFileAttributesExW(name->c_str(), GetFileExInfoStandard, &data) == 0 || IsFolder(data.dwFileAttributes) ||
-      ::FileTimeToSystemTime(&data.ftLastWriteTime, &universal) == 0 ||
-      ::SystemTimeToTzSpecificLocalTime(nullptr, &universal, &local) == 0) {
-    return std::nullopt;
-  }
-  return LocalTime{local.wYear, local.wMonth, local.wDay, local.wHour, local.wMinute, local.wSecond};
-}
+std::optional<FileFacts> Win32FileSystem::GetFileFacts(const std::wstring& path) { return ReadFileFacts(path); }
 
 bool Win32FileSystem::ReadWholeFile(const std::wstring& path, std::string& bytes) {
   bytes.clear();

@@ -13,7 +13,7 @@ class Win32FileSystem final : public FileSystem {
   bool IsSameFile(const std::wstring& path, const std::wstring& other) override;
   std::optional<std::uint32_t> GetFileAttributesA(const std::wstring& path) override;
   bool SetFileAttributesA(const std::wstring& path, std::uint32_t attributes) override;
-  std::optional<LocalTime> GetFileTime(const std::wstring& path) override;
+  std::optional<FileFacts> GetFileFacts(const std::wstring& path) override;
   bool ReadWholeFile(const std::wstring& path, std::string& bytes) override;
   std::unique_ptr<OutputFile> CreateNewFile(const std::wstring& path) override;
   bool MoveFileExA(const std::wstring& from, const std::wstring& to) override;

@@ -1,0 +1,14 @@
+// What the disk of the real system knows of one file or folder.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "platform/file_system.h"
+
+namespace burrowmark {
+
+// As FileSystem::GetFileFacts.
+std::optional<FileFacts> ReadFileFacts(const std::wstring& path);
+
+}  // namespace burrowmark
