@@ -43,6 +43,8 @@ class SystemFacts {
   // Folders without a trailing backslash; empty on failure.
   virtual std::wstring GetWindowsDirectoryA() const = 0;
   virtual std::wstring GetSystemDirectoryA() const = 0;
+  // The user's folder for files of the moment.
+  virtual std::wstring GetTempPathA() const = 0;
   // Full path of the running program.
   virtual std::wstring GetModuleFileNameA() const = 0;
   // A setting of the user's locale (LOCALE_USER_DEFAULT); empty if there is no such setting.
