@@ -17,6 +17,7 @@ enum class ProgramWindow : std::uint8_t {
   kItemExists,
   kProperties,
   kPropertiesConfigFile,
+  kFolderReport,
   kNetworkDrives,
   kPersonalNetworkInfo,
   kWizard,
