@@ -1,7 +1,7 @@
 // Runs the benchmarks and prints how their costs grow: a cost of 3,000 entries as a multiple of that of 300, and that
 // of reading and writing as a multiple of what no reader and no writer can do without. Medians where a run is repeated.
 //
-// Marks: growth at most 13, reading and writing at most 5.
+// Marks: growth at most 13, reading and writing at most 5, a report in text at most 2 walks and as a page at most 3.
 #include <benchmark/benchmark.h>
 
 #include <cstdio>
@@ -29,6 +29,10 @@ constexpr Ratio kRatios[] = {
     {"TakeAPasteBack/10000", "TakeAPasteBack/1000"},
     {"ReadRecords/10000", "BareSplit/10000"},
     {"WriteRecords/10000", "BareCopy/10000"},
+    {"Report/text/10000", "BareWalk/10000"},
+    {"Report/page/10000", "BareWalk/10000"},
+    {"Report/clipboard/10000", "BareWalk/10000"},
+    {"Report/page/10000", "Report/page/1000"},
 };
 
 class RatioReporter final : public benchmark::ConsoleReporter {

@@ -12,9 +12,15 @@ namespace {
 
 constexpr std::size_t kReportCommandLength = 3;
 
-// The report has no window yet.
-void OpenFolderReport(Application& app, const std::wstring& Command) {
-  if (CommandArgument(Command, kReportCommandLength).empty()) app.platform.windows.Beep();
+// Over the editor, if that is open. Whether the folder is there is asked when the report is made.
+void OpenFolderReport(Application& app, Editor& editor, const std::wstring& Command) {
+  const std::wstring folder = CommandArgument(Command, kReportCommandLength);
+  if (folder.empty()) return app.platform.windows.Beep();
+  if (!app.Calls.ShowFolderReport) return;
+  app.Calls.ShowFolderReport(folder, editor.AsOwner());
+  OpenWindow* front = app.Windows.Find(ProgramWindow::kOrganize);
+  if (front == nullptr) front = app.Windows.Find(ProgramWindow::kFolderReport);
+  if (front != nullptr) front->ComeForward();
 }
 
 bool AddsOrOpens(const std::wstring& Command) {
@@ -30,7 +36,7 @@ void CloseOptions(Application& app) {
 void CarryOut(Application& app, Editor& editor, const std::wstring& Command) {
   CloseOptions(app);
   if (Command.starts_with(kReportCommand)) {
-    OpenFolderReport(app, Command);
+    OpenFolderReport(app, editor, Command);
   } else if (Command == kOrganizeCommand) {
     editor.Show();
   } else if (AddsOrOpens(Command)) {

@@ -19,6 +19,8 @@ void Editor::Init(const std::wstring& Command) {
   if (IsOpen()) window_->Init(Command);
 }
 
+FormOwner Editor::AsOwner() const { return IsOpen() ? FormOwner(*window_) : FormOwner(app_.MainWindow); }
+
 bool Editor::Unload() { return !IsOpen() || window_->Unload(); }
 
 void Editor::SaveForSessionEnd() {

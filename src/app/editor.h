@@ -5,6 +5,7 @@
 #include <string>
 
 #include "core/application.h"
+#include "ui/form.h"
 
 namespace burrowmark {
 
@@ -21,6 +22,8 @@ class Editor {
   void Show();
   // A command behind the opening; nothing without a window.
   void Init(const std::wstring& Command);
+  // The hidden window stands in for it while it isn't open.
+  FormOwner AsOwner() const;
   // False if the user wants to go on editing.
   bool Unload();
   void SaveForSessionEnd();

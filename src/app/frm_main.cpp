@@ -21,7 +21,7 @@ constexpr wchar_t kStartTitle[] = L"Starting Burrowmark...";
 
 }  // namespace
 
-frmMain::frmMain(Application& app) : app_(app), menu_(app), tray_(app, menu_), hook_(app), editor_(app) {
+frmMain::frmMain(Application& app) : app_(app), menu_(app), tray_(app, menu_), hook_(app), reports_(app), editor_(app) {
   ConnectEvents();
   FillCalls();
 }
@@ -40,6 +40,9 @@ void frmMain::FillCalls() {
   app_.Requests.End = [this] { End(); };
   app_.Calls.OpenEditor = [this] { editor_.Show(); };
   app_.Calls.CommandArrived = [this](const std::wstring& Command) { ProcessCommand(app_, editor_, Command); };
+  app_.Calls.ShowFolderReport = [this](const std::wstring& folder, const FormOwner& owner) {
+    reports_.Show(folder, owner);
+  };
   app_.Calls.DeleteShortcut = [this](const std::shared_ptr<clsMenuCollection>& store, const ItemRef& item) {
     DeleteShortcut(store, item);
   };
@@ -143,7 +146,9 @@ bool frmMain::SaveWithout(const clsMenuItem& item) {
 
 // What the user is asked while windows unload may keep the program.
 void frmMain::End() {
-  if (editor_.Unload() && app_.MainWindow != 0) app_.platform.windows.DestroyMainWindow(app_.MainWindow);
+  if (!editor_.Unload()) return;
+  reports_.Unload();
+  if (app_.MainWindow != 0) app_.platform.windows.DestroyMainWindow(app_.MainWindow);
 }
 
 // Nothing is saved here: the file is written when it changes.

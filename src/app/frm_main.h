@@ -9,6 +9,7 @@
 #include "menu/menu_system.h"
 #include "menu/system_tray.h"
 #include "options/keyboard_hook.h"
+#include "tools/folder_reports.h"
 
 namespace burrowmark {
 
@@ -37,6 +38,7 @@ class frmMain {
   MenuSystem menu_;
   SystemTray tray_;
   KeyboardHook hook_;
+  FolderReports reports_;
   Editor editor_;
   MainWindowEvents events_;
   bool progressUp_ = false;

@@ -16,6 +16,7 @@
 
 namespace burrowmark {
 
+class FormOwner;
 class frmPause;
 
 // A drive of the machine as the menu knows it.
@@ -40,6 +41,8 @@ struct UpwardCalls {
   std::function<void(const std::wstring& Command)> CommandArrived;
   // Shows the Options dialog; true if something was changed.
   std::function<bool(clsMenuCollection& store, bool FromMainMenu)> ShowOptions;
+  // Opens a wizard for the report on a folder.
+  std::function<void(const std::wstring& folder, const FormOwner& owner)> ShowFolderReport;
   // Deletes a shortcut whose folder is gone from the tree that it stands in, for good.
   std::function<void(const std::shared_ptr<clsMenuCollection>& store, const ItemRef& item)> DeleteShortcut;
 };

@@ -18,6 +18,7 @@ enum class ProgramWindow : std::uint8_t {
   kProperties,
   kPropertiesConfigFile,
   kShortcutsList,
+  kFolderReport,
   kNetworkDrives,
   kPersonalNetworkInfo,
   kWizard,

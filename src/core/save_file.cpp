@@ -1,5 +1,7 @@
 #include "core/save_file.h"
 
+#include <utility>
+
 namespace burrowmark {
 namespace {
 
@@ -10,40 +12,26 @@ bool MayReplace(FileSystem& files, const std::wstring& path, std::optional<std::
   return attributes ? (*attributes & (kFileReadOnly | kFileDirectory)) == 0 : !files.FileExists(path);
 }
 
-// The new file beside the target. Unless it took the target's place, it is deleted when it goes. A killed process
-// leaves it there: it has one name, so that the next one finds it.
-class FileBeside {
- public:
-  FileBeside(FileSystem& files, const std::wstring& target) : files_(files), path_(NameBeside(target)) {
-    RemoveLeftOver(files, target);
-    output_ = files.CreateNewFile(path_);
-    made_ = output_ != nullptr;
-  }
-  ~FileBeside() {
-    output_.reset();
-    if (made_) files_.DeleteFileA(path_);
-  }
-  FileBeside(const FileBeside&) = delete;
-  FileBeside& operator=(const FileBeside&) = delete;
-
-  bool Made() const { return made_; }
-  bool Fill(std::string_view bytes) { return output_ && output_->Write(bytes) && output_->Flush() && output_->Close(); }
-  bool SetAttributes(std::uint32_t attributes) { return files_.SetFileAttributesA(path_, attributes); }
-  bool TakePlaceOf(const std::wstring& target) {
-    output_.reset();
-    const bool moved = files_.MoveFileExA(path_, target);
-    made_ = made_ && !moved;
-    return moved;
-  }
-
- private:
-  FileSystem& files_;
-  std::wstring path_;
-  std::unique_ptr<OutputFile> output_;
-  bool made_ = false;
-};
-
 }  // namespace
+
+FileBeside::FileBeside(FileSystem& files, std::wstring target)
+    : files_(files), target_(std::move(target)), path_(NameBeside(target_)) {
+  RemoveLeftOver(files_, target_);
+  output_ = files_.CreateNewFile(path_);
+  made_ = output_ != nullptr;
+}
+
+FileBeside::~FileBeside() {
+  output_.reset();
+  if (made_) files_.DeleteFileA(path_);
+}
+
+bool FileBeside::TakePlace() {
+  output_.reset();
+  const bool moved = files_.MoveFileExA(path_, target_);
+  made_ = made_ && !moved;
+  return moved;
+}
 
 void RemoveLeftOver(FileSystem& files, const std::wstring& path) { files.DeleteFileA(NameBeside(path)); }
 
@@ -51,9 +39,9 @@ bool SaveWholeFile(FileSystem& files, const std::wstring& path, std::string_view
   const auto attributes = files.GetFileAttributesA(path);
   if (!MayReplace(files, path, attributes)) return false;
   FileBeside beside(files, path);
-  if (!beside.Fill(bytes)) return false;
+  if (!beside.Write(bytes) || !beside.Finish()) return false;
   if (attributes && !beside.SetAttributes(*attributes | kFileArchive)) return false;
-  return beside.TakePlaceOf(path);
+  return beside.TakePlace();
 }
 
 bool CanSave(FileSystem& files, const std::wstring& path) {

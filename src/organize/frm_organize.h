@@ -258,6 +258,7 @@ class frmOrganize final : public ProgramForm {
   void PopupExplore();
   void PopupWindowsExplorer();
   void FindCommand();
+  void ReportCommand();
   void RefreshProjection(const ProjectionTarget& place);
   void OpenWebPage(const std::wstring& path);
 

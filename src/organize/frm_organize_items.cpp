@@ -209,6 +209,18 @@ void frmOrganize::CopyTargetLocations(bool complete) {
   app_.platform.dialogs.MessageBoxA(Window(), kClipboardFailed, kTitle, kBoxCritical);
 }
 
+// The wizard stays when this window closes.
+void frmOrganize::ReportCommand() {
+  std::wstring path = GetSelectedTarget().Path;
+  if (path.empty()) path = app_.PersonalFolder;
+  FileSystem& files = app_.platform.files;
+  const bool isThere = IsNetworkPlace(files, path) ? FolderTests(app_.platform).Test(path) == FolderAnswer::kThere
+                                                   : files.FolderExists(path);
+  if (isThere) return Raise(app_.Calls.ShowFolderReport, path, FormOwner());
+  app_.platform.dialogs.MessageBoxA(Window(), L"Folder '" + path + L"' does not exist or is not a directory.", kTitle,
+                                    kBoxCritical);
+}
+
 void frmOrganize::ShowFolderProperties(std::wstring Path) {
   FollowActivePane();
   if (Path.empty()) Path = GetSelectedTarget().Path;

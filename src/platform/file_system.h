@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -36,6 +37,9 @@ struct FileFacts {
   std::optional<LocalTime> accessed;
   std::wstring shortName;  // of eight and three characters; empty where there is none beside the name itself
 };
+
+// Takes one entry after the other; false ends the walk.
+using FolderVisitor = std::function<bool(const FolderEntry& entry, const FileFacts& facts)>;
 
 // Kinds of drive that GetDriveTypeA tells apart (fileapi.h): what isn't known, a letter without a drive, removable,
 // fixed, remote, compact disc, memory disk.
@@ -99,6 +103,12 @@ class FileSystem {
 
   // What a folder holds, in the disk's order, without "." and "..". False, and nothing, if it can't be listed.
   virtual bool ListFolder(const std::wstring& path, std::vector<FolderEntry>& entries) = 0;
+
+  // Shows `visit` what a folder holds, as ListFolder lists it, with the facts of each entry: in one pass, without
+  // opening a file or following a link. False if the folder can't be listed to its end, or `visit` ended it.
+  virtual bool WalkFolder(const std::wstring& path, const FolderVisitor& visit) = 0;
+  // What the user's system calls files of an extension (".txt"; empty for none), or a folder. The disk isn't asked.
+  virtual std::wstring GetTypeName(const std::wstring& extension, bool isFolder) = 0;
 
   // The machine's drives in the order of their letters, as "x:" with a small letter, with what is known of them without
   // touching a server or a removable medium: "x: [label]" for a fixed drive that has one, "x: [\\server\share]" for a

@@ -45,6 +45,8 @@ class SystemFacts {
   virtual std::wstring GetSystemDirectoryA() const = 0;
   // The machine's name on networks; empty if it doesn't tell.
   virtual std::wstring GetComputerNameA() const = 0;
+  // The user's folder for files of the moment.
+  virtual std::wstring GetTempPathA() const = 0;
   // Full path of the running program.
   virtual std::wstring GetModuleFileNameA() const = 0;
   // A setting of the user's locale (LOCALE_USER_DEFAULT); empty if there is no such setting.

@@ -7,8 +7,8 @@
 namespace burrowmark {
 
 // Work may outlive whoever asked for it: what it uses it holds by shared_ptr, or by value. Of the seam it may call
-// FileSystem, Network and WindowSystem::Post, nothing else; of what it throws nobody hears. The end of the program
-// waits for no work.
+// FileSystem, Network, SystemFacts and WindowSystem::Post, nothing else; of what it throws nobody hears. The end of the
+// program waits for no work.
 class Workers {
  public:
   virtual ~Workers() = default;

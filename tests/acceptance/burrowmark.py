@@ -91,8 +91,8 @@ class Menu:
 def install(exe, folder):
     """Copies the program and what stands beside it."""
     folder.mkdir(exist_ok=True)
-    for file in (exe, exe.parent / "filecopy.avi", exe.parent / "TIPOFDAY.TXT"):
-        shutil.copy(file, folder)
+    for name in (exe.name, "filecopy.avi", "folder_report.css", "TIPOFDAY.TXT"):
+        shutil.copy(exe.parent / name, folder)
 
 
 class Program:

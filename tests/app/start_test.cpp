@@ -207,6 +207,33 @@ TEST_F(Start, CommandsOfOtherProcesses) {
        [&] { EXPECT_EQ(machine_.windows.Beeps(), 2U); }});
 }
 
+TEST_F(Start, EachReportIsAWizardOfItsOwnAndAllEndWithTheProgram) {
+  AddTwoFiles();
+  machine_.AddFolders(L"C:\\Data");
+  const auto owners = [&] {
+    std::vector<WindowHandle> windows;
+    for (const auto& window : machine_.windows.Desktop.Visible()) {
+      if (window->caption.ends_with(L" - Folder Report")) windows.push_back(window->owner);
+    }
+    return windows;
+  };
+  Run({[&] {
+         SecondProcess(L"/FR C:\\Data");
+         SecondProcess(L"/FR \"C:\\is not there\"");
+       },
+       [&] {
+         EXPECT_EQ(owners(), std::vector(2, machine_.windows.Main()));
+         machine_.user.Window(L"is not there - Folder Report").Close();
+         SecondProcess(L"/OF");
+       },
+       [&] { SecondProcess(L"/FR C:\\Data"); },
+       [&] {
+         const WindowHandle editor = machine_.user.Window(L"Organize Folders").window;
+         EXPECT_EQ(owners(), (std::vector{editor, machine_.windows.Main()}));
+       }});
+  EXPECT_TRUE(machine_.windows.Desktop.Visible().empty());
+}
+
 TEST_F(Start, TheEditorOpensOnceComesForwardAndClosesWithTheProgram) {
   const std::wstring title = L"Organize Folders";
   AddTwoFiles();

@@ -24,8 +24,8 @@ TEST_F(FactsContract, TheVersionIsOneThatTheProgramRunsOn) {
 TEST_F(FactsContract, FoldersAndTheProgramsOwnExistWithoutAClosingBackslash) {
   const std::wstring module = facts_.GetModuleFileNameA();
   EXPECT_TRUE(module.ends_with(L".exe")) << ToUtf8(module);
-  for (const std::wstring& folder :
-       {facts_.GetWindowsDirectoryA(), facts_.GetSystemDirectoryA(), module.substr(0, module.rfind(L'\\'))}) {
+  for (const std::wstring& folder : {facts_.GetWindowsDirectoryA(), facts_.GetSystemDirectoryA(), facts_.GetTempPathA(),
+                                     module.substr(0, module.rfind(L'\\'))}) {
     EXPECT_TRUE(files_.FolderExists(folder)) << ToUtf8(folder);
     EXPECT_FALSE(folder.ends_with(L'\\')) << ToUtf8(folder);
   }

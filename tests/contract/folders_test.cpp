@@ -116,6 +116,46 @@ TEST_F(FoldersContract, WhatIsNoFolderIsNotListed) {
   }
 }
 
+TEST_F(FoldersContract, AWalkShowsWhatTheListingShowsWithTheFactsOfEachEntry) {
+  ASSERT_TRUE(Make(In(L"a long name of a file.txt"), "content") && Make(In(L"b"), "") && Make(In(L"c"), "c"));
+  ASSERT_TRUE(files_.CreateFolder(In(L"Sub")) && Make(In(L"Sub\\below")));
+  ASSERT_TRUE(files_.SetFileAttributesA(In(L"b"), kFileHidden | kFileReadOnly));
+  const bool linked = system_->LinkFolder(In(L"link"), system_->Folder());
+  std::map<std::wstring, std::uint32_t> shown;
+  EXPECT_TRUE(files_.WalkFolder(system_->Folder(), [&](const FolderEntry& entry, const FileFacts& facts) {
+    SCOPED_TRACE(ToUtf8(entry.name));
+    shown.emplace(entry.name, entry.attributes);
+    EXPECT_EQ(entry.isLink, entry.name == L"link");
+    EXPECT_EQ(facts.attributes, entry.attributes);
+    if (entry.isLink) return true;
+    const std::optional<FileFacts> alone = files_.GetFileFacts(In(entry.name));
+    const auto minute = [](const std::optional<LocalTime>& time) { return time ? time->hour * 60 + time->minute : -1; };
+    EXPECT_TRUE(alone && alone->size == facts.size && alone->shortName == facts.shortName &&
+                minute(alone->modified) == minute(facts.modified) && minute(alone->created) == minute(facts.created));
+    return true;
+  }));
+  EXPECT_EQ(shown, List(system_->Folder()));
+  EXPECT_EQ(shown.size(), linked ? 5U : 4U) << "nothing from below, and nothing of what the link leads to";
+
+  int visits = 0;
+  const auto stopAtTwo = [&visits](const FolderEntry&, const FileFacts&) { return ++visits < 2; };
+  EXPECT_FALSE(files_.WalkFolder(system_->Folder(), stopAtTwo));
+  EXPECT_EQ(visits, 2);
+  for (const wchar_t* name : {L"missing", L"b", L"Su*"}) {
+    EXPECT_FALSE(files_.WalkFolder(In(name), stopAtTwo)) << ToUtf8(name);
+  }
+  EXPECT_EQ(visits, 2);
+}
+
+TEST_F(FoldersContract, KindsOfFilesHaveNames) {
+  const std::wstring folder = files_.GetTypeName({}, true);
+  const std::wstring unknown = files_.GetTypeName(L".burrow", false);
+  EXPECT_NE(folder, L"");
+  EXPECT_NE(files_.GetTypeName({}, false), L"");
+  EXPECT_NE(unknown.find(L"BURROW"), std::wstring::npos) << ToUtf8(unknown);
+  EXPECT_NE(unknown, folder);
+}
+
 TEST_F(FoldersContract, ADeletedFolderGoesWithAllThatIsInIt) {
   const std::wstring below = In(L"gone") + L"\\a folder of a rather long name \u0416" + std::wstring(120, L'n');
   ASSERT_TRUE(files_.CreateFolder(In(L"gone")) && files_.CreateFolder(below) && files_.CreateFolder(below + L"\\x"));

@@ -168,10 +168,10 @@ TEST_F(Organize, EveryKindOfTargetHasItsCommands) {
     const wchar_t* buttons;
   };
   const Case cases[] = {
-      {L"Organized Folders", L".|...|...|.|+++", L"+|+.|...|...|.|.", L"WindowsExplorer"},
-      {L"Personal", L".|...|.+.|.|+++", L"+|+.|...|...|+|+|+", L"New Up WindowsExplorer Properties"},
-      {L"System Folders", L".|...|+..|.|+++", L"+|+.|...|+..|+|+|+", L"New Up WindowsExplorer Delete Properties"},
-      {L"Alpha", L".|++.|+++|+|+++", L"+|+.|++.|+++|+|+", L"New Change Up WindowsExplorer Cut Copy Delete Properties"},
+      {L"Organized Folders", L".|...|...|.|+++", L"+|++|...|...|.|.", L"WindowsExplorer"},
+      {L"Personal", L".|...|.+.|.|+++", L"+|++|...|...|+|+|+", L"New Up WindowsExplorer Properties"},
+      {L"System Folders", L".|...|+..|.|+++", L"+|++|...|+..|+|+|+", L"New Up WindowsExplorer Delete Properties"},
+      {L"Alpha", L".|++.|+++|+|+++", L"+|++|++.|+++|+|+", L"New Change Up WindowsExplorer Cut Copy Delete Properties"},
   };
   for (const Case& row : cases) {
     scene_.Window().ClickNode(scene_.Tree(), row.node);

@@ -40,6 +40,7 @@ class Faults {
   std::set<std::wstring> HeldOpen;      // files that another program holds open without sharing, upper case
   std::set<std::wstring> SilentPlaces;  // servers ("\\\\SERVER") and drives ("X:") that never answer, upper case
   std::set<std::wstring> FoldersWithoutNewFiles;  // folders in which no file can be made, upper case
+  std::optional<std::size_t> WalkEndsAfter;       // entries that a walk still shows until its folder is gone
   // Registry keys that can't be opened for writing, nor any below them: full path, upper case, as in
   // "HKEY_CURRENT_USER\SOFTWARE".
   std::set<std::wstring> RefusedKeys;

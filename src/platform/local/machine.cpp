@@ -12,7 +12,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr const wchar_t* kFolders[] = {L"C:\\Windows\\System32", L"C:\\Program Files\\Burrowmark"};
+constexpr const wchar_t* kFolders[] = {L"C:\\Windows\\System32", L"C:\\Users\\User\\AppData\\Local\\Temp",
+                                       L"C:\\Program Files\\Burrowmark"};
 constexpr wchar_t kExplorer[] = L"C:\\Windows\\explorer.exe";
 constexpr wchar_t kShellFolders[] = L"Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Shell Folders";
 

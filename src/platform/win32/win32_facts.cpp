@@ -11,7 +11,8 @@ constexpr DWORD kLongestPath = 32768;  // characters of the longest path that th
 using RtlGetVersionCall = LONG(WINAPI*)(RTL_OSVERSIONINFOW*);
 
 // Calls one of the system's functions for a folder, which tell the room they need.
-std::wstring FolderFrom(UINT(WINAPI* call)(LPWSTR, UINT)) {
+template <typename Call>
+std::wstring FolderFrom(Call call) {
   std::wstring folder(call(nullptr, 0), L'\0');
   const UINT length = call(folder.data(), static_cast<UINT>(folder.size()));
   if (length >= folder.size()) return {};
@@ -70,6 +71,10 @@ std::wstring Win32Facts::GetComputerNameA() const {
   auto length = static_cast<DWORD>(name.size());
   name.resize(::GetComputerNameW(name.data(), &length) != FALSE ? length : 0);
   return name;
+}
+
+std::wstring Win32Facts::GetTempPathA() const {
+  return FolderFrom([](LPWSTR folder, UINT room) -> UINT { return ::GetTempPathW(room, folder); });
 }
 
 std::wstring Win32Facts::GetModuleFileNameA() const {

@@ -11,6 +11,7 @@ class Win32Facts final : public SystemFacts {
   std::wstring GetWindowsDirectoryA() const override;
   std::wstring GetSystemDirectoryA() const override;
   std::wstring GetComputerNameA() const override;
+  std::wstring GetTempPathA() const override;
   std::wstring GetModuleFileNameA() const override;
   std::wstring GetLocaleInfoA(std::int32_t setting) const override;
   bool ToAnsi(std::wstring_view text, std::string& bytes) const override;

@@ -137,9 +137,13 @@ std::optional<FileFacts> LocalFileSystem::GetFileFacts(const std::wstring& path)
   if (faults_.Strikes("GetFileFacts", path)) return std::nullopt;
   const std::optional<Entry> entry = Look(path);
   if (!entry || !entry->Exists()) return std::nullopt;
-  FileFacts facts = DiskFacts(entry->place);
-  facts.attributes = entry->attributes;
-  if (entry->isFolder) facts.size = 0;
+  return FactsOf(*entry);
+}
+
+FileFacts LocalFileSystem::FactsOf(const Entry& entry) {
+  FileFacts facts = DiskFacts(entry.place);
+  facts.attributes = entry.attributes;
+  if (entry.isFolder) facts.size = 0;
   return facts;
 }
 
@@ -265,23 +269,53 @@ bool LocalFileSystem::Recycle(const std::wstring& path) {
   return !error && attributes_.Forget(entry->name.Text());
 }
 
-bool LocalFileSystem::ListFolder(const std::wstring& path, std::vector<FolderEntry>& entries) {
-  entries.clear();
-  if (faults_.Strikes("ListFolder", path)) return false;
+std::optional<std::vector<std::pair<FolderEntry, LocalFileSystem::Entry>>> LocalFileSystem::Inside(
+    const std::wstring& path) {
   const std::optional<Entry> folder = Look(path);
-  if (!folder || !folder->isFolder) return false;
+  if (!folder || !folder->isFolder) return std::nullopt;
+  std::vector<std::pair<FolderEntry, Entry>> inside;
   std::error_code error;
   for (fs::directory_iterator it(folder->place, error); !error && it != fs::directory_iterator(); it.increment(error)) {
     std::wstring name = NameFromDisk(it->path().filename());
-    std::optional<WindowsPath> inside = ParseWindowsPath(folder->name.Text() + L'\\' + name);
-    if (!inside || inside->names.empty() || inside->names.back() != name) continue;  // no name that Windows could have
-    const Entry entry = Examine(*std::move(inside), it->path());
-    if (entry.Exists()) entries.push_back({std::move(name), entry.attributes, it->is_symlink(error)});
+    std::optional<WindowsPath> child = ParseWindowsPath(folder->name.Text() + L'\\' + name);
+    if (!child || child->names.empty() || child->names.back() != name) continue;  // no name that Windows could have
+    Entry entry = Examine(*std::move(child), it->path());
+    FolderEntry listed{std::move(name), entry.attributes, it->is_symlink(error)};
+    if (entry.Exists()) inside.emplace_back(std::move(listed), std::move(entry));
   }
-  std::sort(entries.begin(), entries.end(),
-            [](const FolderEntry& a, const FolderEntry& b) { return Folded(a.name) < Folded(b.name); });
-  if (error) entries.clear();
-  return !error;
+  if (error) return std::nullopt;
+  std::sort(inside.begin(), inside.end(),
+            [](const auto& a, const auto& b) { return Folded(a.first.name) < Folded(b.first.name); });
+  return inside;
+}
+
+bool LocalFileSystem::ListFolder(const std::wstring& path, std::vector<FolderEntry>& entries) {
+  entries.clear();
+  if (faults_.Strikes("ListFolder", path)) return false;
+  auto inside = Inside(path);
+  if (!inside) return false;
+  for (auto& [listed, entry] : *inside) entries.push_back(std::move(listed));
+  return true;
+}
+
+bool LocalFileSystem::WalkFolder(const std::wstring& path, const FolderVisitor& visit) {
+  if (faults_.Strikes("WalkFolder", path)) return false;
+  const auto inside = Inside(path);
+  if (!inside) return false;
+  for (const auto& [listed, entry] : *inside) {
+    if (faults_.WalkEndsAfter && (*faults_.WalkEndsAfter)-- == 0) return false;
+    if (!visit(listed, FactsOf(entry))) return false;
+  }
+  return true;
+}
+
+std::wstring LocalFileSystem::GetTypeName(const std::wstring& extension, bool isFolder) {
+  if (faults_.Strikes("GetTypeName", extension)) return {};
+  if (isFolder) return L"File folder";
+  if (extension.empty()) return L"File";
+  std::wstring type = extension.substr(1);
+  std::transform(type.begin(), type.end(), type.begin(), UpperCase);
+  return type == L"TXT" ? L"Text Document" : type + L" File";
 }
 
 std::vector<std::wstring> LocalFileSystem::DriveList() {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <filesystem>
+#include <utility>
 
 #include "platform/characters.h"
 #include "platform/file_system.h"
@@ -32,6 +33,8 @@ class LocalFileSystem final : public FileSystem {
   bool CreateFolder(const std::wstring& path) override;
   bool DeleteFolder(const std::wstring& path) override;
   bool ListFolder(const std::wstring& path, std::vector<FolderEntry>& entries) override;
+  bool WalkFolder(const std::wstring& path, const FolderVisitor& visit) override;
+  std::wstring GetTypeName(const std::wstring& extension, bool isFolder) override;
   std::vector<std::wstring> DriveList() override;
   std::int32_t GetDriveTypeA(const std::wstring& drive) override;
   bool GetVolumeInformationA(const std::wstring& drive, std::wstring& label) override;
@@ -66,6 +69,9 @@ class LocalFileSystem final : public FileSystem {
     bool IsSameAs(const Entry& other) const { return EqualIgnoringCase(name.Text(), other.name.Text()); }
   };
 
+  static FileFacts FactsOf(const Entry& entry);
+  // Nothing if the folder can't be listed.
+  std::optional<std::vector<std::pair<FolderEntry, Entry>>> Inside(const std::wstring& path);
   // What stands at a path that was taken apart, without a touch of its drive being counted.
   Entry Examine(WindowsPath name, std::filesystem::path place);
   // Nothing if the path can't be or the folder that it stands in doesn't exist.

@@ -35,6 +35,12 @@ FileFacts FactsFrom(const Data& data) {
 
 }  // namespace
 
+FileFacts FactsOfFound(const WIN32_FIND_DATAW& found) {
+  FileFacts facts = FactsFrom(found);
+  facts.shortName = found.cAlternateFileName;
+  return facts;
+}
+
 // A search for the one name brings everything, the short name too, and also of files that the system keeps for itself.
 // Where there is nothing to search, in a root for instance, the system is asked without it. A pattern would find
 // another file.
@@ -45,9 +51,7 @@ std::optional<FileFacts> ReadFileFacts(const std::wstring& path) {
   WIN32_FIND_DATAW found = {};
   if (const HANDLE search = ::FindFirstFileW(name->c_str(), &found); search != INVALID_HANDLE_VALUE) {
     ::FindClose(search);
-    FileFacts facts = FactsFrom(found);
-    facts.shortName = found.cAlternateFileName;
-    return facts;
+    return FactsOfFound(found);
   }
   WIN32_FILE_ATTRIBUTE_DATA data = {};
   if (::GetFileAttributesExW(name->c_str(), GetFileExInfoStandard, &data) == 0) return std::nullopt;

@@ -13,6 +13,9 @@ namespace burrowmark {
 // As FileSystem::ListFolder.
 bool ReadFolder(const std::wstring& path, std::vector<FolderEntry>& entries);
 
+// As FileSystem::WalkFolder.
+bool VisitFolder(const std::wstring& path, const FolderVisitor& visit);
+
 // What was found leads to a folder elsewhere.
 bool IsFolderLink(const WIN32_FIND_DATAW& found);
 

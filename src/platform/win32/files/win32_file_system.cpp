@@ -16,6 +16,7 @@
 #include "platform/win32/files/folder_removal.h"
 #include "platform/win32/files/quiet_drives.h"
 #include "platform/win32/files/system_path.h"
+#include "platform/win32/files/type_name.h"
 
 namespace burrowmark {
 namespace {
@@ -187,6 +188,14 @@ bool Win32FileSystem::DeleteFolder(const std::wstring& path) { return RemoveFold
 
 bool Win32FileSystem::ListFolder(const std::wstring& path, std::vector<FolderEntry>& entries) {
   return ReadFolder(path, entries);
+}
+
+bool Win32FileSystem::WalkFolder(const std::wstring& path, const FolderVisitor& visit) {
+  return VisitFolder(path, visit);
+}
+
+std::wstring Win32FileSystem::GetTypeName(const std::wstring& extension, bool isFolder) {
+  return ReadTypeName(extension, isFolder);
 }
 
 std::vector<std::wstring> Win32FileSystem::DriveList() { return ListDrives(); }

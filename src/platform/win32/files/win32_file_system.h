@@ -22,6 +22,8 @@ class Win32FileSystem final : public FileSystem {
   bool CreateFolder(const std::wstring& path) override;
   bool DeleteFolder(const std::wstring& path) override;
   bool ListFolder(const std::wstring& path, std::vector<FolderEntry>& entries) override;
+  bool WalkFolder(const std::wstring& path, const FolderVisitor& visit) override;
+  std::wstring GetTypeName(const std::wstring& extension, bool isFolder) override;
   std::vector<std::wstring> DriveList() override;
   std::int32_t GetDriveTypeA(const std::wstring& drive) override;
   bool GetVolumeInformationA(const std::wstring& drive, std::wstring& label) override;
