@@ -91,7 +91,7 @@ class Menu:
 def install(exe, folder):
     """Copies the program and what stands beside it."""
     folder.mkdir(exist_ok=True)
-    for file in (exe, exe.parent / "filecopy.avi"):
+    for file in (exe, exe.parent / "CopyAddress.exe", exe.parent / "filecopy.avi"):
         shutil.copy(file, folder)
 
 
