@@ -15,6 +15,7 @@
 #include "config/config_file.h"
 #include "core/program_form.h"
 #include "core/progress.h"
+#include "options/option_steps.h"
 #include "organize/edit_history.h"
 #include "organize/enabling.h"
 #include "organize/item_clipboard.h"
@@ -154,13 +155,9 @@ class frmOrganize final : public ProgramForm {
   void EscapeFromList();
 
   // --- edits of the tree (frm_organize_edit.cpp)
-  struct GeneratedGroups {
-    bool SystemFolders = true;
-    bool Drives = true;
-  };
   void FollowEdit(TreeEdit& edit);
   void UndoCommand();
-  void SetGeneratedGroups(bool systemFolders, bool drives);
+  void SetTreeOptions(const SettingValues<Appearance>& values);
   void ForgetEdits();
   std::vector<ItemRef> SelectedItems();
   void CutOrCopy(PasteMode mode);
@@ -194,6 +191,11 @@ class frmOrganize final : public ProgramForm {
   std::vector<clsNetworkDrive> MappedDrives();
   void CopyTargetLocations(bool complete);
   void ShowFolderProperties(std::wstring Path);
+
+  // --- options (frm_organize_options.cpp)
+  void OptionsCommand();
+  void KeepChosenGroups(const SettingValues<Appearance>& before);
+  void BringMenuUpToOptions();
 
   // --- renaming in place (frm_organize_rename.cpp)
   void ConnectLabels();
@@ -239,7 +241,9 @@ class frmOrganize final : public ProgramForm {
   OrganizeLayout layout_;
   ItemClipboard ClipboardItems_;
   EditHistory history_;
-  std::optional<GeneratedGroups> groupsBefore_;  // what the options asked for before edits that aren't saved
+  // As they were before an edit, not saved yet, that took a generated group out.
+  std::optional<SettingValues<Appearance>> optionsBefore_;
+  OptionValues optionsOfMenu_;  // those that the menu's tree follows
 
   // What lies above others comes first.
   Splitter splitter_{*this};

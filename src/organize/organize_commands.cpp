@@ -79,7 +79,7 @@ std::span<const frmOrganize::CommandRow> frmOrganize::Commands() {
       {{1, L"mnuFileSetDefault", L"Set As Defaul&t"}, [](frmOrganize& form) { form.SetDefaultCommand(); }},
       Line(1, L"mnuFileSep3"),
       {{1, L"mnuFileProperties", L"&Information..."}, kLater},
-      {{1, L"mnuOptionsSettings", L"O&ptions..."}, kLater},
+      {{1, L"mnuOptionsSettings", L"O&ptions..."}, [](frmOrganize& form) { form.OptionsCommand(); }},
       Line(1, L"mnuFileSep4"),
       {{1, L"mnuFileExitDiscardChanges", L"Exit Discarding &Changes"},
        [](frmOrganize& form) { form.ExitDiscardingChanges(); }},
