@@ -97,13 +97,16 @@ unless_passed windows-unit-tests build/windows/tests/unit_tests.exe -- \
 unless_passed windows-contract-tests build/windows/tests/contract_tests.exe tests/contract/fixtures/* -- \
   under_wine build/windows/tests/contract_tests.exe --gtest_brief=1
 
-# What a user's machine asks of the program file: size, libraries, hardening.
-unless_passed program-file build/windows/src/app/burrowmark.exe tools/check_program.sh -- \
-  tools/check_program.sh build/windows/src/app/burrowmark.exe
+# What a user's machine asks of the program files: size, libraries, hardening.
+programs=build/windows/src/app
+unless_passed program-file "$programs/burrowmark.exe" tools/check_program.sh -- tools/check_program.sh \
+  "$programs/burrowmark.exe" 1500000 Microsoft.Windows.Common-Controls asInvoker PerMonitorV2 supportedOS
+unless_passed copy-address-file "$programs/CopyAddress.exe" tools/check_program.sh -- tools/check_program.sh \
+  "$programs/CopyAddress.exe" 60000 asInvoker
 
 acceptance_tests() { python3 -B tests/acceptance/run.py; }
 mapfile -t acceptance_files < <(git ls-files -co --exclude-standard -- tests/acceptance/'*.py' assets/icons/'*.ico')
-unless_passed acceptance build/windows/src/app/burrowmark.exe "${acceptance_files[@]}" src/app/icons.rc \
+unless_passed acceptance "$programs/burrowmark.exe" "$programs/CopyAddress.exe" "${acceptance_files[@]}" src/app/icons.rc \
   build/windows/tests/acceptance/driver/acceptance_driver.exe -- acceptance_tests
 
 build fuzz fuzz_date fuzz_reader fuzz_link

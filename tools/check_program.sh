@@ -1,11 +1,13 @@
 #!/usr/bin/env bash
-# Checks burrowmark.exe: at most 1.5 MB, the system's own libraries alone, hardening flags, a manifest. Usage: FILE
+# Checks a program file: its size, the system's own libraries alone, hardening flags, a manifest.
+# Usage: FILE MOST_BYTES WORD_OF_MANIFEST...
 set -euo pipefail
-exe=$1
+exe=$1 most=$2
+shift 2
+name=$(basename "$exe")
 bad=0
-complain() { printf 'burrowmark.exe: %s\n' "$*"; bad=1; }
+complain() { printf '%s: %s\n' "$name" "$*"; bad=1; }
 
-most=1500000
 size=$(stat -c %s "$exe")
 [ "$size" -le "$most" ] || complain "$size bytes, more than $most"
 
@@ -18,8 +20,8 @@ for flag in HIGH_ENTROPY_VA DYNAMIC_BASE NX_COMPAT; do
   grep -q "$flag" <<<"$facts" || complain "without $flag"
 done
 
-for word in Microsoft.Windows.Common-Controls asInvoker PerMonitorV2 supportedOS; do
+for word in "$@"; do
   grep -qaF "$word" "$exe" || complain "its manifest doesn't say $word"
 done
-[ $bad -eq 0 ] && printf 'burrowmark.exe: %d bytes, system libraries alone, hardened, with its manifest\n' "$size"
+[ $bad -eq 0 ] && printf '%s: %d bytes, system libraries alone, hardened, with its manifest\n' "$name" "$size"
 exit $bad

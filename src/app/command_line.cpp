@@ -27,14 +27,7 @@ bool AddsOrOpens(const std::wstring& Command) {
   return Command.starts_with(kAddCommand) || Command.starts_with(kOpenCommand);
 }
 
-// A modeless dialog of options is no task of the user's: it goes as if they had cancelled it.
-void CloseOptions(Application& app) {
-  OpenWindow* options = app.Windows.Find(ProgramWindow::kOptions);
-  if (options != nullptr) options->Close();
-}
-
 void CarryOut(Application& app, Editor& editor, const std::wstring& Command) {
-  CloseOptions(app);
   if (Command.starts_with(kReportCommand)) {
     OpenFolderReport(app, editor, Command);
   } else if (Command == kOrganizeCommand) {
@@ -53,7 +46,7 @@ std::wstring CommandArgument(const std::wstring& Command, std::size_t length) {
 
 void ProcessCommand(Application& app, Editor& editor, const std::wstring& Command) {
   if (Command == kExitCommand) return app.Requests.EndProgram();
-  app.Requests.Add([&app, &editor, Command] { CarryOut(app, editor, Command); });
+  app.Requests.AddCommand([&app, &editor, Command] { CarryOut(app, editor, Command); });
 }
 
 void HandOver(Application& app, std::uint32_t RegisteredMessage, const std::wstring& Command) {

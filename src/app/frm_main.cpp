@@ -11,6 +11,7 @@
 #include "core/store_copy.h"
 #include "menu/menu_actions.h"
 #include "menu/menu_setup.h"
+#include "options/frm_options.h"
 #include "projection/organized_folders.h"
 
 namespace burrowmark {
@@ -30,15 +31,27 @@ void frmMain::ConnectEvents() {
   events_.TrayMouse = [this](std::uint32_t mouseMessage) { tray_.Form_MouseMove(mouseMessage); };
   events_.TaskbarCreated = [this] { tray_.Add(); };
   events_.DpiChanged = [this](std::int32_t) { tray_.ScaleChanged(); };
-  events_.SessionEnding = [this] { editor_.SaveForSessionEnd(); };
+  events_.SessionEnding = [this] {
+    GiveUpOptions();
+    editor_.SaveForSessionEnd();
+  };
   events_.Close = [this] { app_.Requests.EndProgram(); };
   events_.Unload = [this] { Form_Unload(); };
   events_.AtRest = [this] { app_.Requests.RunAtRest(); };
 }
 
+// Check marks that aren't applied don't count in what is saved then.
+void frmMain::GiveUpOptions() {
+  OpenWindow* options = app_.Windows.Find(ProgramWindow::kOptions);
+  const bool idle = !app_.Requests.IsBusyWith(BusyWith::kBox) && !app_.Requests.IsBusyWith(BusyWith::kWork);
+  if (options != nullptr && idle) options->Close();
+}
+
 void frmMain::FillCalls() {
   app_.Requests.End = [this] { End(); };
   app_.Calls.OpenEditor = [this] { editor_.Show(); };
+  app_.Calls.ShowOptions = [this] { return ShowOptionsOfMenu(app_); };
+  app_.Calls.WatchHotKeys = [this](bool on) { on ? hook_.HookKeyboard() : hook_.UnhookKeyboard(); };
   app_.Calls.CommandArrived = [this](const std::wstring& Command) { ProcessCommand(app_, editor_, Command); };
   app_.Calls.ShowFolderReport = [this](const std::wstring& folder, const FormOwner& owner) {
     reports_.Show(folder, owner);

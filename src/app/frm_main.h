@@ -25,6 +25,7 @@ class frmMain {
  private:
   void ConnectEvents();
   void FillCalls();
+  void GiveUpOptions();
   void LoadTree(Work& work);
   void BringProjectionsUp(Work& work);
   void ProjectAfterInstall(Work& work);

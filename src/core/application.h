@@ -39,10 +39,12 @@ struct UpwardCalls {
   std::function<void()> OpenEditor;
   // A command from another instance, as it came over.
   std::function<void(const std::wstring& Command)> CommandArrived;
-  // Shows the Options dialog; true if something was changed.
-  std::function<bool(clsMenuCollection& store, bool FromMainMenu)> ShowOptions;
+  // Shows the Options dialog over the menu's tree; true if something was changed.
+  std::function<bool()> ShowOptions;
   // Opens a wizard for the report on a folder.
   std::function<void(const std::wstring& folder, const FormOwner& owner)> ShowFolderReport;
+  // Watches the keyboard for hot keys, or doesn't.
+  std::function<void(bool on)> WatchHotKeys;
   // Deletes a shortcut whose folder is gone from the tree that it stands in, for good.
   std::function<void(const std::shared_ptr<clsMenuCollection>& store, const ItemRef& item)> DeleteShortcut;
 };

@@ -21,7 +21,7 @@ void ProgramForm::RunModal() {
     Unload();
     return;
   }
-  const Busy busy(app_.Requests, BusyWith::kWindow, [this] { Unload(UnloadMode::kUser); });
+  const Busy busy(app_.Requests, busyness_, [this] { Unload(UnloadMode::kUser); });
   Form::RunModal();
 }
 

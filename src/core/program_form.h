@@ -19,6 +19,8 @@ class ProgramForm : public Form, private OpenWindow {
  protected:
   ProgramForm(Application& app, ProgramWindow kind, const wchar_t* name, const Size& client);
   ~ProgramForm() override;
+  // While it is modal a command from outside closes it, as the user would.
+  void GoForCommands() { busyness_ = BusyWith::kOptions; }
 
   Application& app_;
 
@@ -35,6 +37,7 @@ class ProgramForm : public Form, private OpenWindow {
   void Hold(int holders) final { Block(holders); }
 
   ProgramWindow kind_;
+  BusyWith busyness_ = BusyWith::kWindow;
 };
 
 }  // namespace burrowmark

@@ -44,6 +44,22 @@ void Requests::Add(std::function<void()> request) {
   if (!AtRest()) bringForward_();
 }
 
+void Requests::AddCommand(std::function<void()> command) {
+  Add(std::move(command));
+  commandWaits_ = true;
+  ClearWaySoon();
+}
+
+// Whoever handed the command over has its answer first.
+void Requests::ClearWaySoon() {
+  system_.Post([this] { ClearWay(); });
+}
+
+void Requests::ClearWay() {
+  const bool inTheWay = !busy_.empty() && busy_.back()->what_ == BusyWith::kOptions;
+  if (commandWaits_ && inTheWay && busy_.back()->giveUp_) busy_.back()->giveUp_();
+}
+
 void Requests::AddPrompt(std::function<void()> prompt) {
   prompts_.push_back(std::move(prompt));
   if (IsBusyWith(BusyWith::kMenu) && busy_.back()->giveUp_) busy_.back()->giveUp_();
@@ -62,7 +78,9 @@ void Requests::RunAtRest() {
       if (End) End();
       return;
     }
-    TakeFirst(waiting_)();
+    const auto request = TakeFirst(waiting_);
+    commandWaits_ = commandWaits_ && !waiting_.empty();
+    request();
   }
 }
 
@@ -87,6 +105,7 @@ void Requests::WindDown() {
 void Requests::Leave(const Busy& busy) {
   std::erase(busy_, &busy);
   if (ending_) WindDownSoon();
+  if (commandWaits_) ClearWaySoon();
   if (prompts_.empty() || IsBusyWith(BusyWith::kWork) || IsBusyWith(BusyWith::kMenu)) return;
   system_.Post([this] { RunPrompts(); });
 }

@@ -15,12 +15,13 @@ class ProgramWindows;
 
 // What the program may be busy with.
 enum class BusyWith : std::uint8_t {
-  kStart,   // it isn't up yet
-  kWork,    // something that lets messages run and mustn't be cut into: a save, a projection, a walk, an unload
-  kMenu,    // the menu on the tray
-  kWalk,    // several shortcuts are being opened one after the other
-  kBox,     // a message box or a file dialog
-  kWindow,  // a modal window
+  kStart,    // it isn't up yet
+  kWork,     // something that lets messages run and mustn't be cut into: a save, a projection, a walk, an unload
+  kMenu,     // the menu on the tray
+  kWalk,     // several shortcuts are being opened one after the other
+  kBox,      // a message box or a file dialog
+  kWindow,   // a modal window
+  kOptions,  // a modal window that goes when a command comes
 };
 
 // The program is at rest when it waits in its own loop, is busy with nothing and no window is in the middle of a
@@ -33,6 +34,8 @@ class Requests {
   Requests& operator=(const Requests&) = delete;
 
   void Add(std::function<void()> request);
+  // The same for a command from outside. A window that goes for it goes as soon as nothing stands over it.
+  void AddCommand(std::function<void()> command);
   // Runs before the program is at rest too, under boxes and modal windows; waits for work alone, and for the menu,
   // which it ends.
   void AddPrompt(std::function<void()> prompt);
@@ -56,6 +59,8 @@ class Requests {
   bool AtRest() const;
   void Leave(const Busy& busy);
   void RunPrompts();
+  void ClearWaySoon();
+  void ClearWay();
   void WindDownSoon();
   void WindDown();
 
@@ -65,6 +70,7 @@ class Requests {
   std::vector<const Busy*> busy_;  // the innermost last
   std::deque<std::function<void()>> waiting_;
   std::deque<std::function<void()>> prompts_;
+  bool commandWaits_ = false;
   bool ending_ = false;
   bool endRuns_ = false;
 };

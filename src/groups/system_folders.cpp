@@ -113,17 +113,56 @@ bool HoldsFolder(const clsMenuCollection& store, const std::wstring& owner, cons
   return false;
 }
 
+std::wstring OwnerOf(const Application& app, const FolderRow& row) {
+  return row.important && app.AC[Appearance::kImportantFirst] ? MIT_PATHS_SYSTEM : row.owner;
+}
+
 void AddFolder(Application& app, clsMenuCollection& store, const FolderRow& row) {
   const std::wstring path = PathOf(app, row);
   if (path.empty() || !app.platform.files.FolderExists(path)) return;
   NewMenuItem item;
   item.Caption = row.caption;
-  item.OwnerName = row.important && app.AC[Appearance::kImportantFirst] ? MIT_PATHS_SYSTEM : row.owner;
+  item.OwnerName = OwnerOf(app, row);
   if (HoldsFolder(store, item.OwnerName, path)) return;
   item.FolderPath = path;
   item.ItemType = MIT_PATH;
   item.OpenType = MIT_PATH_EXPLORER;
   store.AddNewMenuItem(item);
+}
+
+// The entry that the program made of a row where the options asked for it before; none where there is none.
+ItemRef EntryElsewhere(const Application& app, const clsMenuCollection& store, const FolderRow& row) {
+  const std::wstring now = OwnerOf(app, row);
+  const std::wstring path = PathOf(app, row);
+  if (path.empty()) return nullptr;
+  for (const std::wstring& owner : {std::wstring(row.owner), std::wstring(MIT_PATHS_SYSTEM)}) {
+    if (owner == now) continue;
+    for (const ItemRef& item : store.Children(owner)) {
+      if (!item->SubMenu() && item->FolderPath == path && item->Caption() == row.caption) return item;
+    }
+  }
+  return nullptr;
+}
+
+// What the user gave it, a hot key among it, comes along.
+void MoveEntry(const Application& app, clsMenuCollection& store, const FolderRow& row) {
+  const ItemRef old = EntryElsewhere(app, store, row);
+  if (!old) return;
+  auto moved = std::make_shared<clsMenuItem>(app.platform.clock);
+  CloneMenuItem(*old, *moved);
+  moved->SetOwnerName(OwnerOf(app, row));
+  store.Remove(old->Name());
+  if (!HoldsFolder(store, moved->OwnerName(), moved->FolderPath)) store.AddOne(moved, false, true);
+}
+
+bool IsOfTable(const clsMenuItem& item, const std::vector<std::wstring>& paths) {
+  for (std::size_t i = 0; i < std::size(kRows); ++i) {
+    const FolderRow& row = kRows[i];
+    if (row.name != nullptr && item.Name() == row.name) return true;
+    const bool stands = item.OwnerName() == row.owner || (row.important && item.OwnerName() == MIT_PATHS_SYSTEM);
+    if (stands && row.name == nullptr && item.Caption() == row.caption && item.FolderPath == paths[i]) return true;
+  }
+  return false;
 }
 
 }  // namespace
@@ -139,6 +178,10 @@ void SetupSystemFolders(Application& app, clsMenuCollection& store) {
   }
 }
 
+std::wstring DeleteGroupQuestion(const std::wstring& title) {
+  return L"Do you want to delete " + title + L" group?\r\nYou can always add it back later in Options dialog box.";
+}
+
 void RemoveSystemFolders(Application& app, clsMenuCollection& store) {
   const auto group = GetSystemFoldersCollection(app, store);
   bool hotKeyGone = false;
@@ -147,6 +190,24 @@ void RemoveSystemFolders(Application& app, clsMenuCollection& store) {
     store.Remove(group->Item(i)->Name());
   }
   if (hotKeyGone) RefreshHotKeysOf(app, store);
+}
+
+void RebuildSystemFolders(Application& app, clsMenuCollection& store) {
+  for (const FolderRow& row : kRows) {
+    if (row.important) MoveEntry(app, store, row);
+  }
+  SetupSystemFolders(app, store);
+  RefreshHotKeysOf(app, store);
+}
+
+bool HoldsUsersItems(const Application& app, const clsMenuCollection& store) {
+  std::vector<std::wstring> paths;
+  for (const FolderRow& row : kRows) paths.push_back(row.name == nullptr ? PathOf(app, row) : std::wstring());
+  for (std::int32_t i = 1; i <= store.Count(); ++i) {
+    const ItemRef item = store.Item(i);
+    if (store.GetItemRootNode(*item) == MIT_PATHS_SYSTEM && !IsOfTable(*item, paths)) return true;
+  }
+  return false;
 }
 
 std::shared_ptr<clsMenuCollection> GetSystemFoldersCollection(const Application& app, const clsMenuCollection& store) {

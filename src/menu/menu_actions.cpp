@@ -90,7 +90,7 @@ void MenuItemChosen(Application& app, const std::shared_ptr<clsMenuCollection>& 
     if (item->Name() == MIT_HF_HELP) {
       ShowHelp(app, kHelpContents);
     } else if (item->Name() == MIT_HF_SETTINGS) {
-      ShowOptions(app, *store, true);
+      ShowOptions(app);
     } else if (item->Name() == MIT_HF_ORGANIZE) {
       if (app.Calls.OpenEditor) app.Calls.OpenEditor();
     } else if (item->ItemType == MIT_OPENALL) {
@@ -162,9 +162,8 @@ void ShowHelp(Application& app, std::int32_t command) {
   if (!app.platform.shell.HtmlHelpA(app.HelpFile, command)) OpenFile(app, app.HelpFile);
 }
 
-bool ShowOptions(Application& app, clsMenuCollection& store, bool FromMainMenu) {
-  return !app.Windows.IsOpen(ProgramWindow::kOptions) && app.Calls.ShowOptions &&
-         app.Calls.ShowOptions(store, FromMainMenu);
+bool ShowOptions(Application& app) {
+  return !app.Windows.IsOpen(ProgramWindow::kOptions) && app.Calls.ShowOptions && app.Calls.ShowOptions();
 }
 
 std::wstring GetTransferText(const Application& app) {

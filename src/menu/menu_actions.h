@@ -32,8 +32,8 @@ std::int32_t OpenFile(Application& app, const std::wstring& path);
 void EjectDisc(Application& app, const std::wstring& drive);
 // Opens the help file; 1 is its contents, 2 its index. A box says if it is missing.
 void ShowHelp(Application& app, std::int32_t command);
-// Shows the Options dialog unless it is open; true if something was changed.
-bool ShowOptions(Application& app, clsMenuCollection& store, bool FromMainMenu);
+// Shows the Options dialog over the menu's tree unless it is open; true if something was changed.
+bool ShowOptions(Application& app);
 // The last command that was handed over, or empty.
 std::wstring GetTransferText(const Application& app);
 

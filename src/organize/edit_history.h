@@ -5,8 +5,10 @@
 #include <deque>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
+#include "core/setting_names.h"
 #include "organize/tree_edit.h"
 
 namespace burrowmark {
@@ -23,9 +25,9 @@ struct PanesState {
 struct HistoryStep {
   std::wstring Name{};  // of the command: "Paste"
   TreeRecord Tree{};
-  PanesState Panes;            // before it
-  bool SystemFolders = false;  // the groups that the options asked for before it
-  bool Drives = false;
+  PanesState Panes;  // before it
+  // The options that it switched, as they were before.
+  std::vector<std::pair<Appearance, bool>> Options{};
 };
 
 class EditHistory {

@@ -63,6 +63,7 @@ void ShowTip(Application& app) {
 
 frmOrganize::frmOrganize(Application& app)
     : ProgramForm(app, ProgramWindow::kOrganize, L"frmOrganize", kDesign),
+      optionsOfMenu_(TakeOptions(app)),
       tlbMain(*this, L"tlbMain", ToolbarButtons()),
       menus_(*this, MenuRows()) {
   SetBorder(FormBorder::kSizable);
@@ -90,6 +91,7 @@ void frmOrganize::Form_Load() {
   RefreshViews({}, true);
   StayOnTop(false);
   RefreshHotKeys(app_, WorkCollection());
+  optionsOfMenu_ = TakeOptions(app_);
   FirstActivate_ = true;
 }
 

@@ -16,6 +16,7 @@
 #include "core/program_form.h"
 #include "core/progress.h"
 #include "groups/personal_group.h"
+#include "options/option_steps.h"
 #include "organize/edit_history.h"
 #include "organize/enabling.h"
 #include "organize/item_clipboard.h"
@@ -156,14 +157,10 @@ class frmOrganize final : public ProgramForm {
   void EscapeFromList();
 
   // --- edits of the tree (frm_organize_edit.cpp)
-  struct GeneratedGroups {
-    bool SystemFolders = true;
-    bool Drives = true;
-  };
   void EditOn(TreeEdit& open, const std::function<void(TreeEdit&)>& edit);
   void FollowEdit(TreeEdit& edit);
   void UndoCommand();
-  void SetGeneratedGroups(bool systemFolders, bool drives);
+  void SetTreeOptions(const SettingValues<Appearance>& values);
   void ForgetEdits();
   std::vector<ItemRef> SelectedItems();
   void CutOrCopy(PasteMode mode);
@@ -229,6 +226,11 @@ class frmOrganize final : public ProgramForm {
   bool OnlyFolders(const std::vector<std::wstring>& paths);
   void AddFolders(const std::vector<std::wstring>& paths, const clsMenuItem& group);
 
+  // --- options (frm_organize_options.cpp)
+  void OptionsCommand();
+  void KeepChosenGroups(const SettingValues<Appearance>& before);
+  void BringMenuUpToOptions();
+
   // --- renaming in place (frm_organize_rename.cpp)
   void ConnectLabels();
   void RenameCommand();
@@ -279,8 +281,10 @@ class frmOrganize final : public ProgramForm {
   Timer TimerOLE_{app_.platform.windows};
   std::shared_ptr<bool> life_ = std::make_shared<bool>(true);  // a request asks whether this is still there
   EditHistory history_;
-  TreeEdit* openEdit_ = nullptr;                 // that is going on
-  std::optional<GeneratedGroups> groupsBefore_;  // what the options asked for before edits that aren't saved
+  TreeEdit* openEdit_ = nullptr;  // that is going on
+  // As they were before an edit, not saved yet, that took a generated group out.
+  std::optional<SettingValues<Appearance>> optionsBefore_;
+  OptionValues optionsOfMenu_;  // those that the menu's tree follows
 
   // What lies above others comes first.
   Splitter splitter_{*this};

@@ -38,6 +38,7 @@ void frmOrganize::Form_Unload(bool& Cancel) {
   }
   ForgetEdits();
   if (SavedToDefault || app_.MainDocument.CurrentConfigFile != app_.ConfigFile) FollowDefaultFile();
+  BringMenuUpToOptions();
   Release();
 }
 

@@ -31,6 +31,13 @@ class OpenEdit {
   TreeEdit*& open_;
 };
 
+// What the tree holds, and where, is these options' to say: they go back with it.
+constexpr Appearance kTreeOptions[] = {Appearance::kSystemFolders, Appearance::kDrives, Appearance::kHelp,
+                                       Appearance::kOptions, Appearance::kImportantFirst};
+
+// Those of the groups that an edit can take out.
+constexpr Appearance kGroupOptions[] = {Appearance::kSystemFolders, Appearance::kDrives};
+
 bool IsGenerated(const clsMenuItem& item) { return item.Name() == MIT_PATHS_SYSTEM || item.Name() == MIT_PATHS_DRIVES; }
 
 }  // namespace
@@ -44,18 +51,19 @@ void frmOrganize::Inform(const std::wstring& text) {
 void frmOrganize::EditTree(const std::wstring& name, const std::function<void(TreeEdit&)>& edit) {
   if (openEdit_ != nullptr) return EditOn(*openEdit_, edit);
   const std::shared_ptr<clsMenuCollection> store = WorkCollection();
-  HistoryStep step{.Name = name,
-                   .Tree = {},
-                   .Panes = Panes(),
-                   .SystemFolders = app_.AC[Appearance::kSystemFolders],
-                   .Drives = app_.AC[Appearance::kDrives]};
+  const SettingValues<Appearance> options = app_.AC;
+  HistoryStep step{.Name = name, .Tree = {}, .Panes = Panes(), .Options = {}};
   TreeEdit changes(app_.platform.clock, *store);
   {
     const OpenEdit open(openEdit_, changes);
     EditOn(changes, edit);
   }
   step.Tree = changes.Record();
-  if (!step.Tree.Empty()) history_.Add(std::move(step));
+  if (step.Tree.Empty()) return;
+  for (const Appearance option : kTreeOptions) {
+    if (app_.AC[option] != options[option]) step.Options.emplace_back(option, options[option]);
+  }
+  history_.Add(std::move(step));
 }
 
 // What comes while an edit is open, from a window over the editor, belongs to that one.
@@ -82,7 +90,12 @@ void frmOrganize::UndoCommand() {
   if (!step) return;
   const Hourglass busy(*this);
   const TreeChange change = TakeBack(*WorkCollection(), step->Tree);
-  SetGeneratedGroups(step->SystemFolders, step->Drives);
+  SettingValues<Appearance> options = app_.AC;
+  for (const auto& [option, value] : step->Options) {
+    options[option] = value;
+    if (optionsBefore_ && value) (*optionsBefore_)[option] = true;
+  }
+  SetTreeOptions(options);
   Edited.Changed = true;
   RefreshGhosts();
   tree_.Follow(change);
@@ -91,14 +104,20 @@ void frmOrganize::UndoCommand() {
   RefreshHotKeys(app_, WorkCollection());
 }
 
-// The groups that the options ask for.
-void frmOrganize::SetGeneratedGroups(bool systemFolders, bool drives) {
-  const auto set = [this](Appearance setting, bool on) {
-    if (std::exchange(app_.AC[setting], on) != on) SaveSetting(app_, setting);
-  };
-  set(Appearance::kSystemFolders, systemFolders);
-  if (app_.AC[Appearance::kDrives] != drives) app_.DrivesRebuildNeeded = true;
-  set(Appearance::kDrives, drives);
+// A group that the user chose to have or not to have stays so, also when the edits are discarded.
+void frmOrganize::KeepChosenGroups(const SettingValues<Appearance>& before) {
+  if (!optionsBefore_) return;
+  for (const Appearance option : kGroupOptions) {
+    const bool now = app_.AC[option];
+    if (before[option] != now) (*optionsBefore_)[option] = now;
+  }
+}
+
+void frmOrganize::SetTreeOptions(const SettingValues<Appearance>& values) {
+  if (app_.AC[Appearance::kDrives] != values[Appearance::kDrives]) app_.DrivesRebuildNeeded = true;
+  for (const Appearance option : kTreeOptions) {
+    if (std::exchange(app_.AC[option], values[option]) != values[option]) SaveSetting(app_, option);
+  }
 }
 
 // Another tree is in the window, or this one goes without being kept.
@@ -106,8 +125,10 @@ void frmOrganize::ForgetEdits() {
   history_.Clear();
   ClipboardItems_.LeaveTree();
   RefreshGhosts();
-  if (const auto groups = std::exchange(groupsBefore_, std::nullopt)) {
-    SetGeneratedGroups(groups->SystemFolders, groups->Drives);
+  if (const auto before = std::exchange(optionsBefore_, std::nullopt)) {
+    SettingValues<Appearance> values = app_.AC;
+    for (const Appearance option : kGroupOptions) values[option] = (*before)[option];
+    SetTreeOptions(values);
   }
 }
 
@@ -272,10 +293,8 @@ bool frmOrganize::AskAboutGeneratedGroups(std::vector<ItemRef>& items) {
   for (const ItemRef& item : items) {
     if (!IsGenerated(*item)) continue;
     const wchar_t* name = item->Name() == MIT_PATHS_SYSTEM ? L"System Folders" : L"Drives";
-    const std::wstring question = std::wstring(L"Do you want to delete ") + name +
-                                  L" group?\r\nYou can always add it back later in Options dialog box.";
     const std::int32_t answer =
-        app_.platform.dialogs.MessageBoxA(Window(), question, kTitle, kBoxYesNoCancel | kBoxWarning);
+        app_.platform.dialogs.MessageBoxA(Window(), DeleteGroupQuestion(name), kTitle, kBoxYesNoCancel | kBoxWarning);
     if (answer == kAnswerCancel) return false;
     if (answer != kAnswerYes) kept.push_back(item);
   }
@@ -314,14 +333,15 @@ void frmOrganize::DeleteItems(const std::vector<ItemRef>& items) {
 }
 
 void frmOrganize::DeleteGeneratedGroup(TreeEdit& edit, const clsMenuItem& group) {
-  const bool systemFolders = app_.AC[Appearance::kSystemFolders];
-  const bool drives = app_.AC[Appearance::kDrives];
-  if (!groupsBefore_) groupsBefore_ = GeneratedGroups{systemFolders, drives};
+  if (!optionsBefore_) optionsBefore_ = app_.AC;
+  SettingValues<Appearance> without = app_.AC;
   if (group.Name() == MIT_PATHS_SYSTEM) {
-    SetGeneratedGroups(false, drives);
+    without[Appearance::kSystemFolders] = false;
+    SetTreeOptions(without);
     edit.Around([this](clsMenuCollection& store) { RemoveSystemFolders(app_, store); });
   } else {
-    SetGeneratedGroups(systemFolders, false);
+    without[Appearance::kDrives] = false;
+    SetTreeOptions(without);
     edit.Around([this](clsMenuCollection& store) { RemoveDrives(app_, store); });
   }
 }

@@ -63,8 +63,9 @@ void frmOrganize::RefreshDefaultCommands() {
 bool frmOrganize::FuncConfigFileSave(bool Rebuild) {
   const Hourglass busy(*this);
   if (!ConfigFileWrite(app_, Edited)) return false;
-  groupsBefore_.reset();
+  optionsBefore_.reset();
   if (!Rebuild) return true;
+  optionsOfMenu_ = TakeOptions(app_);
   Document document = Edited;
   document.Store = std::make_shared<clsMenuCollection>(app_.platform.clock);
   CopyStore(app_.platform.clock, *Edited.Store, *document.Store);
@@ -131,7 +132,7 @@ void frmOrganize::SaveConfigAsCommand() {
   if (!MayReplace(path)) return;
   const bool saved = asText ? SaveListing(path) : ConfigFileWriteAs(app_, Edited, path);
   if (saved && !asText) {
-    groupsBefore_.reset();
+    optionsBefore_.reset();
     SetFormCaption();
   }
   RefreshDefaultCommands();

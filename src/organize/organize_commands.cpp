@@ -8,9 +8,9 @@
 #include "platform/key_codes.h"
 #include "projection/organized_folders.h"
 #include "tools/about.h"
-#include "tools/tip.h"
 #include "tools/frm_network_drives.h"
 #include "tools/frm_personal_network_info.h"
+#include "tools/tip.h"
 
 namespace burrowmark {
 namespace {
@@ -82,7 +82,7 @@ std::span<const frmOrganize::CommandRow> frmOrganize::Commands() {
       {{1, L"mnuFileSetDefault", L"Set As Defaul&t"}, [](frmOrganize& form) { form.SetDefaultCommand(); }},
       Line(1, L"mnuFileSep3"),
       {{1, L"mnuFileProperties", L"&Information..."}, [](frmOrganize& form) { form.ShowInformation(); }},
-      {{1, L"mnuOptionsSettings", L"O&ptions..."}, kLater},
+      {{1, L"mnuOptionsSettings", L"O&ptions..."}, [](frmOrganize& form) { form.OptionsCommand(); }},
       Line(1, L"mnuFileSep4"),
       {{1, L"mnuFileExitDiscardChanges", L"Exit Discarding &Changes"},
        [](frmOrganize& form) { form.ExitDiscardingChanges(); }},

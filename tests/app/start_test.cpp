@@ -253,6 +253,32 @@ TEST_F(Start, TheEditorOpensOnceComesForwardAndClosesWithTheProgram) {
        }});
 }
 
+TEST_F(Start, ACommandTakesTheOptionsAwayButNoBoxOverThem) {
+  AddTwoFiles();
+  const auto choose = [&](const std::function<void(ShownWindow&)>& script) {
+    machine_.user.NextMenu({L"Options"});
+    machine_.user.NextWindow(L"Options", script);
+    machine_.user.ClickTray(LocalUser::Button::kLeft);
+  };
+  Run({[&] {
+         choose([&](ShownWindow& window) {
+           window.Click(L"Default");
+           window.Click(L"OK");
+         });
+         EXPECT_EQ(machine_.keyboard.LiveHooks(), 1U);
+         choose([&](ShownWindow& window) {
+           window.Click(L"Default");
+           machine_.user.NextBox(L"Are you sure you want to exit", kAnswerNo, [&] {
+             SecondProcess(L"/OF");
+             EXPECT_TRUE(window.IsOpen());
+           });
+           window.Click(L"Exit");
+           EXPECT_FALSE(window.IsOpen());
+         });
+       },
+       [&] { EXPECT_TRUE(machine_.user.Window(L"Organize Folders").visible); }});
+}
+
 TEST_F(Start, AnEditorWithChangesCanStopTheEndOfTheProgram) {
   const std::wstring title = L"Organize Folders - other.bwmk";
   AddTwoFiles();

@@ -8,6 +8,7 @@
 #include "dialogs/frm_add_modify.h"
 #include "dialogs/frm_item_exists.h"
 #include "dialogs/frm_properties.h"
+#include "options/frm_options.h"
 #include "organize/frm_organize.h"
 #include "platform/characters.h"
 #include "tests/contract/system_under_test.h"
@@ -32,6 +33,7 @@ std::vector<FormKind> FormKinds() {
       {"frmOrganize", [](Application& app) { return std::make_unique<frmOrganize>(app); }},
       {"frmItemExists", [](Application& app) { return std::make_unique<frmItemExists>(app); }},
       {"frmProperties", [](Application& app) { return std::make_unique<frmProperties>(app); }},
+      {"frmOptions", [](Application& app) { return std::make_unique<frmOptions>(app); }},
       {"frmAddModify",
        [](Application& app) {
          auto form = std::make_unique<frmAddModify>(app);

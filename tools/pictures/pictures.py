@@ -157,6 +157,24 @@ def take_tools(album, editor):
     close(show("personal-network-info", "Personal Network Info", "p"))
 
 
+def take_options(album, tray, program):
+    """Its tabs; the longest of the descriptions, so that one that is cut off shows."""
+    desktop = album.desktop
+    menu = program.open_menu(tray)
+    menu.click(next(entry for entry in wait_for(menu.entries, "entries of the menu") if entry.text == "Options"))
+    dialog = desktop.wait_window(FORM, "Options", 10)
+    for tab, keys in (("general", ()), ("appearance", ("End", "Up")), ("advanced", ("Home", "Down"))):
+        album.save("options-" + tab)
+        if tab == "general":
+            desktop.keys("Tab")
+            desktop.wait_focus(dialog, TREE)
+        desktop.keys(*(keys or ("Home", "End", "Home")))
+        album.save("options-%s-described" % tab)
+        desktop.keys("ctrl+Tab")
+    desktop.keys("Esc")
+    desktop.wait_gone(dialog)
+
+
 def take_all(settings, output, dpi):
     with Desktop(settings, SCREENS[dpi], dpi) as desktop:
         album = Album(desktop, output)
@@ -170,6 +188,7 @@ def take_all(settings, output, dpi):
         take_menu(album, program.open_menu(tray))
         desktop.keys("Esc")
         program.wait_no_menu()
+        take_options(album, tray, program)
         editor = Editor.open(program)
         take_editor(album, editor)
         take_dialogs(album, editor)

@@ -1,7 +1,25 @@
 // The text on the clipboard, as another program finds it.
+#include <future>
+#include <thread>
+#include <utility>
+
 #include "driver.h"
 
 namespace driver {
+
+// Keeps it from everybody else for so long, from now on.
+void HoldClipboard(Words& words) {
+  const auto milliseconds = static_cast<DWORD>(words.Int());
+  std::promise<bool> held;
+  std::future<bool> answer = held.get_future();
+  std::thread([milliseconds, held = std::move(held)]() mutable {
+    const bool open = OpenClipboard(nullptr) != 0;
+    held.set_value(open);
+    Sleep(milliseconds);
+    if (open) CloseClipboard();
+  }).detach();
+  if (!answer.get()) throw Failure("another program holds the clipboard");
+}
 
 void ReadClipboard(Words&) {
   if (OpenClipboard(nullptr) == 0) throw Failure("another program holds the clipboard");

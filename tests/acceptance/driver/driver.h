@@ -59,7 +59,7 @@ std::wstring ClassOf(HWND window);
 using Verb = void(Words& words);
 Verb ListWindows, ListChildren, PressButton, CloseWindow, BringForward;  // windows.cpp
 Verb ListTree, ListList;                                                 // contents.cpp
-Verb ReadClipboard;                                                      // clipboard.cpp
+Verb ReadClipboard, HoldClipboard;                                       // clipboard.cpp
 Verb ListMenu;                                                           // menus.cpp
 Verb ShowCounters;                                                       // counters.cpp
 Verb PressKeys, TimeClick;                                               // input.cpp

@@ -12,17 +12,18 @@ namespace driver {
 namespace {
 
 const std::map<std::wstring, Verb*> kVerbs = {
-    {L"windows", ListWindows},       // all top-level windows, front to back
-    {L"children", ListChildren},     // WINDOW: all windows within it
-    {L"press", PressButton},         // WINDOW ID: a button of a dialog
-    {L"close", CloseWindow},         // WINDOW
-    {L"activate", BringForward},     // WINDOW: brings it to the front
-    {L"tree", ListTree},             // WINDOW: the nodes of a tree view
-    {L"list", ListList},             // WINDOW: the rows of a list view
-    {L"clipboard", ReadClipboard},   // the text on it
-    {L"menu", ListMenu},             // WINDOW: the entries of an open popup menu
-    {L"counters", ShowCounters},     // WINDOW: what its process holds of the system
-    {L"keys", PressKeys},            // KEY...: as Down, ctrl+shift+F2, a, or text:Any text
+    {L"windows", ListWindows},           // all top-level windows, front to back
+    {L"children", ListChildren},         // WINDOW: all windows within it
+    {L"press", PressButton},             // WINDOW ID: a button of a dialog
+    {L"close", CloseWindow},             // WINDOW
+    {L"activate", BringForward},         // WINDOW: brings it to the front
+    {L"tree", ListTree},                 // WINDOW: the nodes of a tree view
+    {L"list", ListList},                 // WINDOW: the rows of a list view
+    {L"clipboard", ReadClipboard},       // the text on it
+    {L"hold-clipboard", HoldClipboard},  // MILLISECONDS: keeps it from everybody else
+    {L"menu", ListMenu},                 // WINDOW: the entries of an open popup menu
+    {L"counters", ShowCounters},         // WINDOW: what its process holds of the system
+    {L"keys", PressKeys},                // KEY...: as Down, ctrl+shift+F2, a, or text:Any text
     {L"time-click", TimeClick},      // X Y PX PY RED GREEN BLUE LIMIT_MS: button-up to that colour within a popup menu
     {L"add-drive", AddDrive},        // LETTER FOLDER: a fixed drive at a folder of the host
     {L"remove-drive", RemoveDrive},  // LETTER
