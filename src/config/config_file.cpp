@@ -87,9 +87,10 @@ std::wstring PreviousName(const std::wstring& path) { return NameWith(path, L"pr
 void KeepPrevious(Application& app, const std::wstring& path) {
   FileSystem& files = app.platform.files;
   const std::optional<FileFacts> facts = files.GetFileFacts(path);
-  const std::optional<LocalTime> written = facts ? facts->modified : std::nullopt;
+  if (!facts || !facts->modified) return;
+  const LocalTime& written = *facts->modified;
   const LocalTime now = app.platform.clock.GetLocalTime();
-  if (!written || (written->year == now.year && written->month == now.month && written->day == now.day)) return;
+  if (written.year == now.year && written.month == now.month && written.day == now.day) return;
   std::string bytes;
   if (files.ReadWholeFile(path, bytes) && !bytes.empty()) SaveWholeFile(files, PreviousName(path), bytes);
 }
