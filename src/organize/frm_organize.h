@@ -250,13 +250,12 @@ class frmOrganize final : public ProgramForm {
   void SetToolsState();
   void OpenEditMenu();
   void OpenViewMenu();
-  void EnableMenu(const wchar_t* name, bool on);
-  void EnableButton(const std::wstring& key, bool on);
+  void EnableMenu(const wchar_t* name, bool on) { menus_[name].SetEnabled(on); }
+  void EnableButton(const std::wstring& key, bool on) { tlbMain.SetButtonEnabled(key, on); }
   void SetToolbarState(const std::wstring& Key);
   void SetToolbarPaste();
   void FollowActivePane();
   void ConnectMenus();
-  static bool IsBuilt(std::wstring_view menu);
   void PopupExplore();
   void PopupWindowsExplorer();
   void FindCommand();

@@ -57,8 +57,6 @@ struct frmOrganize::CommandRow {
 };
 
 std::span<const frmOrganize::CommandRow> frmOrganize::Commands() {
-  // The window of this command comes later: until then it is greyed.
-  constexpr CommandRow::Run kLater = nullptr;
   constexpr CommandRow::Run kNothing = [](frmOrganize&) {};
   constexpr auto Line = [](std::int32_t level, const wchar_t* name) {
     return CommandRow{{level, name, kMenuLine}, kNothing};
@@ -238,22 +236,8 @@ std::vector<MenuRow> frmOrganize::MenuRows() {
 void frmOrganize::ConnectMenus() {
   for (const wchar_t* popup : {L"mnuPopup", L"mnuPopup2", L"mnuToolbar"}) menus_[popup].SetVisible(false);
   for (const CommandRow& command : Commands()) {
-    FormMenuEntry& entry = menus_[command.row.name];
-    entry.SetEnabled(command.run != nullptr);
-    entry.Click = [this, run = command.run] {
-      if (run != nullptr) run(*this);
-    };
+    menus_[command.row.name].Click = [this, run = command.run] { run(*this); };
   }
-}
-
-// Greyed for good is what has no window yet.
-void frmOrganize::EnableMenu(const wchar_t* name, bool on) { menus_[name].SetEnabled(on && IsBuilt(name)); }
-
-bool frmOrganize::IsBuilt(std::wstring_view menu) {
-  const auto commands = Commands();
-  const auto row = std::find_if(commands.begin(), commands.end(),
-                                [menu](const CommandRow& command) { return menu == command.row.name; });
-  return row == commands.end() || row->run != nullptr;
 }
 
 // --- the toolbar's buttons
@@ -268,12 +252,6 @@ void frmOrganize::ConnectBars() {
   };
   tlbMain.MouseMove = [this](const MouseEvent&) { splitter_.ResetCursor(); };
   strip_.stbMain.MouseMove = [this](const MouseEvent&) { splitter_.ResetCursor(); };
-  for (const ButtonRow& row : kButtons) EnableButton(row.key, true);
-}
-
-void frmOrganize::EnableButton(const std::wstring& key, bool on) {
-  const wchar_t* menu = MenuOfButton(key);
-  tlbMain.SetButtonEnabled(key, on && (menu == nullptr || IsBuilt(menu)));
 }
 
 }  // namespace burrowmark

@@ -32,6 +32,7 @@ class RememberedLocale final : public SystemFacts {
   bool GetVersionExA(SystemVersion& version) const override { return system_.GetVersionExA(version); }
   std::wstring GetWindowsDirectoryA() const override { return system_.GetWindowsDirectoryA(); }
   std::wstring GetSystemDirectoryA() const override { return system_.GetSystemDirectoryA(); }
+  std::wstring GetComputerNameA() const override { return system_.GetComputerNameA(); }
   std::wstring GetTempPathA() const override { return system_.GetTempPathA(); }
   std::wstring GetModuleFileNameA() const override { return system_.GetModuleFileNameA(); }
   bool ToAnsi(std::wstring_view text, std::string& bytes) const override { return system_.ToAnsi(text, bytes); }
