@@ -46,10 +46,6 @@ constexpr bool kCommonlyUsed[kReportColumns] = {true, false, true, true, true, t
 // What a preview may be: no file that the system would run.
 constexpr const wchar_t* kPreviewExtensions[] = {L"html", L"htm", L"csv", L"txt"};
 
-std::wstring FolderMissing(const std::wstring& folder) {
-  return L"Folder '" + folder + L"' does not exist or is not a directory.";
-}
-
 // The folder that a file stands in; empty if the path names none.
 std::wstring GetParentFolderName(const std::wstring& path) {
   return path.find(L'\\') == std::wstring::npos ? std::wstring() : GetFolderName(path);
@@ -293,28 +289,26 @@ void frmFolderReport::CheckPaths() {
   if (IsNetworkPlace(files, folder_) || IsNetworkPlace(files, target)) Later(kPatience, goOn);
 }
 
+// What keeps the report from being made, or asks about it; mostly nothing.
+frmFolderReport::Problem frmFolderReport::ProblemOf(const Answers& answers) const {
+  if (!answers.folderIsThere) {
+    return {L"Folder '" + folder_ + L"' does not exist or is not a directory.", kBoxCritical};
+  }
+  if (preview_ || !ToFile()) return {};
+  const std::wstring& target = txtPath.Text();
+  if (target.empty()) return {L"Please select the file to save the folder report in.", kBoxWarning};
+  if (GetParentFolderName(target).empty()) return {L"Please enter valid path for the output file.", kBoxWarning};
+  if (!answers.targetIsThere) return {};
+  return {L"The file '" + GetFileName(target) + L"' already exists. Do you want to replace the existing file?",
+          kBoxWarning | kBoxYesNoCancel};
+}
+
 // A question may end the run, and the form.
 bool frmFolderReport::PathsAreFine(const Answers& answers) {
-  std::wstring problem;
-  std::uint32_t style = kBoxWarning;
-  const std::wstring& target = txtPath.Text();
-  if (!answers.folderIsThere) {
-    problem = FolderMissing(folder_);
-    style = kBoxCritical;
-  } else if (preview_ || !ToFile()) {
-    return true;
-  } else if (target.empty()) {
-    problem = L"Please select the file to save the folder report in.";
-  } else if (GetParentFolderName(target).empty()) {
-    problem = L"Please enter valid path for the output file.";
-  } else if (answers.targetIsThere) {
-    problem = L"The file '" + GetFileName(target) + L"' already exists. Do you want to replace the existing file?";
-    style |= kBoxYesNoCancel;
-  } else {
-    return true;
-  }
+  const Problem problem = ProblemOf(answers);
+  if (problem.text.empty()) return true;
   boxUp_ = true;
-  const bool replace = Tell(problem, style) == kAnswerYes;
+  const bool replace = Tell(problem.text, problem.style) == kAnswerYes;
   boxUp_ = false;
   return replace;
 }

@@ -30,6 +30,10 @@ class frmFolderReport final : public ProgramForm {
 
  private:
   struct Answers;
+  struct Problem {
+    std::wstring text;
+    std::uint32_t style = 0;  // of the box that tells it
+  };
   struct Life {};
 
   void Form_Load() override;
@@ -57,6 +61,7 @@ class frmFolderReport final : public ProgramForm {
   // --- making the report, step by step: each goes on only if the run is still the one
   void CreateReport(bool preview);
   void CheckPaths();
+  Problem ProblemOf(const Answers& answers) const;
   bool PathsAreFine(const Answers& answers);
   void WriteNow();
   void Finish(bool done);
