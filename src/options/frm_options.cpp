@@ -59,6 +59,11 @@ void frmOptions::ConnectPages() {
     page.tree.SetCheckBoxes(true);
     page.tree.NodeCheck = [this, &page](TreeNode& node) { Check(page, node); };
     page.tree.NodeClick = [&page](TreeNode& node) { Describe(page, node); };
+    // The system selects a node then, and doesn't tell of it as of a click.
+    page.tree.GotFocus = [&page] {
+      if (page.tree.SelectedItem() == nullptr) page.tree.SetSelectedItem(page.tree.Item(1));
+      Describe(page, *page.tree.SelectedItem());
+    };
   }
 }
 

@@ -95,14 +95,5 @@ TEST_F(ShellVerbs, ComeAndGoWhereverTheUserMayWrite) {
   }
 }
 
-// A program of somebody else's may have put a verb of its own below ours.
-TEST_F(ShellVerbs, AKeyThatIsInTheWayStaysAndTheOthersGo) {
-  machine.AddFile(L"C:\\P Q\\CopyAddress.exe");
-  AddShellVerbs(app);
-  registry_.CreateKey(RegistryKey::kClassesRoot, L"Drive\\shell\\Copy Address\\ddeexec");
-  RemoveShellVerbs(app);
-  EXPECT_EQ(Written(0), LineOf(L"Drive\\shell\\Copy Address", L"&Copy Address"));
-}
-
 }  // namespace
 }  // namespace burrowmark

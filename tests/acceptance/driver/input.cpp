@@ -29,7 +29,7 @@ constexpr KeyName kKeys[] = {
     {L"Up", VK_UP},         {L"Down", VK_DOWN},     {L"Left", VK_LEFT},     {L"Right", VK_RIGHT},
     {L"Home", VK_HOME},     {L"End", VK_END},       {L"Apps", VK_APPS},     {L"F2", VK_F2},
     {L"F4", VK_F4},         {L"Insert", VK_INSERT}, {L"Delete", VK_DELETE}, {L"F6", VK_F6},
-    {L"shift", VK_SHIFT},   {L"ctrl", VK_CONTROL},  {L"alt", VK_MENU},
+    {L"shift", VK_SHIFT},   {L"ctrl", VK_CONTROL},  {L"alt", VK_MENU},      {L"Tab", VK_TAB},
 };
 constexpr WORD kExtended[] = {VK_UP, VK_DOWN, VK_LEFT, VK_RIGHT, VK_HOME, VK_END, VK_APPS, VK_INSERT, VK_DELETE};
 
