@@ -54,8 +54,10 @@ bool ReadFolderContent(const ReportRequest& request, FileSystem& files, ReportRu
   TypeNames types(files, content.types);
   const auto keep = [&](const FolderEntry& entry, const FileFacts& facts) {
     ReportEntry kept;
+    const bool withShort = request.Has(ReportColumn::kShortName) && !facts.shortName.empty();
+    kept.names.reserve(entry.name.size() + (withShort ? facts.shortName.size() + 1 : 0));  // and no more
     kept.names = entry.name;
-    if (request.Has(ReportColumn::kShortName) && !facts.shortName.empty()) kept.names += L'\0' + facts.shortName;
+    if (withShort) kept.names.append(1, L'\0').append(facts.shortName);
     kept.size = facts.size;
     if (request.Has(ReportColumn::kModified)) kept.modified = DateOf(facts.modified);
     if (request.Has(ReportColumn::kCreated)) kept.created = DateOf(facts.created);
