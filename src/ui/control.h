@@ -29,6 +29,7 @@ namespace burrowmark {
 
 class Control;
 class ControlSite;
+class OptionButton;
 
 // What controls can be in: a form, or a control that holds others.
 class ControlParent {
@@ -174,6 +175,7 @@ class Control : public virtual ControlState {
 
  private:
   friend class Form;  // which makes the peers and takes them away
+  friend class OptionButton;
   virtual void MakePeer(Peers& peers) = 0;
   virtual std::unique_ptr<ControlPeer> TakePeer() = 0;
   // What was going on in the native window ended with it.
@@ -184,6 +186,8 @@ class Control : public virtual ControlState {
   virtual bool ShowsDefaultWithFocus() const { return false; }
   virtual void DefaultMoved() {}
   virtual void UserPress() {}
+  // None for controls of other kinds.
+  virtual OptionButton* AsOption() { return nullptr; }
 
   ControlParent& parent_;
   ControlSite& form_;

@@ -19,7 +19,7 @@ void OptionButton::SetCaption(std::wstring_view caption) {
 std::vector<OptionButton*> OptionButton::Group() const {
   std::vector<OptionButton*> group;
   for (Control* control : Site().Controls()) {
-    auto* option = dynamic_cast<OptionButton*>(control);
+    auto* option = control->AsOption();
     if (option != nullptr && &option->Parent() == &Parent()) group.push_back(option);
   }
   return group;

@@ -29,6 +29,7 @@ class OptionButton final : public ControlOf<OptionState, OptionPeer> {
   void UserArrow(bool forward) override;
 
  private:
+  OptionButton* AsOption() override { return this; }
   // Those of which one can be on, in tab order, this one among them.
   std::vector<OptionButton*> Group() const;
   void Turn(bool on);
