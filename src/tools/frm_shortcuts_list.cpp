@@ -93,7 +93,7 @@ std::vector<ToolbarButtonState> ToolbarButtons() {
 }
 
 std::vector<StatusPanelState> Panels() {
-  return {{{}, 0, 1500}, {{}, 0, 1600}, {{}, kValidIcon, 1250}, {{}, kInvalidIcon, 1350}, {{}, 0, 0}};
+  return {{{}, 0, 1500}, {{}, 0, 1500}, {{}, kValidIcon, 1400}, {{}, kInvalidIcon, 1550}, {{}, 0, 0}};
 }
 
 bool IsListed(const clsMenuItem& item) { return item.ItemType == MIT_PATH && !item.SubMenu() && !item.Separator(); }
