@@ -58,7 +58,7 @@ frmPersonalNetworkInfo::frmPersonalNetworkInfo(Application& app)
   SetKeyPreview(true);
   picPage.SetBackColor(kColorWindow);  // as the system draws the page of a tab
   lvwMain.AddColumn(L"Statistic name", 1900);
-  lvwMain.AddColumn(L"Value", 3700);
+  lvwMain.AddColumn(L"Value", 4000);
   cmdFinish.SetDefault(true);
   cmdFinish.SetCancel(true);
   cmdCopyToClipboard.SetToolTipText(L"Copy all or selected data to Clipboard (CTRL+C)");

@@ -36,10 +36,10 @@ struct Column {
 
 // The last two headers tell of each other's times.
 constexpr Column kColumns[] = {
-    {L"Name", 2000},
+    {L"Name", 2200},
     {L"Status", 900},
     {L"Location", 1900},
-    {L"Keyboard Shortcut", 1700},
+    {L"Keyboard Shortcut", 1900},
     {L"Target Location", 2900},
     {L"Description", 1900},
     {L"Created", 1900},
@@ -93,7 +93,7 @@ std::vector<ToolbarButtonState> ToolbarButtons() {
 }
 
 std::vector<StatusPanelState> Panels() {
-  return {{{}, 0, 1350}, {{}, 0, 1500}, {{}, kValidIcon, 1200}, {{}, kInvalidIcon, 1200}, {{}, 0, 0}};
+  return {{{}, 0, 1500}, {{}, 0, 1500}, {{}, kValidIcon, 1400}, {{}, kInvalidIcon, 1550}, {{}, 0, 0}};
 }
 
 bool IsListed(const clsMenuItem& item) { return item.ItemType == MIT_PATH && !item.SubMenu() && !item.Separator(); }

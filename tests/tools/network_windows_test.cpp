@@ -3,13 +3,14 @@
 
 #include "platform/key_codes.h"
 #include "tests/support/scratch_machine.h"
+#include "tests/tools/list_window.h"
 #include "tools/frm_network_drives.h"
 #include "tools/frm_personal_network_info.h"
 
 namespace burrowmark::test {
 namespace {
 
-class NetworkWindows : public testing::Test, protected ScratchMachine {
+class NetworkWindows : public ListWindowTest, protected ScratchMachine {
  protected:
   NetworkWindows() {
     for (const wchar_t letter : {L'X', L'Y', L'Z'}) {
@@ -36,24 +37,6 @@ class NetworkWindows : public testing::Test, protected ScratchMachine {
   }
   void ShowDrives(const std::function<void()>& script) { Show<frmNetworkDrives>(L"Network Drives", script); }
 
-  ShownControl& Get(ShownKind kind) {
-    return **std::find_if(window_->controls.begin(), window_->controls.end(),
-                          [kind](const auto& control) { return control->kind == kind; });
-  }
-  std::vector<ListItemState>& Rows() { return Get(ShownKind::kListView).list->rows; }
-  std::wstring Column(std::size_t column) {
-    std::wstring texts;
-    for (const ListItemState& row : Rows()) texts += (column < row.texts.size() ? row.texts[column] : L"") + L"|";
-    return texts;
-  }
-  std::wstring Panels() {
-    std::wstring texts;
-    for (const std::wstring& text : window_->PanelTexts(Get(ShownKind::kStatusBar).window)) texts += text + L"|";
-    return texts;
-  }
-  void ClickRow(std::int32_t row, std::int32_t button = kLeftButton, std::int32_t shift = 0) {
-    window_->ClickRow(Get(ShownKind::kListView).window, row, button, shift);
-  }
   std::wstring Copied() {
     machine.user.NextBox(L"The data has been copied to the Clipboard.", kAnswerOk);
     window_->Press(L'C', kCtrlMask);
@@ -67,7 +50,6 @@ class NetworkWindows : public testing::Test, protected ScratchMachine {
   }
 
   LocalNetwork& network_ = machine.network;
-  ShownWindow* window_ = nullptr;
 };
 
 TEST_F(NetworkWindows, DrivesComeWithWhatIsKnownAndADeadServerHoldsUpNothing) {
@@ -95,16 +77,14 @@ TEST_F(NetworkWindows, DrivesComeWithWhatIsKnownAndADeadServerHoldsUpNothing) {
 }
 
 TEST_F(NetworkWindows, WhatFailsIsToldOnceAFill) {
-  struct Case {
-    std::uint32_t result;
-    bool sockets;
-    const wchar_t* box;
-  };
-  for (const Case& row : {Case{1203, true, L"Error: 1203"}, Case{kNoNetwork, true, nullptr},
-                          Case{kNetworkDone, false, L"Could not initialize sockets."}}) {
-    network_.Result = row.result;
-    network_.HasSockets = row.sockets;
-    if (row.box != nullptr) machine.user.NextBox(row.box, kAnswerOk);
+  const std::tuple<std::uint32_t, bool, const wchar_t*> cases[] = {
+      {1203, true, L"Error: 1203"},
+      {kNoNetwork, true, nullptr},
+      {kNetworkDone, false, L"Could not initialize sockets."}};
+  for (const auto& [result, sockets, box] : cases) {
+    network_.Result = result;
+    network_.HasSockets = sockets;
+    if (box != nullptr) machine.user.NextBox(box, kAnswerOk);
     ShowDrives([this] {
       LetRun();
       EXPECT_EQ(Column(0), L"");
@@ -118,12 +98,12 @@ TEST_F(NetworkWindows, DrivesAreMappedDisconnectedCopiedAndOpened) {
     LetRun();
     const std::wstring header = L"Drive\tMapping\tPath\tServer\tIP Address\tComment\tProvider\t\r\n";
     const std::wstring second = L"Y:\tConnected\t\\\\LIVE\\media\tLIVE\t10.0.0.9\t\tLAN\t\r\n";
-    ClickRow(1);
+    Click(L"Y:");
     EXPECT_EQ(Copied(), header + second);
-    ClickRow(0, kLeftButton, kCtrlMask);
+    Click(L"x:", kLeftButton, kCtrlMask);
     EXPECT_EQ(Copied().find(L"x:\t"), header.size()) << "a press with Ctrl leaves what was selected";
     machine.user.NextPopup({L"Open"});
-    ClickRow(1, kRightButton);
+    Click(L"Y:", kRightButton);
     EXPECT_EQ(machine.shell.Launches.back().parameters, L"Y:\\");
     window_->Press(L'D', kCtrlMask);
     EXPECT_EQ(network_.DisconnectDialogs, 1);

@@ -55,7 +55,9 @@ Win32ListView::Win32ListView(const ChildPlace& place, ListViewState& list)
     ColumnChanged(static_cast<std::int32_t>(column));
   }
   ViewChanged();
+  StartUpdate();
   for (std::int32_t row = 0; row < list.RowCount(); ++row) RowAdded(row);
+  StopUpdate();
   CurrentRowChanged();
   DropRowChanged();
 }
