@@ -49,7 +49,9 @@ frmOptions::frmOptions(Application& app)
   };
   cmdCancel.Click = [this] { Unload(); };
   cmdApply.Click = [this] {
-    if (Accept()) cmdApply.SetEnabled(false);
+    if (!Accept()) return;
+    if (cmdApply.HasFocus()) cmdFinish.SetFocus();  // keys go nowhere from a button that can't be pressed
+    cmdApply.SetEnabled(false);
   };
 }
 

@@ -41,7 +41,7 @@ class ByKeyboard(OptionsTest):
         self.show_tab(dialog, 1)
         self.desktop.keys("Down", "Down", "Space", "alt+a")
         wait_for(lambda: self.setting("AC2") == "0", "the setting of the menu's help", 10)
-        self.desktop.keys("Up", "Space", "Esc")
+        self.desktop.keys("alt+d", "Esc")
         self.desktop.wait_gone(dialog)
         self.assertEqual(self.setting("AC1"), "0")
         self.open_root(self.tray, ROOT[1:])
