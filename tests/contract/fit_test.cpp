@@ -3,14 +3,17 @@
 #include <memory>
 #include <vector>
 
+#include "config/frm_properties_config_file.h"
 #include "core/application.h"
 #include "core/progress.h"
 #include "dialogs/frm_add_modify.h"
 #include "dialogs/frm_item_exists.h"
 #include "dialogs/frm_properties.h"
+#include "groups/frm_wizard.h"
 #include "organize/frm_organize.h"
 #include "platform/characters.h"
 #include "tests/contract/system_under_test.h"
+#include "tools/tip.h"
 #include "ui/check_box.h"
 #include "ui/frame.h"
 
@@ -32,6 +35,14 @@ std::vector<FormKind> FormKinds() {
       {"frmOrganize", [](Application& app) { return std::make_unique<frmOrganize>(app); }},
       {"frmItemExists", [](Application& app) { return std::make_unique<frmItemExists>(app); }},
       {"frmProperties", [](Application& app) { return std::make_unique<frmProperties>(app); }},
+      {"frmPropertiesConfigFile", [](Application& app) { return std::make_unique<frmPropertiesConfigFile>(app); }},
+      {"frmTip", [](Application& app) { return std::make_unique<frmTip>(app); }},
+      {"frmWizard",
+       [](Application& app) {
+         auto form = std::make_unique<frmWizard>(app);
+         form->Init(WizardMode::kPersonal);
+         return form;
+       }},
       {"frmAddModify",
        [](Application& app) {
          auto form = std::make_unique<frmAddModify>(app);
