@@ -50,7 +50,7 @@ class Properties(EditTest):
     def test_times_show_in_the_users_own_form(self):
         self.editor.close_and_wait()
         self.program.end()
-        self.set_form(sLongDate="yyyy d MMMM", sTime=".", iTime="1", iTLZero="1", s2359="nachm.")
+        self.set_form(sLongDate="yyyy d MMMM", sTimeFormat="HH.mm.ss", sTime=".", iTime="1", iTLZero="1", s2359="nachm.")
         self.reopen()
         self.select("Photos")
         self.keys("alt+Return")
