@@ -38,13 +38,13 @@ class frmWizard final : public ProgramForm {
   Line linTop{*this, L"linTop", Box{0, 1080, 8700, 30}};
 
   Label lblNext{*this, L"lblNext", Box{300, 1350, 8100, 240}};
-  OptionButton optChoice0{*this, L"optChoice0", Box{540, 1770, 7920, 255}, L"&Blank content"};
-  OptionButton optChoice1{*this, L"optChoice1", Box{540, 2130, 7920, 255}, L"&Sample group and shortcuts"};
-  OptionButton optChoice2{*this, L"optChoice2", Box{540, 2490, 7920, 255},
+  OptionButton optChoice0{*this, L"optChoice0", Box{540, 1770, 7920, 300}, L"&Blank content"};
+  OptionButton optChoice1{*this, L"optChoice1", Box{540, 2130, 7920, 300}, L"&Sample group and shortcuts"};
+  OptionButton optChoice2{*this, L"optChoice2", Box{540, 2490, 7920, 300},
                           L"Map up to 25 first-level &folders on all drives in the same group"};
-  OptionButton optChoice3{*this, L"optChoice3", Box{540, 2850, 7920, 255},
+  OptionButton optChoice3{*this, L"optChoice3", Box{540, 2850, 7920, 300},
                           L"Map up to 25 &drives in separate groups and up to 25 first-level folders for each drive"};
-  OptionButton optChoice4{*this, L"optChoice4", Box{540, 3210, 7920, 255}, L"Map the most &recently used folders"};
+  OptionButton optChoice4{*this, L"optChoice4", Box{540, 3210, 7920, 300}, L"Map the most &recently used folders"};
 
   PictureBox picInfo{*this, L"picInfo", Box{300, 3780, 480, 480}};
   Label lblExplanation{*this, L"lblExplanation", Box{960, 3780, 7440, 480}};
