@@ -71,10 +71,10 @@ class frmPropertiesConfigFile final : public ProgramForm {
   Label lblTimeAccessed{picGeneral, L"lblTimeAccessed", Box{1920, 3360, 4110, 240}};
   Line linTimes{picGeneral, L"linTimes", Box{180, 3720, 5850, 30}};
   Label lblAttributesTitle{picGeneral, L"lblAttributesTitle", Box{180, 3900, 1680, 240}, L"Attributes:"};
-  CheckBox chkReadOnly{picGeneral, L"chkReadOnly", Box{1920, 3900, 1950, 255}, L"Read-only"};
-  CheckBox chkHidden{picGeneral, L"chkHidden", Box{3990, 3900, 1950, 255}, L"Hidden"};
-  CheckBox chkArchive{picGeneral, L"chkArchive", Box{1920, 4215, 1950, 255}, L"Archive"};
-  CheckBox chkSystem{picGeneral, L"chkSystem", Box{3990, 4215, 1950, 255}, L"System"};
+  CheckBox chkReadOnly{picGeneral, L"chkReadOnly", Box{1920, 3900, 1950, 300}, L"Read-only"};
+  CheckBox chkHidden{picGeneral, L"chkHidden", Box{3990, 3900, 1950, 300}, L"Hidden"};
+  CheckBox chkArchive{picGeneral, L"chkArchive", Box{1920, 4215, 1950, 300}, L"Archive"};
+  CheckBox chkSystem{picGeneral, L"chkSystem", Box{3990, 4215, 1950, 300}, L"System"};
 
   PictureBox picSummary{*this, L"picSummary", Box{180, 480, 6240, 4620}};
   Label lblTitle{picSummary, L"lblTitle", Box{180, 240, 1200, 240}, L"&Title:"};

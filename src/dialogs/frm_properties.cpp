@@ -126,6 +126,7 @@ void frmProperties::CopyTarget() {
 }
 
 void frmProperties::ApplyNow() {
+  if (cmdApply.HasFocus()) cmdFinish.SetFocus();  // keys go nowhere from a button that can't be pressed
   cmdApply.SetEnabled(false);
   ForgetUnusedHolder();
   Applied_ = CopyOf(app_.platform.clock, *Item_);

@@ -34,7 +34,7 @@ class frmTip final : public ProgramForm {
   CommandButton cmdNextTip{*this, L"cmdNextTip", Box{4050, 2805, 1215, 375}, L"&Next >"};
   CommandButton cmdPreviousTip{*this, L"cmdPreviousTip", Box{2835, 2805, 1215, 375}, L"< &Previous"};
   CommandButton cmdOK{*this, L"cmdOK", Box{5400, 2805, 1215, 375}, L"&Close"};
-  CheckBox chkLoadTipsAtStartup{*this, L"chkLoadTipsAtStartup", Box{120, 2385, 6495, 255},
+  CheckBox chkLoadTipsAtStartup{*this, L"chkLoadTipsAtStartup", Box{120, 2385, 6495, 300},
                                 L"&Show Tips when opening Organize Folders window"};
   PictureBox picPage{*this, L"picPage", Box{0, 0, 6735, 2220}};
   PictureBox Picture1{picPage, L"Picture1", Box{180, 240, 480, 480}};

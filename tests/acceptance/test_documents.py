@@ -21,7 +21,7 @@ class Information(EditTest):
         self.assertIn(self.program.file.name, texts)
         self.assertTrue(any(text.endswith("(%s bytes)" % format(size, ",")) for text in texts), texts)
         self.assertTrue(any("~" in text and text.upper().endswith(".BWM") for text in texts), texts)
-        self.keys("ctrl+Tab", "alt+t", "text:My folders", "alt+o", "text:one", "Return", "text:two", "Esc")
+        self.keys("Right", "alt+t", "text:My folders", "alt+o", "text:one", "Return", "text:two", "Esc")
         self.desktop.wait_gone(dialog)
         content = self.program.file.read_bytes()
         self.assertIn(b"[SUMMARY_TITLE:]\0My folders\0[END:]\0", content)
@@ -31,7 +31,7 @@ class Information(EditTest):
         self.program.end()
         self.reopen()
         dialog = self.open()
-        self.keys("ctrl+Tab")
+        self.keys("Right")
         edits = [child.title for child in self.desktop.children(dialog) if child.class_name == "Edit"]
         self.assertEqual(edits, ["My folders", "", "", "", "one\r\ntwo"])
         self.keys("Esc")
@@ -50,7 +50,7 @@ class Properties(EditTest):
     def test_times_show_in_the_users_own_form(self):
         self.editor.close_and_wait()
         self.program.end()
-        self.set_form(sLongDate="yyyy d MMMM", sTime=".", iTime="1", iTLZero="1", s2359="nachm.")
+        self.set_form(sLongDate="yyyy d MMMM", sTimeFormat="HH.mm.ss", sTime=".", iTime="1", iTLZero="1", s2359="nachm.")
         self.reopen()
         self.select("Photos")
         self.keys("alt+Return")

@@ -3,15 +3,18 @@
 #include <memory>
 #include <vector>
 
+#include "config/frm_properties_config_file.h"
 #include "core/application.h"
 #include "core/progress.h"
 #include "dialogs/frm_add_modify.h"
 #include "dialogs/frm_item_exists.h"
 #include "dialogs/frm_properties.h"
+#include "groups/frm_wizard.h"
 #include "options/frm_options.h"
 #include "organize/frm_organize.h"
 #include "platform/characters.h"
 #include "tests/contract/system_under_test.h"
+#include "tools/tip.h"
 #include "ui/check_box.h"
 #include "ui/frame.h"
 
@@ -34,6 +37,14 @@ std::vector<FormKind> FormKinds() {
       {"frmItemExists", [](Application& app) { return std::make_unique<frmItemExists>(app); }},
       {"frmProperties", [](Application& app) { return std::make_unique<frmProperties>(app); }},
       {"frmOptions", [](Application& app) { return std::make_unique<frmOptions>(app); }},
+      {"frmPropertiesConfigFile", [](Application& app) { return std::make_unique<frmPropertiesConfigFile>(app); }},
+      {"frmTip", [](Application& app) { return std::make_unique<frmTip>(app); }},
+      {"frmWizard",
+       [](Application& app) {
+         auto form = std::make_unique<frmWizard>(app);
+         form->Init(WizardMode::kPersonal);
+         return form;
+       }},
       {"frmAddModify",
        [](Application& app) {
          auto form = std::make_unique<frmAddModify>(app);

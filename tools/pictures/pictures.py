@@ -113,7 +113,7 @@ def take_dialogs(album, editor):
     desktop.wait_gone(clash)
     information = show("information", "Information", "alt+f", "i")
     for name in ("summary", "statistics"):
-        desktop.keys("ctrl+Tab")
+        desktop.keys("Right")
         album.save("information-" + name)
     desktop.keys("Esc")
     desktop.wait_gone(information)
