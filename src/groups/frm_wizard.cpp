@@ -5,7 +5,7 @@
 namespace burrowmark {
 namespace {
 
-constexpr Size kClient{8700, 5235};
+constexpr Size kClient{9600, 5235};
 constexpr std::int32_t kIconSize = 32;
 constexpr std::int32_t kWarningIcon = 14;
 
