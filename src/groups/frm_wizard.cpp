@@ -30,8 +30,8 @@ frmWizard::frmWizard(Application& app) : ProgramForm(app, ProgramWindow::kWizard
   for (PictureBox* picture : {&picTop, &picNaslov}) picture->SetBackColor(kColorWindow);
   picInfo.SetIcon(kWarningIcon, kIconSize);
   lblExplanation.SetCaption(
-      L"All changes will be erased and the initial group content will be restored. All actions are irreversible and "
-      L"cannot be undone.");
+      L"All changes will be erased and the initial group content will be restored. Until the window is closed, Undo "
+      L"in the Edit menu takes this back.");
   // There is one page, the last.
   cmdBack.SetEnabled(false);
   cmdNext.SetCaption(L"Finish");
