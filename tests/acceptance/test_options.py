@@ -7,6 +7,7 @@ from harness import wait_for
 
 RUN = "Software\\Microsoft\\Windows\\CurrentVersion\\Run"
 COPY_ADDRESS = FOLDER + "\\CopyAddress.exe"
+TABS = "SysTabControl32"
 
 
 class OptionsTest(ProgramTest):
@@ -22,6 +23,7 @@ class OptionsTest(ProgramTest):
 
     def show_tab(self, dialog, steps):
         """Goes on by so many tabs, and into the tree there."""
+        self.desktop.wait_focus(dialog, TABS)
         self.desktop.keys(*["ctrl+Tab"] * steps, "Tab")
         self.desktop.wait_focus(dialog, TREE)
 
