@@ -10,9 +10,9 @@ TREE, LIST, HEADER, STATUS = "SysTreeView32", "SysListView32", "SysHeader32", "m
 class ListWindow:
     """An open window with a list in it, found by its title."""
 
-    def __init__(self, desktop, title, limit=20.0):
+    def __init__(self, desktop, title, limit=20.0, class_name=FORM):
         self.desktop = desktop
-        self.window = desktop.wait_window(FORM, title, limit)
+        self.window = desktop.wait_window(class_name, title, limit)
 
     def child(self, class_name):
         return next(child for child in self.desktop.children(self.window) if child.class_name == class_name)

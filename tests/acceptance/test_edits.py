@@ -3,7 +3,7 @@
 import time
 
 import bwmk
-from editor import FORM, LIST, TREE
+from editor import FORM, LIST, TREE, ListWindow
 from harness import BOX_CLASS, wait_for
 from test_organize import TITLES, OrganizeTest
 
@@ -194,3 +194,13 @@ class ByMouse(EditTest):
         wait_for(lambda: (3, "Letters") in self.editor.tree(), "a copy in the group", 10)
         self.editor.wait_titles(*TITLES)
         self.assertEqual(self.file_after_closing(), list(TITLES))
+
+    def test_a_folder_comes_from_the_file_manager(self):
+        self.desktop.start("explorer", "/root,C:\\")
+        folders = ListWindow(self.desktop, None, class_name="ExplorerWClass")
+        wait_for(lambda: "Garden" in folders.titles(), "the folders", 20)
+        left, _, _, bottom = self.editor.child(LIST).rectangle
+        start = folders.place_of_row("Garden")
+        self.desktop.drag(start, (start[0] + 20, start[1] + 20), (left + 40, bottom - 40))
+        dialog = self.desktop.wait_window(FORM, "New Item", 10)
+        self.assertIn("C:\\Garden", self.texts_of(dialog))
