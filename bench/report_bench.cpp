@@ -30,7 +30,11 @@ BENCHMARK(BareWalk)->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond);
 
 void Report(benchmark::State& state, const wchar_t* target) {
   BenchFolder folder(state.range(0));
-  ReportRequest request{.Folder = kFolder, .Delimiter = L";", .Target = target, .Moment = Now(folder.machine.clock)};
+  ReportRequest request;
+  request.Folder = kFolder;
+  request.Delimiter = L";";
+  request.Target = target;
+  request.Moment = Now(folder.machine.clock);
   request.Columns.fill(true);
   for (auto _ : state) {
     ReportRun run;
