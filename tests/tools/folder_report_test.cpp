@@ -141,7 +141,10 @@ TEST_F(FolderReport, TextIsAnsiUnlessThatCannotHoldIt) {
 
 TEST_F(FolderReport, WalksOnceOpensNoFileFollowsNoLinkAndAsksForATypeOnce) {
   machine_.AddFile(L"C:\\Data\\more.txt");
-  std::filesystem::create_directory_symlink(machine_.RealPath(L"C:\\Data"), machine_.RealPath(L"C:\\Data\\loop"));
+  std::error_code noLinks;  // some disks have none: then it is a folder like others
+  std::filesystem::create_directory_symlink(machine_.RealPath(L"C:\\Data"), machine_.RealPath(L"C:\\Data\\loop"),
+                                            noLinks);
+  if (noLinks) machine_.files.CreateFolder(L"C:\\Data\\loop");
   machine_.faults.FailFrom(0);
   const std::string text = Written();
   EXPECT_NE(text.find("loop;File folder;;\r\n"), std::string::npos) << text;
