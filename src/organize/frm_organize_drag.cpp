@@ -227,12 +227,11 @@ bool frmOrganize::OnlyFolders(const std::vector<std::wstring>& paths) {
 
 void frmOrganize::AddFolders(const std::vector<std::wstring>& paths, const clsMenuItem& group) {
   std::vector<ItemRef> made;
-  const std::wstring owner = group.Name();
   const Hourglass busy(*this);
   EditTree(paths.size() == 1 ? L"New Item" : L"New Items", [&](TreeEdit& edit) {
     for (const std::wstring& path : paths) {
       made.push_back(edit.AddNew({.Caption = TitleOfFolder(path),
-                                  .OwnerName = owner,
+                                  .OwnerName = group.Name(),
                                   .FolderPath = path,
                                   .ItemType = MIT_PATH,
                                   .OpenType = MIT_PATH_EXPLORER,
