@@ -10,7 +10,6 @@
 namespace burrowmark::test {
 namespace {
 
-constexpr wchar_t kTitle[] = L"Data - Folder Report";
 constexpr wchar_t kGone[] = L"does not exist or is not a directory.";
 constexpr wchar_t kFailed[] = L"Error saving the folder report.";
 
