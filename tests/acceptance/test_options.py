@@ -63,6 +63,7 @@ class ByKeyboard(OptionsTest):
             self.assertEqual(link.exists(), on)
             self.desktop.keys("shift+ctrl+5")
             self.wait_commands("C:\\Letters")  # off: no second one comes
+            self.program.wait_folder_window("Letters")  # which takes the focus
 
 
 class CopyAddress(OptionsTest):

@@ -21,8 +21,13 @@ void HoldClipboard(Words& words) {
   if (!answer.get()) throw Failure("another program holds the clipboard");
 }
 
+// Whoever is just writing to it has a second.
 void ReadClipboard(Words&) {
-  if (OpenClipboard(nullptr) == 0) throw Failure("another program holds the clipboard");
+  const ULONGLONG end = GetTickCount64() + 1000;
+  while (OpenClipboard(nullptr) == 0) {
+    if (GetTickCount64() > end) throw Failure("another program holds the clipboard");
+    Sleep(20);
+  }
   const HANDLE data = GetClipboardData(CF_UNICODETEXT);
   const auto* text = data == nullptr ? nullptr : static_cast<const wchar_t*>(GlobalLock(data));
   Line().Add("text", text == nullptr ? L"" : text);
