@@ -12,6 +12,8 @@ void frmOrganize::ConnectPanes() {
   tree_.View.MouseMove = [this](const MouseEvent&) { splitter_.ResetCursor(); };
   tree_.View.NodeClick = [this](TreeNode&) { TreeNodeClick(); };
   tree_.View.DblClick = [this] { TreeDblClick(); };
+  // Letters don't look for a node.
+  tree_.View.KeyPress = [](std::int32_t& KeyAscii) { KeyAscii = 0; };
   tree_.View.KeyDown = [this](std::int32_t& KeyCode, std::int32_t) { TreeKeyDown(KeyCode); };
 
   list_.View.GotFocus = [this] { EnterList(); };
