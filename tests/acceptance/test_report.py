@@ -72,6 +72,7 @@ class Wizard(ProgramTest):
         self.desktop.keys("alt+n")
         self.desktop.keys("alt+s")
         self.desktop.keys("alt+n")
+        wait_for(lambda: any(child.title == "&Finish" for child in self.desktop.children(wizard)), "the last page")
         return wizard
 
     def save(self, name):
