@@ -38,8 +38,10 @@ check_format() {
 # At least 200,000 fresh inputs, after the seeds and what earlier runs found worth keeping.
 run_fuzz() {
   local log=build/fuzz/$2.log
-  if ! timeout 900 "$1" -runs=200000 -max_len=2048 -artifact_prefix="build/fuzz/found-$2-" \
-    "build/fuzz/corpus/$2" "tests/fuzz/seeds/$2" >"$log" 2>&1; then
+  timeout 1800 nice -n 19 "$1" -runs=200000 -max_len=2048 -artifact_prefix="build/fuzz/found-$2-" \
+    "build/fuzz/corpus/$2" "tests/fuzz/seeds/$2" >"$log" 2>&1 &
+  trap "kill $!; exit 1" TERM
+  if ! wait $!; then
     tail -40 "$log"
     return 1
   fi
@@ -51,7 +53,6 @@ wine_home=
 start_wine() {
   [ -n "$wine_home" ] && return 0
   wine_home=$(mktemp -d)
-  trap end_wine EXIT
   export HOME=$wine_home/home WINEPREFIX=$wine_home/prefix WINEARCH=win64 WINEDEBUG=-all
   export WINEDLLOVERRIDES='mscoree,mshtml=;winemenubuilder.exe=d'
   mkdir -p "$HOME"
@@ -65,10 +66,17 @@ start_wine() {
   timeout 30 wineserver -w || true
 }
 end_wine() {
+  [ -z "$wine_home" ] && return 0
   timeout 30 wineserver -k || true
   timeout 30 wineserver -w || true
   rm -rf "$wine_home"
 }
+fuzzing=()
+end_all() {
+  [ ${#fuzzing[@]} -eq 0 ] || kill "${fuzzing[@]}" 2>/dev/null || true
+  end_wine
+}
+trap end_all EXIT
 under_wine() {
   start_wine
   timeout 900 wine "$@"
@@ -86,6 +94,16 @@ tools/check_rooms.py
 # The benchmarks are built with it, so that they stay right; their figures come from the release build.
 cmake --preset native -DBURROWMARK_BENCH=ON >/dev/null
 build native
+
+# They take what processor time the others leave.
+for target in reader link date; do
+  fuzz=build/native/tests/fuzz/fuzz_$target
+  mkdir -p "build/fuzz/corpus/$target"
+  unless_passed "fuzz-$target" "$fuzz" tests/fuzz/seeds/"$target"/* -- \
+    run_fuzz "$fuzz" "$target" &
+  fuzzing+=($!)
+done
+
 unless_passed native-unit-tests build/native/tests/unit_tests -- build/native/tests/unit_tests --gtest_brief=1
 unless_passed native-contract-tests build/native/tests/contract_tests tests/contract/fixtures/* -- \
   build/native/tests/contract_tests --gtest_brief=1
@@ -109,18 +127,10 @@ mapfile -t acceptance_files < <(git ls-files -co --exclude-standard -- tests/acc
 unless_passed acceptance "$programs/burrowmark.exe" "$programs/CopyAddress.exe" "${acceptance_files[@]}" src/app/icons.rc \
   build/windows/tests/acceptance/driver/acceptance_driver.exe -- acceptance_tests
 
-build fuzz fuzz_date fuzz_reader fuzz_link
-fuzzing=()
-for target in reader link date; do
-  fuzz=build/fuzz/tests/fuzz/fuzz_$target
-  mkdir -p "build/fuzz/corpus/$target"
-  unless_passed "fuzz-$target" "$fuzz" tests/fuzz/seeds/"$target"/* -- \
-    run_fuzz "$fuzz" "$target" &
-  fuzzing+=($!)
-done
+say "waiting for the fuzz targets"
 for one in "${fuzzing[@]}"; do wait "$one"; done
 
-# Every source file by itself: what it passed with is kept beside it.
+# What each source file passed with is kept.
 say "lint"
 python3 tools/lint.py
 

@@ -103,7 +103,8 @@ ListItem* ListView::Add(std::wstring key, std::wstring text, std::int32_t icon, 
                       ? items_.end()
                       : std::upper_bound(items_.begin(), items_.end(), made,
                                          [this](const auto& one, const auto& two) { return IsBehind(*two, *one); });
-  Renumber(static_cast<std::size_t>(std::distance(items_.begin(), items_.insert(at, std::move(made)))));
+  const auto added = items_.insert(at, std::move(made));
+  Renumber(static_cast<std::size_t>(std::distance(items_.begin(), added)));
   Tell(&ListViewPeer::RowAdded, item.row_);
   return &item;
 }
