@@ -6,7 +6,6 @@
 #include "core/failure.h"
 #include "core/file_names.h"
 #include "core/folder_tests.h"
-#include "core/form_state.h"
 #include "core/numbers.h"
 #include "core/regional_formats.h"
 
@@ -98,10 +97,7 @@ bool frmPropertiesConfigFile::Init(const Document& document) {
   return facts.has_value();
 }
 
-void frmPropertiesConfigFile::Form_Load() {
-  Accepted_ = true;
-  LoadFormState(app_, *this, true, {});
-}
+void frmPropertiesConfigFile::Form_Load() { Accepted_ = true; }
 
 void frmPropertiesConfigFile::Form_Resize() {
   for (PictureBox* page : {&picGeneral, &picSummary, &picStatistics}) page->SetPlace(SSTab1.AreaBelow());
@@ -109,7 +105,6 @@ void frmPropertiesConfigFile::Form_Resize() {
 
 void frmPropertiesConfigFile::Form_Unload(bool&) {
   if (Accepted_) TakeTexts();
-  SaveFormState(app_, *this, true);
 }
 
 void frmPropertiesConfigFile::ShowPage() {

@@ -12,22 +12,32 @@
 namespace burrowmark {
 namespace {
 
+enum class Keeps : std::uint8_t { kPlace, kPlaceAndSize };
+
 struct FormKey {
   const wchar_t* form;
   const wchar_t* key;
+  Keeps keeps;
 };
 
 constexpr FormKey kFormKeys[] = {
-    {L"frmOrganize", L"frmOrg"},
-    {L"frmProperties", L"frmProp"},
-    {L"frmPropertiesConfigFile", L"frmInfo"},
-    {L"frmOptions", L"frmSet"},
-    {L"frmShortcutsList", L"frmLST"},
-    {L"frmNetworkDrives", L"frmNet"},
-    {L"frmPersonalNetworkInfo", L"frmPersNetInfo"},
-    {L"frmFolderReport", L"frmFolderRep"},
-    {L"frmBrowseFolder", L"frmBFF"},
+    {L"frmOrganize", L"frmOrg", Keeps::kPlaceAndSize},
+    {L"frmProperties", L"frmProp", Keeps::kPlace},
+    {L"frmPropertiesConfigFile", L"frmInfo", Keeps::kPlace},
+    {L"frmOptions", L"frmSet", Keeps::kPlace},
+    {L"frmShortcutsList", L"frmLST", Keeps::kPlaceAndSize},
+    {L"frmNetworkDrives", L"frmNet", Keeps::kPlaceAndSize},
+    {L"frmPersonalNetworkInfo", L"frmPersNetInfo", Keeps::kPlace},
+    {L"frmFolderReport", L"frmFolderRep", Keeps::kPlace},
+    {L"frmBrowseFolder", L"frmBFF", Keeps::kPlaceAndSize},
 };
+
+// None for a form that remembers nothing.
+const FormKey* FindFormKey(const std::wstring& formName) {
+  const auto* found = std::find_if(std::begin(kFormKeys), std::end(kFormKeys),
+                                   [&formName](const FormKey& row) { return formName == row.form; });
+  return found == std::end(kFormKeys) ? nullptr : found;
+}
 
 constexpr wchar_t kLeft[] = L"L";
 constexpr wchar_t kTop[] = L"T";
@@ -97,9 +107,8 @@ FormWindowState StateOf(std::int32_t value) {
 
 std::wstring GetFormRegKey(const std::wstring& formName) {
   const std::wstring base = std::wstring(kMainKey) + L"\\";
-  const auto* found = std::find_if(std::begin(kFormKeys), std::end(kFormKeys),
-                                   [&formName](const FormKey& row) { return formName == row.form; });
-  return found == std::end(kFormKeys) ? base : base + found->key;
+  const FormKey* found = FindFormKey(formName);
+  return found == nullptr ? base : base + found->key;
 }
 
 Size ScreenSize(Application& app) {
@@ -107,7 +116,10 @@ Size ScreenSize(Application& app) {
   return screens.empty() ? Size{} : Size{screens.front().width, screens.front().height};
 }
 
-void LoadFormState(Application& app, Form& form, bool positionOnly, const FormStateDefaults& defaults) {
+void LoadFormState(Application& app, Form& form, const Size& first) {
+  const FormKey* row = FindFormKey(form.Name());
+  if (row == nullptr) return;
+  const bool positionOnly = row->keeps == Keeps::kPlace;
   FormValues values(app, form.Name());
   Box kept = form.Place();
   std::int32_t state = 0;
@@ -118,17 +130,19 @@ void LoadFormState(Application& app, Form& form, bool positionOnly, const FormSt
   const bool hasState = positionOnly || values.Read(kState, state);
   if (!(hasLeft && hasTop && hasWidth && hasHeight && hasState)) {
     Box place = form.Place();
-    if (!hasWidth && defaults.width > 0) place.width = defaults.width;
-    if (!hasHeight && defaults.height > 0) place.height = defaults.height;
+    if (!hasWidth && first.width > 0) place.width = first.width;
+    if (!hasHeight && first.height > 0) place.height = first.height;
     form.SetPlace(InTheMiddle(app, place));
-    form.SetWindowState(defaults.maximised ? FormWindowState::kMaximized : FormWindowState::kNormal);
+    form.SetWindowState(FormWindowState::kNormal);
     return;
   }
   form.SetWindowState(StateOf(state));
   form.SetPlace(OnAScreen(app, state == 0 ? kept : form.Place()));
 }
 
-void SaveFormState(Application& app, const Form& form, bool positionOnly) {
+void SaveFormState(Application& app, const Form& form) {
+  const FormKey* row = FindFormKey(form.Name());
+  if (row == nullptr) return;
   FormValues values(app, form.Name());
   const bool normal = form.WindowState() == FormWindowState::kNormal;
   const Box& place = form.Place();
@@ -136,7 +150,7 @@ void SaveFormState(Application& app, const Form& form, bool positionOnly) {
     values.Write(kLeft, place.left);
     values.Write(kTop, place.top);
   }
-  if (positionOnly) return;
+  if (row->keeps == Keeps::kPlace) return;
   if (normal) {
     values.Write(kWidth, place.width);
     values.Write(kHeight, place.height);

@@ -13,18 +13,13 @@ namespace burrowmark {
 // with a backslash at its end.
 std::wstring GetFormRegKey(const std::wstring& formName);
 
-struct FormStateDefaults {
-  std::int32_t width = 0;  // twips; 0 keeps the size of the design
-  std::int32_t height = 0;
-  bool maximised = false;
-};
-
-// Gives a loaded form its last place, size and state, or its place alone. Where one of them isn't known the form stands
-// in the middle of the screen, in its default size. A form that was left minimised opens as a normal one, and one that
-// would lie off every screen is moved onto the first.
-void LoadFormState(Application& app, Form& form, bool positionOnly, const FormStateDefaults& defaults);
+// Gives a loaded form its last place, size and state; one that can't be sized has its place alone, and one that
+// remembers nothing stays as it is. Where one of them isn't known the form stands in the middle of the screen, in its
+// first size: twips, with the frame, and 0 keeps the size that it has. A form that was left minimised opens as a normal
+// one, and one that would lie off every screen is moved onto the first.
+void LoadFormState(Application& app, Form& form, const Size& first);
 // Keeps them. The place and the size are those of the normal window: of another one only the state is kept.
-void SaveFormState(Application& app, const Form& form, bool positionOnly);
+void SaveFormState(Application& app, const Form& form);
 
 // Width and height of the first screen, in twips.
 Size ScreenSize(Application& app);

@@ -12,6 +12,7 @@ ProgramForm::~ProgramForm() { app_.Windows.Leave(*this); }
 void ProgramForm::WindowMade() {
   app_.Windows.Enter(*this);
   SetTopMost(app_.AlwaysOnTop);
+  LoadFormState(app_, *this, FirstSize());
 }
 
 void ProgramForm::WindowGone() { app_.Windows.Leave(*this); }

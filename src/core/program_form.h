@@ -4,13 +4,14 @@
 #include <string>
 
 #include "core/application.h"
+#include "core/form_state.h"
 #include "ui/form.h"
 
 namespace burrowmark {
 
-// While it is open it stands in the table of open windows and stays above others if the editor does. While it is modal
-// the program is busy with it, and when the program ends it is closed as the user would. It takes no input while it
-// unloads.
+// While it is open it stands in the table of open windows and stays above others if the editor does. It opens where it
+// was left, if it is one that remembers (core/form_state.h). While it is modal the program is busy with it, and when
+// the program ends it is closed as the user would. It takes no input while it unloads.
 class ProgramForm : public Form, private OpenWindow {
  public:
   bool InGesture() const override { return false; }
@@ -19,6 +20,8 @@ class ProgramForm : public Form, private OpenWindow {
  protected:
   ProgramForm(Application& app, ProgramWindow kind, const wchar_t* name, const Size& client);
   ~ProgramForm() override;
+  // Of a window that remembers its size, while none is known; 0 keeps the design's. With the frame.
+  virtual Size FirstSize() const { return {}; }
   // While it is modal a command from outside closes it, as the user would.
   void GoForCommands() { busyness_ = BusyWith::kOptions; }
 
@@ -27,6 +30,7 @@ class ProgramForm : public Form, private OpenWindow {
  private:
   void WindowMade() final;
   void WindowGone() final;
+  void WindowGoing() final { SaveFormState(app_, *this); }
   void RunModal() final;
 
   ProgramWindow Kind() const final { return kind_; }

@@ -4,7 +4,6 @@
 
 #include "core/file_names.h"
 #include "core/folder_tests.h"
-#include "core/form_state.h"
 #include "core/program_form.h"
 #include "dialogs/folder_tree.h"
 #include "dialogs/new_folder.h"
@@ -63,7 +62,6 @@ class frmBrowseFolder final : public ProgramForm {
 
  private:
   void Form_Load() override;
-  void Form_Unload(bool&) override { SaveFormState(app_, *this, false); }
   void Form_Resize() override;
   void PlaceButtons(std::int32_t top);
 
@@ -124,7 +122,6 @@ frmBrowseFolder::frmBrowseFolder(Application& app, const BrowseParameters& param
 }
 
 void frmBrowseFolder::Form_Load() {
-  LoadFormState(app_, *this, false, {});
   ShowFolder(start_);
   tree_.GoTo(start_);
   tree_.ReadDrives();

@@ -2,7 +2,6 @@
 
 #include <utility>
 
-#include "core/form_state.h"
 #include "core/hot_keys.h"
 #include "core/program_dialogs.h"
 #include "core/regional_formats.h"
@@ -76,8 +75,6 @@ void frmProperties::Init(const clsMenuItem& item, std::shared_ptr<clsMenuCollect
   Fill();
 }
 
-void frmProperties::Form_Load() { LoadFormState(app_, *this, true, {}); }
-
 void frmProperties::Form_Resize() { picPage.SetPlace(SSTab1.AreaBelow()); }
 
 void frmProperties::Form_Unload(bool&) {
@@ -86,7 +83,6 @@ void frmProperties::Form_Unload(bool&) {
     Item_ = Applied_;
     HotKeyHolder = nullptr;
   }
-  SaveFormState(app_, *this, true);
 }
 
 void frmProperties::Fill() {
@@ -126,7 +122,6 @@ void frmProperties::CopyTarget() {
 }
 
 void frmProperties::ApplyNow() {
-  if (cmdApply.HasFocus()) cmdFinish.SetFocus();  // keys go nowhere from a button that can't be pressed
   cmdApply.SetEnabled(false);
   ForgetUnusedHolder();
   Applied_ = CopyOf(app_.platform.clock, *Item_);

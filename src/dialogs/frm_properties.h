@@ -33,7 +33,6 @@ class frmProperties final : public ProgramForm {
   const ItemRef& DohvatiMenuItem() const { return Item_; }
 
  private:
-  void Form_Load() override;
   void Form_Resize() override;
   void Form_Unload(bool& Cancel) override;
 

@@ -3,7 +3,6 @@
 #include <utility>
 
 #include "core/form_services.h"
-#include "core/form_state.h"
 #include "core/settings.h"
 #include "groups/system_folders.h"
 #include "projection/organized_folders.h"
@@ -49,9 +48,7 @@ frmOptions::frmOptions(Application& app)
   };
   cmdCancel.Click = [this] { Unload(); };
   cmdApply.Click = [this] {
-    if (!Accept()) return;
-    if (cmdApply.HasFocus()) cmdFinish.SetFocus();  // keys go nowhere from a button that can't be pressed
-    cmdApply.SetEnabled(false);
+    if (Accept()) cmdApply.SetEnabled(false);
   };
 }
 
@@ -77,7 +74,6 @@ void frmOptions::Init(const Document& document, std::function<void(const OptionS
 void frmOptions::Form_Load() {
   CheckOrganizedFoldersExist(app_);
   CopySettings(false);
-  LoadFormState(app_, *this, true, {});
   for (const Page& page : pages_) FillPage(page);
   ShowChecks();
   cmdApply.SetEnabled(false);
@@ -89,10 +85,7 @@ void frmOptions::Form_Resize() {
 }
 
 // What was applied is the same by then.
-void frmOptions::Form_Unload(bool&) {
-  CopySettings(true);
-  SaveFormState(app_, *this, true);
-}
+void frmOptions::Form_Unload(bool&) { CopySettings(true); }
 
 // --- what the pages show
 

@@ -77,9 +77,12 @@ frmOrganize::frmOrganize(Application& app)
   AddAlwaysOnTopItem();
 }
 
-void frmOrganize::Form_Load() {
+Size frmOrganize::FirstSize() const {
   const Size screen = ScreenSize(app_);
-  LoadFormState(app_, *this, false, {screen.width * 4 / 5, screen.height * 4 / 5, false});
+  return {screen.width * 4 / 5, screen.height * 4 / 5};
+}
+
+void frmOrganize::Form_Load() {
   LoadLayout();
   AdoptDefaultFile();
   Edited = app_.MainDocument;

@@ -74,6 +74,7 @@ class frmOrganize final : public ProgramForm {
   static std::vector<MenuRow> MenuRows();
 
   // --- life and layout (frm_organize.cpp, frm_organize_layout.cpp)
+  Size FirstSize() const override;
   void Form_Load() override;
   void AdoptDefaultFile();
   void Form_Activate() override;

@@ -2,7 +2,6 @@
 #include <iterator>
 #include <limits>
 
-#include "core/form_state.h"
 #include "organize/frm_organize.h"
 
 namespace burrowmark {
@@ -86,7 +85,6 @@ void frmOrganize::LoadLayout() {
 }
 
 void frmOrganize::SaveLayout() {
-  SaveFormState(app_, *this, false);
   constexpr std::int32_t kWidest = std::numeric_limits<std::int16_t>::max();
   layout_.TreeWidth = static_cast<std::int16_t>(std::min(tree_.View.Place().width, kWidest));
   layout_.AllLeftPane = tree_.AllLeft;

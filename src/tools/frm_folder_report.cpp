@@ -138,7 +138,6 @@ void frmFolderReport::CountEntries() {
 // --- life
 
 void frmFolderReport::Form_Load() {
-  LoadFormState(app_, *this, true, {});
   loading_ = true;
   LoadSettings();
   loading_ = false;
@@ -174,7 +173,6 @@ void frmFolderReport::Form_Unload(bool& /*Cancel*/) {
   if (run_) run_->Cancel();
   run_.reset();
   DeleteTempFiles();
-  SaveFormState(app_, *this, true);
 }
 
 // --- pages

@@ -6,7 +6,6 @@
 #include <utility>
 
 #include "core/form_services.h"
-#include "core/form_state.h"
 #include "core/numbers.h"
 #include "core/text.h"
 #include "menu/menu_actions.h"
@@ -157,10 +156,9 @@ frmNetworkDrives::frmNetworkDrives(Application& app)
   lvwMain.MouseUp = [this](const MouseEvent& event) { ListMouseUp(event); };
 }
 
-void frmNetworkDrives::Form_Load() {
-  FillNetworkDrives();
-  LoadFormState(app_, *this, false, {kDesign.width, kDesign.height});
-}
+Size frmNetworkDrives::FirstSize() const { return kDesign; }
+
+void frmNetworkDrives::Form_Load() { FillNetworkDrives(); }
 
 void frmNetworkDrives::Form_Resize() {
   const Size area = Client();
@@ -174,7 +172,6 @@ void frmNetworkDrives::Form_Resize() {
 void frmNetworkDrives::Form_Unload(bool&) {
   fill_ = nullptr;
   dialog_ = nullptr;
-  SaveFormState(app_, *this, false);
 }
 
 void frmNetworkDrives::Form_KeyDown(std::int32_t& KeyCode, std::int32_t Shift) {

@@ -28,6 +28,7 @@ class frmNetworkDrives final : public ProgramForm {
   struct Server;
   struct Life {};
 
+  Size FirstSize() const override;
   void Form_Load() override;
   void Form_Resize() override;
   void Form_Unload(bool& Cancel) override;

@@ -5,7 +5,6 @@
 #include <utility>
 #include <vector>
 
-#include "core/form_state.h"
 #include "core/numbers.h"
 #include "core/os_detection.h"
 #include "core/text.h"
@@ -77,7 +76,6 @@ frmPersonalNetworkInfo::frmPersonalNetworkInfo(Application& app)
 }
 
 void frmPersonalNetworkInfo::Form_Load() {
-  LoadFormState(app_, *this, true, {});
   lvwMain.Clear();
   life_ = std::make_shared<Life>();
   const auto info = std::make_shared<clsPersonalNetworkInfo>();
@@ -95,10 +93,7 @@ void frmPersonalNetworkInfo::Form_Resize() {
       {kPageEdge, kPageEdge, std::max(page.width - 2 * kPageEdge, 0), std::max(page.height - 2 * kPageEdge, 0)});
 }
 
-void frmPersonalNetworkInfo::Form_Unload(bool&) {
-  life_ = nullptr;
-  SaveFormState(app_, *this, true);
-}
+void frmPersonalNetworkInfo::Form_Unload(bool&) { life_ = nullptr; }
 
 void frmPersonalNetworkInfo::Form_KeyDown(std::int32_t& KeyCode, std::int32_t Shift) {
   if (KeyCode != L'C' || Shift != kCtrlMask) return;

@@ -7,7 +7,6 @@
 
 #include "core/dates.h"
 #include "core/file_names.h"
-#include "core/form_state.h"
 #include "core/hot_keys.h"
 #include "core/numbers.h"
 #include "core/text.h"
@@ -160,7 +159,7 @@ void frmShortcutsList::Init(std::shared_ptr<clsMenuCollection> store, ShortcutEd
   FillList();
 }
 
-void frmShortcutsList::Form_Load() { LoadFormState(app_, *this, false, {kDesign.width, kDesign.height}); }
+Size frmShortcutsList::FirstSize() const { return kDesign; }
 
 void frmShortcutsList::Form_Resize() {
   const Size area = Client();
@@ -174,7 +173,6 @@ void frmShortcutsList::Form_Resize() {
 void frmShortcutsList::Form_Unload(bool&) {
   tests_.Forget();
   deleting_.reset();
-  SaveFormState(app_, *this, false);
 }
 
 void frmShortcutsList::Form_KeyDown(std::int32_t& KeyCode, std::int32_t Shift) {

@@ -43,7 +43,7 @@ class frmShortcutsList final : public ProgramForm {
   struct Command;
   static const Command kCommands[];
 
-  void Form_Load() override;
+  Size FirstSize() const override;
   void Form_Resize() override;
   void Form_Unload(bool& Cancel) override;
   void Form_KeyDown(std::int32_t& KeyCode, std::int32_t Shift) override;

@@ -28,6 +28,7 @@ void Control::SetVisible(bool visible) {
 
 void Control::SetEnabled(bool enabled) {
   if (!Assign(enabled_, enabled)) return;
+  if (!enabled) form_.HandFocusOn();  // the system leaves it on a window that is disabled, and keys go nowhere
   if (ControlPeer* peer = ThePeer()) peer->EnabledChanged();
 }
 

@@ -69,6 +69,8 @@ class ControlSite : public ControlParent {
 
   virtual Control* ActiveControl() const = 0;
   virtual void MoveFocus(Control* control) = 0;
+  // To another control if the one that has it can't be reached any more.
+  virtual void HandFocusOn() = 0;
   virtual Control* DefaultButton() const = 0;
   virtual void SetDefaultButton(Control* button) = 0;
   virtual Control* CancelButton() const = 0;
@@ -135,6 +137,8 @@ class Control : public virtual ControlState {
   bool Visible() const final { return visible_; }
   void SetVisible(bool visible);
   bool Enabled() const final { return enabled_; }
+  // One that has the focus, or has what has it in it, hands it on when it is disabled: a button to the form's default
+  // button, and all others, or where that can't take it, to the next in tab order.
   void SetEnabled(bool enabled);
   bool TabStop() const final { return tabStop_; }
   void SetTabStop(bool tabStop);

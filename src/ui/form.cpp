@@ -138,7 +138,14 @@ bool Form::MayUnload(UnloadMode mode) {
   if (!UnloadOwned(mode)) return false;
   bool cancel = false;
   Form_QueryUnload(cancel, mode);
-  if (!cancel) Form_Unload(cancel);
+  return !cancel && TellUnload();
+}
+
+// False: the form refused.
+bool Form::TellUnload() {
+  WindowGoing();
+  bool cancel = false;
+  Form_Unload(cancel);
   return !cancel;
 }
 
@@ -164,8 +171,7 @@ void Form::WindowLost() {
   if (!peer_) return;
   const Running running(*this);
   for (Form* form : std::vector<Form*>(owned_)) form->WindowLost();
-  bool cancel = false;
-  if (!unloading_) Form_Unload(cancel);
+  if (!unloading_) TellUnload();
   if (peer_) LetGo();
 }
 
@@ -334,6 +340,21 @@ void Form::MoveFocus(Control* control) {
   TellDefaultMoved(enterBefore);
   if (before != nullptr) Raise(before->LostFocus);
   if (control != nullptr && focused_ == control) Raise(control->GotFocus);
+}
+
+void Form::HandFocusOn() {
+  if (focused_ == nullptr || focused_->IsReachable()) return;
+  const bool toDefault = focused_->ShowsDefaultWithFocus() && default_ != nullptr && default_->IsReachable();
+  if (Control* next = toDefault ? default_ : NextStop(*focused_)) next->SetFocus();
+}
+
+// Where the Tab key would stop behind a control; none if nowhere.
+Control* Form::NextStop(const Control& control) const {
+  std::vector<Control*> others = controls_;
+  std::rotate(others.begin(), std::find(others.begin(), others.end(), &control), others.end());
+  const auto next = std::find_if(others.begin(), others.end(),
+                                 [](const Control* other) { return other->TabStop() && other->IsReachable(); });
+  return next == others.end() ? nullptr : *next;
 }
 
 Control* Form::ButtonOfEnter() const {

@@ -131,6 +131,8 @@ class Form : public FormState, public ControlSite {
   // The window is there, ahead of Form_Load; it has gone.
   virtual void WindowMade() {}
   virtual void WindowGone() {}
+  // Ahead of Form_Unload.
+  virtual void WindowGoing() {}
   // Runs messages until the form isn't modal any more.
   virtual void RunModal();
   // Keeps so many more (or fewer) windows in front of this one, which takes no input while there are any.
@@ -157,6 +159,8 @@ class Form : public FormState, public ControlSite {
   void Leave(Control& control) final;
   bool IsReachable() const final { return peer_ && visible_ && TakesInput() && !unloading_; }
   void MoveFocus(Control* control) final;
+  void HandFocusOn() final;
+  Control* NextStop(const Control& control) const;
   Control* DefaultButton() const final { return default_; }
   void SetDefaultButton(Control* button) final;
   Control* CancelButton() const final { return cancel_; }
@@ -172,6 +176,7 @@ class Form : public FormState, public ControlSite {
   void BuryRemains();
   bool MayUnload(UnloadMode mode);
   bool UnloadOwned(UnloadMode mode);
+  bool TellUnload();
   void LetGo();
 
   void MakeVisible();
