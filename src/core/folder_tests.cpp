@@ -1,6 +1,9 @@
 #include "core/folder_tests.h"
 
+#include <atomic>
+#include <map>
 #include <memory>
+#include <utility>
 
 #include "core/services.h"
 #include "core/text.h"
@@ -32,6 +35,25 @@ std::wstring ShareOf(const std::wstring& path) {
   if (!IsOnServer(path)) return path.substr(0, 2) + L"\\";
   const std::size_t behindServer = path.find_first_of(kSeparators, 2);
   return behindServer == std::wstring::npos ? path : path.substr(0, path.find_first_of(kSeparators, behindServer + 1));
+}
+
+void FolderTests::AskServers(const std::vector<std::wstring>& paths) {
+  std::map<std::wstring, std::shared_ptr<std::atomic<bool>>> servers;
+  std::vector<std::function<void()>> works;
+  for (const std::wstring& path : paths) {
+    if (!IsNetworkPlace(files_, path)) continue;
+    std::shared_ptr<std::atomic<bool>>& told = servers[PlaceOf(path)];
+    if (told) continue;
+    told = std::make_shared<std::atomic<bool>>(false);
+    works.emplace_back([told, share = ShareOf(path), &files = files_] {
+      files.FolderExists(share);
+      *told = true;
+    });
+  }
+  if (!works.empty()) workers_.RunAllWithin(patience_, std::move(works));
+  for (const auto& [server, told] : servers) {
+    if (!*told) silent_.insert(server);
+  }
 }
 
 FolderAnswer FolderTests::Test(const std::wstring& path) {

@@ -5,6 +5,7 @@
 #include <functional>
 #include <set>
 #include <string>
+#include <vector>
 
 #include "platform/platform.h"
 
@@ -28,6 +29,8 @@ class FolderTests {
   explicit FolderTests(const Platform& platform, std::int32_t patience = 3000)
       : files_(platform.files), workers_(platform.workers), patience_(patience) {}
 
+  // Asks the servers of all these paths at the same time, so that those that are away cost their time once.
+  void AskServers(const std::vector<std::wstring>& paths);
   // Of a folder, or of a drive with a medium in it or not.
   FolderAnswer Test(const std::wstring& path);
   // Runs a question about a path: as work of platform/workers.h where that is on a server, so that it may outlive this

@@ -19,6 +19,7 @@ FileBeside::FileBeside(FileSystem& files, std::wstring target)
   RemoveLeftOver(files_, target_);
   output_ = files_.CreateNewFile(path_);
   made_ = output_ != nullptr;
+  if (made_) output_->DeleteUnlessClosed();
 }
 
 FileBeside::~FileBeside() {

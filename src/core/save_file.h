@@ -12,8 +12,8 @@
 namespace burrowmark {
 
 // A new file beside its target, filled piece by piece, that takes the target's place in one step. Until it has, the old
-// file is whole, or there is still none; the new one is deleted when this object goes. A killed process leaves it
-// there: it has one name, so that the next one finds it.
+// file is whole, or there is still none; the new one is deleted when this object goes, or the process. Where the disk
+// doesn't do that, or the machine ends, it stays: it has one name, so that the next one finds it.
 class FileBeside {
  public:
   FileBeside(FileSystem& files, std::wstring target);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <optional>
 #include <utility>
 
 #include "core/dates.h"
@@ -168,6 +169,7 @@ PersonalEntries ReadDriveGroups(Application& app) {
 struct RecentLink {
   std::wstring path;
   Date written = 0;
+  std::optional<std::wstring> target;  // once it was read; empty where it can't be
 };
 
 std::vector<RecentLink> RecentLinks(Application& app) {
@@ -177,7 +179,8 @@ std::vector<RecentLink> RecentLinks(Application& app) {
   files.ListFolder(app.RecentFolder, entries);
   for (const FolderEntry& entry : entries) {
     if ((entry.attributes & kFileDirectory) != 0 || GetFileExtension(entry.name) != L"lnk") continue;
-    RecentLink link{app.RecentFolder + L"\\" + entry.name};
+    RecentLink link;
+    link.path = app.RecentFolder + L"\\" + entry.name;
     const std::optional<FileFacts> facts = files.GetFileFacts(link.path);
     Skip([&] {
       if (facts && facts->modified) link.written = DateOf(*facts->modified);
@@ -201,13 +204,20 @@ bool FindFolder(FileSystem& files, const std::wstring& path, std::wstring& folde
   return !folder.empty() || files.FolderExists(ShareOf(path));
 }
 
-// The folder that a link leads to; empty where there is none.
-std::wstring FolderOfLink(Application& app, FolderTests& tests, const std::wstring& link) {
-  ShellLink read;
-  if (!app.platform.shell.ReadShellLink(link, read)) return {};
+const std::wstring& TargetOf(Application& app, RecentLink& link) {
+  if (!link.target) {
+    ShellLink read;
+    link.target = app.platform.shell.ReadShellLink(link.path, read) ? read.target : std::wstring();
+  }
+  return *link.target;
+}
+
+// The folder that a link's target is or stands in; empty where there is none.
+std::wstring FolderOf(FolderTests& tests, const std::wstring& target) {
+  if (target.empty()) return {};
   const auto folder = std::make_shared<std::wstring>();
-  const bool told = tests.Ask(
-      read.target, [folder, path = read.target](FileSystem& files) { return FindFolder(files, path, *folder); });
+  const bool told =
+      tests.Ask(target, [folder, target](FileSystem& files) { return FindFolder(files, target, *folder); });
   return told ? *folder : std::wstring();
 }
 
@@ -250,9 +260,18 @@ void RemovePersonalGroup(Application& app, clsMenuCollection& store) {
 std::vector<std::wstring> BuildRecentFolders(Application& app) {
   std::vector<std::wstring> folders;
   FolderTests tests(app.platform, kPatience);
-  for (const RecentLink& link : RecentLinks(app)) {
+  bool askedServers = false;
+  std::vector<RecentLink> links = RecentLinks(app);
+  for (RecentLink& link : links) {
     if (folders.size() >= kMostRecentFolders) break;
-    const std::wstring folder = FolderOfLink(app, tests, link.path);
+    const std::wstring& target = TargetOf(app, link);
+    if (!askedServers && IsNetworkPlace(app.platform.files, target)) {
+      askedServers = true;
+      std::vector<std::wstring> targets;
+      for (RecentLink& each : links) targets.push_back(TargetOf(app, each));
+      tests.AskServers(targets);
+    }
+    const std::wstring folder = FolderOf(tests, target);
     const bool known = std::any_of(folders.begin(), folders.end(),
                                    [&folder](const std::wstring& other) { return EqualIgnoringCase(other, folder); });
     if (!folder.empty() && !known) folders.push_back(folder);

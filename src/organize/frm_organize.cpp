@@ -22,34 +22,21 @@ constexpr wchar_t kTitle[] = L"Organize Folders";
 constexpr wchar_t kMessageTitle[] = L"Burrowmark";
 constexpr std::int32_t kIcon = 7;  // "Organize Folders" in the menu
 
-ToolbarButtonState Button(const wchar_t* key, std::int32_t image) {
-  ToolbarButtonState button;
-  button.key = key;
-  button.image = image;
-  return button;
-}
-
-ToolbarButtonState Separator() {
-  ToolbarButtonState separator;
-  separator.style = ToolbarButtonStyle::kSeparator;
-  return separator;
-}
-
 std::vector<ToolbarButtonState> ToolbarButtons() {
-  ToolbarButtonState properties = Button(L"keyProperties", 9);
+  ToolbarButtonState properties = ToolbarButton(L"keyProperties", L"", 9);
   properties.style = ToolbarButtonStyle::kDropDown;
   properties.menu = {{L"keyProperties1", L"Shortcut"}, {L"keyProperties2", L"Target Location"}};
-  return {Button(L"keyNew", 1),
-          Button(L"keyChange", 2),
-          Button(L"keyUp", 3),
-          Separator(),
-          Button(L"keyWindowsExplorer", 4),
-          Separator(),
-          Button(L"keyCut", 5),
-          Button(L"keyCopy", 6),
-          Button(L"keyPaste", 7),
-          Button(L"keyDelete", 8),
-          Separator(),
+  return {ToolbarButton(L"keyNew", L"", 1),
+          ToolbarButton(L"keyChange", L"", 2),
+          ToolbarButton(L"keyUp", L"", 3),
+          ToolbarSeparator(),
+          ToolbarButton(L"keyWindowsExplorer", L"", 4),
+          ToolbarSeparator(),
+          ToolbarButton(L"keyCut", L"", 5),
+          ToolbarButton(L"keyCopy", L"", 6),
+          ToolbarButton(L"keyPaste", L"", 7),
+          ToolbarButton(L"keyDelete", L"", 8),
+          ToolbarSeparator(),
           std::move(properties)};
 }
 

@@ -60,6 +60,8 @@ class OutputFile {
   // Brings everything written so far onto the disk itself.
   virtual bool Flush() = 0;
   virtual bool Close() = 0;
+  // From now on the file goes with the object, and with the process, unless Close succeeds first.
+  virtual bool DeleteUnlessClosed() = 0;
 };
 
 // Paths are absolute: a drive letter with a colon, or two backslashes with server and share. Letter case doesn't count.

@@ -3,6 +3,8 @@
 
 #include <cstdint>
 #include <functional>
+#include <utility>
+#include <vector>
 
 namespace burrowmark {
 
@@ -17,7 +19,11 @@ class Workers {
   // never ends never tells.
   virtual void Run(std::function<void()> work, std::function<void()> done) = 0;
   // Runs `work` and waits for its end, though not longer than that. False: it goes on and nobody hears of it.
-  virtual bool RunWithin(std::int32_t milliseconds, std::function<void()> work) = 0;
+  bool RunWithin(std::int32_t milliseconds, std::function<void()> work) {
+    return RunAllWithin(milliseconds, {std::move(work)});
+  }
+  // Likewise for several pieces of work, which run at the same time. False if one of them didn't end.
+  virtual bool RunAllWithin(std::int32_t milliseconds, std::vector<std::function<void()>> works) = 0;
 };
 
 }  // namespace burrowmark

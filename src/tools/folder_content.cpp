@@ -1,6 +1,10 @@
 #include "tools/folder_content.h"
 
+#include <array>
+#include <bit>
 #include <map>
+#include <optional>
+#include <string_view>
 #include <utility>
 
 #include "core/failure.h"
@@ -48,16 +52,100 @@ class TypeNames {
   std::map<std::wstring, std::uint32_t> numbers_;
 };
 
+// --- an entry as bytes: its numbers, then its names behind their lengths
+
+constexpr std::size_t kBlock = 1U << 16;
+constexpr unsigned char kWide = 0xFF;  // ahead of a character that takes three bytes
+constexpr unsigned kByte = 8;
+
+template <typename Value>
+void Pack(std::string& bytes, const Value& value) {
+  const auto raw = std::bit_cast<std::array<char, sizeof(Value)>>(value);
+  bytes.append(raw.data(), raw.size());
+}
+
+void PackText(std::string& bytes, std::wstring_view text) {
+  Pack(bytes, static_cast<std::uint16_t>(text.size()));
+  for (const wchar_t c : text) {
+    const auto code = static_cast<std::uint32_t>(c);
+    if (code < kWide) {
+      bytes += static_cast<char>(code);
+    } else {
+      for (const std::uint32_t part : {std::uint32_t{kWide}, code, code >> kByte, code >> (2 * kByte)}) {
+        bytes += static_cast<char>(part & 0xFFU);
+      }
+    }
+  }
+}
+
+class Unpacking {
+ public:
+  explicit Unpacking(std::string_view bytes) : bytes_(bytes) {}
+
+  bool AtEnd() const { return at_ == bytes_.size(); }
+  template <typename Value>
+  void Take(Value& value) {
+    std::array<char, sizeof(Value)> raw{};
+    bytes_.copy(raw.data(), raw.size(), at_);
+    at_ += raw.size();
+    value = std::bit_cast<Value>(raw);
+  }
+  void TakeText(std::wstring& text) {
+    std::uint16_t length = 0;
+    Take(length);
+    text.resize(length);
+    for (wchar_t& c : text) {
+      std::uint32_t code = Byte();
+      if (code == kWide) {
+        code = Byte();
+        code |= Byte() << kByte;
+        code |= Byte() << (2 * kByte);
+      }
+      c = static_cast<wchar_t>(code);
+    }
+  }
+
+ private:
+  std::uint32_t Byte() { return static_cast<unsigned char>(bytes_[at_++]); }
+
+  std::string_view bytes_;
+  std::size_t at_ = 0;
+};
+
 }  // namespace
+
+void ReportEntries::Add(const ReportEntry& entry) {
+  packed_.clear();
+  Pack(packed_, entry.size);
+  for (const Date date : {entry.modified, entry.created, entry.accessed}) Pack(packed_, date);
+  Pack(packed_, entry.type);
+  PackText(packed_, entry.name);
+  PackText(packed_, entry.shortName);
+  if (blocks_.empty() || blocks_.back().size() + packed_.size() > kBlock) blocks_.emplace_back().reserve(kBlock);
+  blocks_.back() += packed_;
+}
+
+bool ReportEntries::Visit(const std::function<bool(const ReportEntry& entry)>& visit) const {
+  ReportEntry entry;
+  for (const std::string& block : blocks_) {
+    for (Unpacking bytes(block); !bytes.AtEnd();) {
+      bytes.Take(entry.size);
+      for (Date* date : {&entry.modified, &entry.created, &entry.accessed}) bytes.Take(*date);
+      bytes.Take(entry.type);
+      bytes.TakeText(entry.name);
+      bytes.TakeText(entry.shortName);
+      if (!visit(entry)) return false;
+    }
+  }
+  return true;
+}
 
 bool ReadFolderContent(const ReportRequest& request, FileSystem& files, ReportRun& run, FolderContent& content) {
   TypeNames types(files, content.types);
-  const auto keep = [&](const FolderEntry& entry, const FileFacts& facts) {
-    ReportEntry kept;
-    const bool withShort = request.Has(ReportColumn::kShortName) && !facts.shortName.empty();
-    kept.names.reserve(entry.name.size() + (withShort ? facts.shortName.size() + 1 : 0));  // and no more
-    kept.names = entry.name;
-    if (withShort) kept.names.append(1, L'\0').append(facts.shortName);
+  ReportEntry kept;
+  const auto keep = [&](const FolderEntry& entry, const FileFacts& facts) -> const ReportEntry& {
+    kept.name = entry.name;
+    if (request.Has(ReportColumn::kShortName)) kept.shortName = facts.shortName;
     kept.size = facts.size;
     if (request.Has(ReportColumn::kModified)) kept.modified = DateOf(facts.modified);
     if (request.Has(ReportColumn::kCreated)) kept.created = DateOf(facts.created);
@@ -68,8 +156,9 @@ bool ReadFolderContent(const ReportRequest& request, FileSystem& files, ReportRu
   return files.WalkFolder(request.Folder, [&](const FolderEntry& entry, const FileFacts& facts) {
     const bool isFolder = (entry.attributes & kFileDirectory) != 0;
     ++(isFolder ? content.folderCount : content.fileCount);
-    if (isFolder && request.WithFolders()) content.folders.push_back(keep(entry, facts));
-    if (!isFolder && request.WithFiles()) content.files.push_back(keep(entry, facts));
+    if (!isFolder) content.size += facts.size;
+    if (isFolder && request.WithFolders()) content.folders.Add(keep(entry, facts));
+    if (!isFolder && request.WithFiles()) content.files.Add(keep(entry, facts));
     ++run.Count;
     return !run.IsCancelled();
   });

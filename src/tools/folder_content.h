@@ -3,8 +3,8 @@
 
 #include <cstdint>
 #include <deque>
+#include <functional>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "platform/file_system.h"
@@ -13,26 +13,34 @@
 namespace burrowmark {
 
 struct ReportEntry {
-  std::wstring names;  // and behind a NUL the short name, if it has one of its own
+  std::wstring name;
+  std::wstring shortName;  // empty if it has none of its own
   std::uint64_t size = 0;
   Date modified = 0;  // 0 where the disk keeps none
   Date created = 0;
   Date accessed = 0;
   std::uint32_t type = 0;  // in FolderContent::types
+};
 
-  std::wstring_view Name() const { return std::wstring_view(names).substr(0, names.find(L'\0')); }
-  std::wstring_view ShortName() const {
-    const std::size_t end = names.find(L'\0');
-    return end == std::wstring::npos ? names : std::wstring_view(names).substr(end + 1);
-  }
+// Entries in their order, packed: there may be a million.
+class ReportEntries {
+ public:
+  void Add(const ReportEntry& entry);
+  // Shows them one after the other. False as soon as `visit` says so.
+  bool Visit(const std::function<bool(const ReportEntry& entry)>& visit) const;
+
+ private:
+  std::deque<std::string> blocks_;
+  std::string packed_;  // room for one
 };
 
 // What isn't reported is counted, and not kept.
 struct FolderContent {
-  std::deque<ReportEntry> folders;
-  std::deque<ReportEntry> files;
+  ReportEntries folders;
+  ReportEntries files;
   std::int64_t folderCount = 0;
   std::int64_t fileCount = 0;
+  std::uint64_t size = 0;  // of all files
   std::vector<std::wstring> types;
 };
 

@@ -15,12 +15,18 @@ constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
 constexpr std::size_t kStep = 1U << 16;  // bytes for one write
 constexpr char32_t kAsciiEnd = 128;
 
-bool IsAscii(std::wstring_view text) {
-  return std::all_of(text.begin(), text.end(), [](wchar_t c) { return static_cast<char32_t>(c) < kAsciiEnd; });
-}
-
-void AppendAscii(std::string& bytes, std::wstring_view text) {
-  for (const wchar_t c : text) bytes += static_cast<char>(c);
+// False, and nothing is added, if one of the characters is beyond ASCII.
+bool AppendAscii(std::string& bytes, std::wstring_view text) {
+  const std::size_t before = bytes.size();
+  char32_t all = 0;
+  bytes.resize(before + text.size());
+  std::transform(text.begin(), text.end(), bytes.begin() + static_cast<std::ptrdiff_t>(before), [&all](wchar_t c) {
+    all |= static_cast<char32_t>(c);
+    return static_cast<char>(c);
+  });
+  if (all < kAsciiEnd) return true;
+  bytes.resize(before);
+  return false;
 }
 
 // --- the bytes of a line; false for a character that these bytes can't stand for
@@ -80,9 +86,7 @@ class FileSink final : public ReportSink {
   }
 
   bool Line(std::wstring_view text) override {
-    if (IsAscii(text)) {
-      AppendAscii(bytes_, text);
-    } else if (!append_(system_, text, bytes_)) {
+    if (!AppendAscii(bytes_, text) && !append_(system_, text, bytes_)) {
       misfit_ = true;
       return false;
     }

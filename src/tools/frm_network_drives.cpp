@@ -51,19 +51,11 @@ constexpr MenuRow kMenuRows[] = {
 
 const ImageList kButtonImages{16, {47, 48, 45, 26}};
 
-ToolbarButtonState Button(const wchar_t* key, const wchar_t* toolTip, std::int32_t image) {
-  ToolbarButtonState button;
-  button.key = key;
-  button.toolTip = toolTip;
-  button.image = image;
-  return button;
-}
-
 std::vector<ToolbarButtonState> ToolbarButtons() {
-  return {Button(L"keyConnect", L"Map network drives (CTRL+M)", 1),
-          Button(L"keyDisconnect", L"Disconnect network drive (CTRL+D)", 2),
-          Button(L"keyRefresh", L"Refresh list (F5)", 3),
-          Button(L"keyCopy", L"Copy all or selected data to Clipboard (CTRL+C)", 4)};
+  return {ToolbarButton(L"keyConnect", L"Map network drives (CTRL+M)", 1),
+          ToolbarButton(L"keyDisconnect", L"Disconnect network drive (CTRL+D)", 2),
+          ToolbarButton(L"keyRefresh", L"Refresh list (F5)", 3),
+          ToolbarButton(L"keyCopy", L"Copy all or selected data to Clipboard (CTRL+C)", 4)};
 }
 
 std::vector<StatusPanelState> Panels() { return {{{}, 0, 2100}, {{}, kReadyIcon, 1800}, {{}, kNotReadyIcon, 0}}; }
@@ -111,14 +103,6 @@ struct frmNetworkDrives::Server {
   }
 };
 
-// What a button, an entry and a key do.
-struct frmNetworkDrives::Command {
-  const wchar_t* button;
-  const wchar_t* menu;
-  MenuShortcut key;
-  void (frmNetworkDrives::*run)();
-};
-
 const frmNetworkDrives::Command frmNetworkDrives::kCommands[] = {
     {L"", L"mnuPopupOpen", {}, &frmNetworkDrives::OpenDrive},
     {L"keyConnect", L"mnuPopupMap", {L'M', kCtrlMask}, &frmNetworkDrives::MapDrive},
@@ -143,11 +127,7 @@ frmNetworkDrives::frmNetworkDrives(Application& app)
   menus_[L"mnuPopup"].SetVisible(false);
 
   for (const Command& command : kCommands) menus_[command.menu].Click = [this, &command] { (this->*command.run)(); };
-  tlbMain.ButtonClick = [this](const std::wstring& key) {
-    for (const Command& command : kCommands) {
-      if (key == command.button) return (this->*command.run)();
-    }
-  };
+  tlbMain.ButtonClick = [this](const std::wstring& key) { (this->*CommandOfButton(kCommands, key)->run)(); };
   lvwMain.ItemClick = [this](ListItem&) { ItemClicked_ = true; };
   lvwMain.DblClick = [this] {
     if (ItemClicked_) OpenDrive();
@@ -180,11 +160,10 @@ void frmNetworkDrives::Form_KeyDown(std::int32_t& KeyCode, std::int32_t Shift) {
     Unload();
     return;
   }
-  const MenuShortcut key{std::exchange(KeyCode, 0), Shift};
-  for (const Command& command : kCommands) {
-    if (command.key == key) return (this->*command.run)();
-  }
-  KeyCode = key.key;
+  const Command* command = CommandOfKey(kCommands, {KeyCode, Shift});
+  if (command == nullptr) return;
+  KeyCode = 0;
+  (this->*command->run)();
 }
 
 // --- the mouse

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "core/command_row.h"
 #include "core/program_form.h"
 #include "tools/network_drives.h"
 #include "ui/list_view.h"
@@ -22,7 +23,7 @@ class frmNetworkDrives final : public ProgramForm {
   explicit frmNetworkDrives(Application& app);
 
  private:
-  struct Command;
+  using Command = CommandRow<frmNetworkDrives>;
   static const Command kCommands[];
   struct Fill;
   struct Server;

@@ -64,31 +64,17 @@ constexpr MenuRow kMenuRows[] = {
     {1, L"mnuProperties", L"Prope&rties"},
 };
 
-ToolbarButtonState Button(const wchar_t* key, const wchar_t* toolTip, std::int32_t image) {
-  ToolbarButtonState button;
-  button.key = key;
-  button.toolTip = toolTip;
-  button.image = image;
-  return button;
-}
-
-ToolbarButtonState Separator() {
-  ToolbarButtonState separator;
-  separator.style = ToolbarButtonStyle::kSeparator;
-  return separator;
-}
-
 const ImageList kButtonImages{16, {43, 44, 45, 22, 46, 28, 29}};
 
 std::vector<ToolbarButtonState> ToolbarButtons() {
-  return {Button(L"keyClean", L"Delete all shortcuts with invalid target locations (CTRL+F)", 1),
-          Button(L"keyDelShortcuts", L"Delete all hot keys (CTRL+K)", 2),
-          Button(L"keyRefresh", L"Refresh list (F5)", kRefreshImage),
-          Separator(),
-          Button(L"keyChange", L"Change shortcut (F4)", 4),
-          Button(L"keyRename", L"Rename shortcut (F2)", 5),
-          Button(L"keyDelete", L"Delete shortcut (Del)", 6),
-          Button(L"keyProperties", L"Shortcut's properties", 7)};
+  return {ToolbarButton(L"keyClean", L"Delete all shortcuts with invalid target locations (CTRL+F)", 1),
+          ToolbarButton(L"keyDelShortcuts", L"Delete all hot keys (CTRL+K)", 2),
+          ToolbarButton(L"keyRefresh", L"Refresh list (F5)", kRefreshImage),
+          ToolbarSeparator(),
+          ToolbarButton(L"keyChange", L"Change shortcut (F4)", 4),
+          ToolbarButton(L"keyRename", L"Rename shortcut (F2)", 5),
+          ToolbarButton(L"keyDelete", L"Delete shortcut (Del)", 6),
+          ToolbarButton(L"keyProperties", L"Shortcut's properties", 7)};
 }
 
 std::vector<StatusPanelState> Panels() {
@@ -100,14 +86,6 @@ bool IsListed(const clsMenuItem& item) { return item.ItemType == MIT_PATH && !it
 std::wstring KeyOf(const clsMenuItem& item) { return L"C" + item.Name(); }
 
 }  // namespace
-
-// What a button, an entry and a key do.
-struct frmShortcutsList::Command {
-  const wchar_t* button;
-  const wchar_t* menu;
-  MenuShortcut key;
-  void (frmShortcutsList::*run)();
-};
 
 const frmShortcutsList::Command frmShortcutsList::kCommands[] = {
     {L"keyClean", L"mnuDeleteAll", {L'F', kCtrlMask}, &frmShortcutsList::DeleteInvalidShortcuts},
@@ -138,10 +116,7 @@ frmShortcutsList::frmShortcutsList(Application& app)
 
   tests_.Answered = [this](const std::vector<TargetAnswer>& answers) { TakeAnswers(answers); };
   for (const Command& command : kCommands) menus_[command.menu].Click = [this, &command] { Run(command); };
-  tlbMain.ButtonClick = [this](const std::wstring& key) {
-    Run(*std::find_if(std::begin(kCommands), std::end(kCommands),
-                      [&key](const Command& command) { return key == command.button; }));
-  };
+  tlbMain.ButtonClick = [this](const std::wstring& key) { Run(*CommandOfButton(kCommands, key)); };
   ListView1.ColumnClick = [this](std::int32_t column) {
     const Hourglass busy(*this);
     sort_.Click(column);
@@ -181,10 +156,8 @@ void frmShortcutsList::Form_KeyDown(std::int32_t& KeyCode, std::int32_t Shift) {
     Unload();
     return;
   }
-  const auto* command =
-      std::find_if(std::begin(kCommands), std::end(kCommands),
-                   [key = MenuShortcut{KeyCode, Shift}](const Command& row) { return row.key == key; });
-  if (command == std::end(kCommands)) return;
+  const Command* command = CommandOfKey(kCommands, {KeyCode, Shift});
+  if (command == nullptr) return;
   KeyCode = 0;
   Run(*command);
 }

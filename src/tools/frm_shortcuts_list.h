@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "core/column_sort.h"
+#include "core/command_row.h"
 #include "core/form_services.h"
 #include "core/program_form.h"
 #include "tools/target_tests.h"
@@ -40,7 +41,7 @@ class frmShortcutsList final : public ProgramForm {
   void CancelGesture() override { ListView1.CancelLabelEdit(); }
 
  private:
-  struct Command;
+  using Command = CommandRow<frmShortcutsList>;
   static const Command kCommands[];
 
   Size FirstSize() const override;

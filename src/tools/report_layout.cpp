@@ -1,5 +1,6 @@
 #include "tools/report_layout.h"
 
+#include <functional>
 #include <map>
 #include <utility>
 
@@ -18,6 +19,8 @@ constexpr wchar_t kFolders[] = L"SubFolder(s)";
 constexpr wchar_t kFiles[] = L"File(s)";
 constexpr wchar_t kLineEnd[] = L"\r\n";
 constexpr wchar_t kBlank[] = L"&nbsp;";
+constexpr wchar_t kCell[] = L"<td>";
+constexpr wchar_t kCellEnd[] = L"</td>\r\n";
 
 // The user's locale, each setting asked for once.
 class RememberedLocale final : public SystemFacts {
@@ -63,36 +66,44 @@ class Layout {
     return (Line(texts) && ...);
   }
 
-  std::wstring DateText(Date date) const { return date == 0 ? std::wstring() : DefaultDateText(date, system_); }
-
-  // Empty where there is nothing to tell.
-  std::wstring Value(const ReportEntry& entry, ReportColumn column, bool isFolder) const {
+  // Nothing where there is nothing to tell.
+  void AppendValue(std::wstring& row, const ReportEntry& entry, ReportColumn column, bool isFolder) {
     switch (column) {
       case ReportColumn::kName:
-        return std::wstring(entry.Name());
+        row += entry.name;
+        return;
       case ReportColumn::kShortName:
-        return std::wstring(entry.ShortName());
+        row += entry.shortName.empty() ? entry.name : entry.shortName;
+        return;
       case ReportColumn::kType:
-        return content_.types[entry.type];
+        row += content_.types[entry.type];
+        return;
       case ReportColumn::kSize:
-        return isFolder ? std::wstring() : FormatSize(entry.size, false, system_);
+        if (!isFolder) row += FormatSize(entry.size, false, system_);
+        return;
       case ReportColumn::kModified:
-        return DateText(entry.modified);
+        row += DateText(entry.modified);
+        return;
       case ReportColumn::kCreated:
-        return DateText(entry.created);
+        row += DateText(entry.created);
+        return;
       case ReportColumn::kAccessed:
-        return DateText(entry.accessed);
+        row += DateText(entry.accessed);
+        return;
       case ReportColumn::kPath:
-        break;
+        row.append(inFolder_).append(entry.name);
+        return;
     }
-    return inFolder_ + std::wstring(entry.Name());
   }
 
-  std::wstring TotalSize() const {
-    std::uint64_t total = 0;
-    for (const ReportEntry& file : content_.files) total += file.size;
-    return FormatSize(total, true, system_);
+  // Folders come first. False as soon as `row` says so.
+  template <typename Row>
+  bool Rows(Row row) {
+    return content_.folders.Visit([&row](const ReportEntry& folder) { return row(folder, true); }) &&
+           content_.files.Visit([&row](const ReportEntry& file) { return row(file, false); });
   }
+
+  std::wstring TotalSize() const { return FormatSize(content_.size, true, system_); }
 
   std::wstring Closing() const {
     const LocalTime time = SplitDate(request_.Moment);
@@ -107,8 +118,23 @@ class Layout {
   std::vector<ReportColumn> columns_;
 
  private:
+  // Files mostly share their moments with their neighbours or with themselves.
+  struct KnownDate {
+    Date date = 0;
+    std::wstring text;
+  };
+
+  const std::wstring& DateText(Date date) {
+    KnownDate& known = knownDates_[std::hash<Date>()(date) % kKnownDates];
+    if (known.date != date) known = {date, DefaultDateText(date, system_)};
+    return known.text;
+  }
+
+  static constexpr std::size_t kKnownDates = 256;
+
   ReportSink& sink_;
   std::wstring inFolder_;
+  std::vector<KnownDate> knownDates_{kKnownDates};
 };
 
 // --- text
@@ -122,12 +148,7 @@ class TextLayout : private Layout {
     if (!Cells({request_.Folder})) return false;
     if (toClipboard && !Cells({DefaultDateText(request_.Moment, system_)})) return false;
     if (!Line({}) || !Header()) return false;
-    for (const ReportEntry& folder : content_.folders) {
-      if (!Row(folder, true)) return false;
-    }
-    for (const ReportEntry& file : content_.files) {
-      if (!Row(file, false)) return false;
-    }
+    if (!Rows([this](const ReportEntry& entry, bool isFolder) { return Row(entry, isFolder); })) return false;
     if (!Line({}) || !Totals() || (!toClipboard && !Line({}))) return false;
     return Cells({std::wstring(kCreatedBy) + kProgram + Closing()});
   }
@@ -148,7 +169,10 @@ class TextLayout : private Layout {
   }
   bool Row(const ReportEntry& entry, bool isFolder) {
     row_.clear();
-    for (const ReportColumn column : columns_) Add(Value(entry, column, isFolder));
+    for (const ReportColumn column : columns_) {
+      AppendValue(row_, entry, column, isFolder);
+      row_ += request_.Delimiter;
+    }
     return Line(row_);
   }
   bool Totals() {
@@ -168,7 +192,7 @@ class PageLayout : private Layout {
   using Layout::Layout;
 
   bool Write() {
-    return Top() && Rows() && Line(L"<tr><td colspan=\"" + DecimalText(cells_) + L"\">" + kBlank + L"</tr>") &&
+    return Top() && Data() && Line(L"<tr><td colspan=\"" + DecimalText(cells_) + L"\">" + kBlank + L"</tr>") &&
            Totals() && Bottom();
   }
 
@@ -181,29 +205,28 @@ class PageLayout : private Layout {
                  L"<td class=\"head2\">" + request_.Folder + L"</td>", L"</tr>", L"</table>", L"<br>",
                  L"<table width=\"100%\" border=\"0\" class=\"data\">");
   }
-  bool Rows() {
+  bool Data() {
     Begin(L"header");
     for (const ReportColumn column : columns_) Add(kHeaders[static_cast<std::size_t>(column)]);
     if (!End()) return false;
-    for (const ReportEntry& folder : content_.folders) {
-      if (!Row(folder, true)) return false;
-      cells_ += static_cast<std::int64_t>(columns_.size());
-    }
-    for (const ReportEntry& file : content_.files) {
-      if (!Row(file, false)) return false;
-    }
-    return true;
+    return Rows([this](const ReportEntry& entry, bool isFolder) {
+      if (isFolder) cells_ += static_cast<std::int64_t>(columns_.size());
+      return Row(entry, isFolder);
+    });
   }
   bool Row(const ReportEntry& entry, bool isFolder) {
     Begin(rows_++ % 2 == 0 ? L"row2" : L"row1");
     for (const ReportColumn column : columns_) {
-      const std::wstring value = Value(entry, column, isFolder);
-      Add(value.empty() ? std::wstring_view(kBlank) : value);
+      row_ += kCell;
+      const std::size_t empty = row_.size();
+      AppendValue(row_, entry, column, isFolder);
+      if (row_.size() == empty) row_ += kBlank;
+      row_ += kCellEnd;
     }
     return End();
   }
   void Begin(const wchar_t* kind) { row_.assign(L"<tr class=\"data_").append(kind).append(L"\">").append(kLineEnd); }
-  void Add(std::wstring_view value) { row_.append(L"<td>").append(value).append(L"</td>").append(kLineEnd); }
+  void Add(std::wstring_view value) { row_.append(kCell).append(value).append(kCellEnd); }
   bool End() { return Line(row_.append(L"</tr>")); }
 
   bool Totals() {

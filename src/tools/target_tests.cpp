@@ -1,5 +1,6 @@
 #include "tools/target_tests.h"
 
+#include <algorithm>
 #include <atomic>
 #include <cstddef>
 #include <map>
@@ -12,6 +13,8 @@ namespace {
 
 constexpr std::int32_t kInterval = 100;  // milliseconds between two looks at what is known
 constexpr std::int32_t kPatience = 3000 / kInterval;
+// More places than this wait for one of them to be done or given up: each takes a thread.
+constexpr std::ptrdiff_t kPlacesAtOnce = 32;
 
 }  // namespace
 
@@ -25,6 +28,7 @@ struct TargetTests::Run {
 
   std::wstring place;
   bool onServer = false;
+  bool started = false;
   bool ended = false;  // the work, maybe by a failure with more to ask
   std::size_t told = 0;
   std::int32_t idle = 0;  // looks since there was something new
@@ -56,18 +60,26 @@ void TargetTests::Add(std::vector<TargetQuestion> questions) {
     }
     run->questions.push_back(std::move(question));
   }
-  for (const auto& [place, run] : byPlace) {
-    runs_.push_back(run);
-    if (silent_.contains(place)) {
-      run->idle = kPatience;
-    } else {
-      Start(run);
-    }
-  }
+  for (const auto& [place, run] : byPlace) runs_.push_back(run);
+  StartWaiting();
   timer_.SetEnabled(Running());
 }
 
+void TargetTests::StartWaiting() {
+  std::ptrdiff_t running = std::count_if(runs_.begin(), runs_.end(), [](const auto& run) { return run->started; });
+  for (const auto& run : runs_) {
+    if (run->started) continue;
+    if (silent_.contains(run->place)) {
+      run->idle = kPatience;
+    } else if (running < kPlacesAtOnce) {
+      ++running;
+      Start(run);
+    }
+  }
+}
+
 void TargetTests::Start(const std::shared_ptr<Run>& run) {
+  run->started = true;
   run->there.resize(run->questions.size());
   // The file system is there as long as the process.
   workers_.Run([run, &files = files_] { run->Work(files); },
@@ -90,7 +102,7 @@ void TargetTests::Collect(bool ticked) {
       answers.push_back({run->questions[run->told++], answer});
     };
     const std::size_t known = run->known;
-    if (ticked) run->idle = known > run->told ? 0 : run->idle + 1;
+    if (ticked && run->started) run->idle = known > run->told ? 0 : run->idle + 1;
     while (run->told < known) tell(run->there[run->told] != 0 ? FolderAnswer::kThere : FolderAnswer::kMissing);
     const bool silent = run->onServer && run->idle >= kPatience;
     if (silent) silent_.insert(run->place);
@@ -99,6 +111,7 @@ void TargetTests::Collect(bool ticked) {
     while (run->told < run->questions.size()) tell(FolderAnswer::kNoAnswer);
   }
   std::erase_if(runs_, [](const auto& run) { return run->told == run->questions.size(); });
+  StartWaiting();
   timer_.SetEnabled(Running());
   if (!answers.empty()) Raise(Answered, answers);
 }

@@ -25,8 +25,9 @@ struct TargetAnswer {
 };
 
 // Each drive and each server is asked by work of its own, one path after the other, so that one that is away holds up
-// no other. A server that tells nothing for three seconds isn't asked again: the rest of its paths has no answer. So
-// all is known that long after the last path of a living place.
+// no other; of very many, some wait until others are done. A server that tells nothing for three seconds isn't asked
+// again: the rest of its paths has no answer. So all is known that long after the last path of a living place, while no
+// place has to wait.
 class TargetTests {
  public:
   // What the platform refers to must outlive this object.
@@ -48,6 +49,8 @@ class TargetTests {
   struct Run;
   struct Life {};
 
+  // As many as may run at once.
+  void StartWaiting();
   void Start(const std::shared_ptr<Run>& run);
   void Collect(bool ticked);
 

@@ -5,6 +5,20 @@
 
 namespace burrowmark {
 
+ToolbarButtonState ToolbarButton(std::wstring key, std::wstring toolTip, std::int32_t image) {
+  ToolbarButtonState button;
+  button.key = std::move(key);
+  button.toolTip = std::move(toolTip);
+  button.image = image;
+  return button;
+}
+
+ToolbarButtonState ToolbarSeparator() {
+  ToolbarButtonState separator;
+  separator.style = ToolbarButtonStyle::kSeparator;
+  return separator;
+}
+
 Toolbar::Toolbar(ControlParent& parent, const wchar_t* name, std::vector<ToolbarButtonState> buttons)
     : ControlOf(parent, name, Box()), buttons_(std::move(buttons)) {
   StartWithoutTabStop();

@@ -9,6 +9,9 @@
 
 namespace burrowmark {
 
+ToolbarButtonState ToolbarButton(std::wstring key, std::wstring toolTip, std::int32_t image);
+ToolbarButtonState ToolbarSeparator();
+
 // Buttons count from 0, separators among them.
 class Toolbar final : public ControlOf<ToolbarState, ToolbarPeer> {
  public:

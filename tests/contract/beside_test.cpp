@@ -60,6 +60,8 @@ TEST_F(BesideContract, NobodyWaitsForWorkLongerThanHeSaid) {
   EXPECT_EQ(*worked, 1);
   system_->LetPass(600);
   EXPECT_EQ(*worked, 2) << "it goes on";
+  EXPECT_FALSE(platform_.workers.RunAllWithin(20, {work, system_->Slowly(work)}));
+  EXPECT_TRUE(platform_.workers.RunAllWithin(3000, {work, work}));
 }
 
 }  // namespace

@@ -27,6 +27,17 @@ TEST_F(FilesContract, WhatWasWrittenIsReadBackByteForByte) {
   }
 }
 
+TEST_F(FilesContract, AFileThatGoesUnlessClosedGoesWithItsObject) {
+  for (const bool closed : {false, true}) {
+    {
+      const std::unique_ptr<OutputFile> file = files_.CreateNewFile(In(L"half"));
+      ASSERT_TRUE(file && file->DeleteUnlessClosed() && file->Write("content"));
+      EXPECT_TRUE(!closed || file->Close());
+    }
+    EXPECT_EQ(files_.FileExists(In(L"half")), closed);
+  }
+}
+
 TEST_F(FilesContract, ANewFileNeedsAFreeNameInAFolderThatExists) {
   for (const wchar_t* name : {L"FILE", L"folder", L"missing\\file", L"file\\below"}) {
     EXPECT_FALSE(files_.CreateNewFile(In(name))) << ::testing::PrintToString(std::wstring(name));

@@ -28,12 +28,18 @@ void LocalWorkers::Run(std::function<void()> work, std::function<void()> done) {
   Takes == 0 ? windows_.Post(std::move(task)) : windows_.PostLater(Takes, std::move(task));
 }
 
-bool LocalWorkers::RunWithin(std::int32_t milliseconds, std::function<void()> work) {
+bool LocalWorkers::RunAllWithin(std::int32_t milliseconds, std::vector<std::function<void()>> works) {
   ++Waits;
-  if (Takes <= milliseconds && Ends(work)) return true;
-  ++VainWaits;
-  if (Takes > milliseconds) windows_.PostLater(Takes, [work = std::move(work)] { Ends(work); });
-  return false;
+  bool all = Takes <= milliseconds;
+  for (std::function<void()>& work : works) {
+    if (Takes > milliseconds) {
+      windows_.PostLater(Takes, [work = std::move(work)] { Ends(work); });
+    } else {
+      all = Ends(work) && all;
+    }
+  }
+  VainWaits += all ? 0 : 1;
+  return all;
 }
 
 }  // namespace burrowmark

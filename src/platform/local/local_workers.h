@@ -19,7 +19,7 @@ class LocalWorkers final : public Workers {
   std::size_t VainWaits = 0;
 
   void Run(std::function<void()> work, std::function<void()> done) override;
-  bool RunWithin(std::int32_t milliseconds, std::function<void()> work) override;
+  bool RunAllWithin(std::int32_t milliseconds, std::vector<std::function<void()>> works) override;
 
  private:
   LocalWindows& windows_;

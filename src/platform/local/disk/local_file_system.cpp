@@ -27,7 +27,13 @@ std::size_t TakeRoom(Faults& faults, std::size_t wanted) {
 class LocalOutputFile final : public OutputFile {
  public:
   LocalOutputFile(const fs::path& place, std::wstring path, Faults& faults)
-      : file_(place), path_(std::move(path)), faults_(faults) {}
+      : place_(place), file_(place), path_(std::move(path)), faults_(faults) {}
+  ~LocalOutputFile() override {
+    std::error_code error;
+    if (goes_) fs::remove(place_, error);
+  }
+  LocalOutputFile(const LocalOutputFile&) = delete;
+  LocalOutputFile& operator=(const LocalOutputFile&) = delete;
 
   bool IsOpen() const { return file_.IsOpen(); }
 
@@ -42,11 +48,20 @@ class LocalOutputFile final : public OutputFile {
   // A close that fails lets go of the file all the same.
   bool Close() override {
     const bool struck = faults_.Strikes("Close", path_);
-    return file_.Close() && !struck;
+    const bool closed = file_.Close() && !struck;
+    goes_ = goes_ && !closed;
+    return closed;
+  }
+
+  bool DeleteUnlessClosed() override {
+    goes_ = file_.IsOpen();
+    return goes_;
   }
 
  private:
+  fs::path place_;
   DiskFile file_;
+  bool goes_ = false;
   std::wstring path_;
   Faults& faults_;
 };

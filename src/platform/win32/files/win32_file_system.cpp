@@ -29,8 +29,8 @@ bool IsFolder(std::uint32_t attributes) { return (attributes & kFileDirectory) !
 class Win32OutputFile final : public OutputFile {
  public:
   explicit Win32OutputFile(const std::wstring& path)
-      : file_(::CreateFileW(path.c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL,
-                            nullptr)) {}
+      : file_(::CreateFileW(path.c_str(), GENERIC_WRITE | DELETE, FILE_SHARE_READ, nullptr, CREATE_NEW,
+                            FILE_ATTRIBUTE_NORMAL, nullptr)) {}
 
   bool IsDiskFile() const { return file_.IsDiskFile(); }
 
@@ -50,10 +50,27 @@ class Win32OutputFile final : public OutputFile {
     return file_.IsOpen() && ::FlushFileBuffers(file_.Get()) != 0;
   }
 
-  bool Close() override { return file_.Close(); }
+  bool Close() override {
+    const bool kept = !goes_ || SetDeleted(false);
+    return file_.Close() && kept;
+  }
+
+  bool DeleteUnlessClosed() override {
+    goes_ = SetDeleted(true);
+    return goes_;
+  }
 
  private:
+  // What the system does with the file when its last handle is closed, by whomever.
+  bool SetDeleted(bool deleted) {
+    FILE_DISPOSITION_INFO disposition = {};
+    disposition.DeleteFile = deleted ? TRUE : FALSE;
+    return file_.IsOpen() &&
+           ::SetFileInformationByHandle(file_.Get(), FileDispositionInfo, &disposition, sizeof disposition) != 0;
+  }
+
   FileHandle file_;
+  bool goes_ = false;
 };
 
 bool ReadAll(const FileHandle& file, std::string& bytes) {

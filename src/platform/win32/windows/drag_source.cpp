@@ -8,6 +8,7 @@
 
 #include "platform/peers/ui_control.h"
 #include "platform/win32/shell/com_object.h"
+#include "platform/win32/shell/counted_object.h"
 
 namespace burrowmark {
 namespace {
@@ -15,38 +16,9 @@ namespace {
 class DropSource;
 DropSource* running = nullptr;  // of the interface thread, which alone drags
 
-// The counting of an object of one interface, which begins with one reference.
-template <typename Interface>
-class Counted : public Interface {
+class DropSource final : public CountedObject<IDropSource> {
  public:
-  explicit Counted(const IID& id) : id_(id) {}
-  Counted(const Counted&) = delete;
-  Counted& operator=(const Counted&) = delete;
-
-  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) override {
-    const bool known = id == IID_IUnknown || id == id_;
-    *object = known ? static_cast<Interface*>(this) : nullptr;
-    if (known) AddRef();
-    return known ? S_OK : E_NOINTERFACE;
-  }
-  ULONG STDMETHODCALLTYPE AddRef() override { return ++references_; }
-  ULONG STDMETHODCALLTYPE Release() override {
-    const ULONG left = --references_;
-    if (left == 0) delete this;
-    return left;
-  }
-
- protected:
-  virtual ~Counted() = default;
-
- private:
-  const IID& id_;
-  ULONG references_ = 1;
-};
-
-class DropSource final : public Counted<IDropSource> {
- public:
-  DropSource() : Counted(IID_IDropSource) { running = this; }
+  DropSource() : CountedObject(IID_IDropSource) { running = this; }
 
   void Cancel() { cancelled_ = true; }
 
@@ -63,9 +35,9 @@ class DropSource final : public Counted<IDropSource> {
 };
 
 // The format that tells that the drag is ours, and what the system keeps with it for the drag's picture.
-class DragData final : public Counted<IDataObject> {
+class DragData final : public CountedObject<IDataObject> {
  public:
-  DragData() : Counted(IID_IDataObject) {}
+  DragData() : CountedObject(IID_IDataObject) {}
 
   HRESULT STDMETHODCALLTYPE QueryGetData(FORMATETC* format) override {
     const bool own = format->cfFormat == OwnDragFormat().cfFormat;

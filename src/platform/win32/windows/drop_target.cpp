@@ -10,6 +10,7 @@
 #include "platform/from_system.h"
 #include "platform/key_codes.h"
 #include "platform/win32/shell/com_object.h"
+#include "platform/win32/shell/counted_object.h"
 #include "platform/win32/windows/drag_source.h"
 #include "platform/win32/windows/form_window.h"
 
@@ -50,27 +51,12 @@ std::int32_t ShiftOf(DWORD keys) {
 
 }  // namespace
 
-class DropTarget final : public IDropTarget {
+class DropTarget final : public CountedObject<IDropTarget> {
  public:
   DropTarget(HWND window, ControlState& control, const FormWindow& form)
-      : window_(window), control_(&control), form_(&form) {}
-  DropTarget(const DropTarget&) = delete;
-  DropTarget& operator=(const DropTarget&) = delete;
+      : CountedObject(IID_IDropTarget), window_(window), control_(&control), form_(&form) {}
 
   void Retire() { control_ = nullptr; }
-
-  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) override {
-    const bool known = id == IID_IUnknown || id == IID_IDropTarget;
-    *object = known ? static_cast<IDropTarget*>(this) : nullptr;
-    if (known) AddRef();
-    return known ? S_OK : E_NOINTERFACE;
-  }
-  ULONG STDMETHODCALLTYPE AddRef() override { return ++references_; }
-  ULONG STDMETHODCALLTYPE Release() override {
-    const ULONG left = --references_;
-    if (left == 0) delete this;
-    return left;
-  }
 
   HRESULT STDMETHODCALLTYPE DragEnter(IDataObject* data, DWORD keys, POINTL at, DWORD* effect) override {
     seen_ = {};
@@ -105,8 +91,6 @@ class DropTarget final : public IDropTarget {
   }
 
  private:
-  ~DropTarget() = default;
-
   // What the control says, also where it has gone or fails.
   template <typename Call>
   DWORD Tell(Call call) {
@@ -154,7 +138,6 @@ class DropTarget final : public IDropTarget {
   std::optional<ULONGLONG> scrollAt_;  // while the mouse is near an edge
   // Moves the picture of what is dragged, if its source has one.
   ComObject<IDropTargetHelper> picture_{CLSID_DragDropHelper, IID_IDropTargetHelper};
-  ULONG references_ = 1;
 };
 
 DropRegistration::DropRegistration(HWND window, ControlState& control, const FormWindow& form) : window_(window) {

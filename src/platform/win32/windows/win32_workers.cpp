@@ -31,23 +31,24 @@ bool Start(Work&& work) {
       false);
 }
 
-// The end of a piece of work that somebody waits for.
+// The end of pieces of work that somebody waits for.
 class Finish {
  public:
+  explicit Finish(std::size_t works) : left_(works) {}
   void Tell() {
     const std::lock_guard lock(mutex_);
-    done_ = true;
+    --left_;
     changed_.notify_all();
   }
   bool Wait(std::int32_t milliseconds) {
     std::unique_lock lock(mutex_);
-    return changed_.wait_for(lock, std::chrono::milliseconds(milliseconds), [this] { return done_; });
+    return changed_.wait_for(lock, std::chrono::milliseconds(milliseconds), [this] { return left_ == 0; });
   }
 
  private:
   std::mutex mutex_;
   std::condition_variable changed_;
-  bool done_ = false;
+  std::size_t left_;
 };
 
 struct Task {
@@ -86,13 +87,18 @@ void Win32Workers::Run(std::function<void()> work, std::function<void()> done) {
   if (!runs) loop_->Post([task = std::move(task)] { task->done(); });
 }
 
-bool Win32Workers::RunWithin(std::int32_t milliseconds, std::function<void()> work) {
-  const auto finish = std::make_shared<Finish>();
-  const bool runs = Start([finish, work = std::move(work)] {
-    RunQuietly(work);
-    finish->Tell();
-  });
-  return runs && finish->Wait(milliseconds);
+bool Win32Workers::RunAllWithin(std::int32_t milliseconds, std::vector<std::function<void()>> works) {
+  const auto finish = std::make_shared<Finish>(works.size());
+  bool all = true;
+  for (std::function<void()>& work : works) {
+    const bool runs = Start([finish, work = std::move(work)] {
+      RunQuietly(work);
+      finish->Tell();
+    });
+    if (!runs) finish->Tell();
+    all = all && runs;
+  }
+  return finish->Wait(milliseconds) && all;
 }
 
 }  // namespace burrowmark

@@ -17,7 +17,7 @@ class Win32Workers final : public Workers {
   Win32Workers& operator=(const Win32Workers&) = delete;
 
   void Run(std::function<void()> work, std::function<void()> done) override;
-  bool RunWithin(std::int32_t milliseconds, std::function<void()> work) override;
+  bool RunAllWithin(std::int32_t milliseconds, std::vector<std::function<void()>> works) override;
 
  private:
   struct Loop;
