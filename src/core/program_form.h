@@ -10,7 +10,7 @@ namespace burrowmark {
 
 // While it is open it stands in the table of open windows and stays above others if the editor does. While it is modal
 // the program is busy with it, and when the program ends it is closed as the user would. It takes no input while it
-// unloads.
+// unloads. F1 opens its page of the help.
 class ProgramForm : public Form, private OpenWindow {
  public:
   bool InGesture() const override { return false; }
@@ -28,6 +28,7 @@ class ProgramForm : public Form, private OpenWindow {
   void WindowMade() final;
   void WindowGone() final;
   void RunModal() final;
+  bool Form_Help() final;
 
   ProgramWindow Kind() const final { return kind_; }
   bool IsShown() const final { return Visible(); }

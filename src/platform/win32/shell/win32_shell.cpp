@@ -57,7 +57,11 @@ class Win32Shell::Apartment {
 // The help viewer, whose windows live in this process.
 class Win32Shell::Help {
  public:
-  Help() : call_(library_.Find<HtmlHelpCall>("HtmlHelpW")) {}
+  Help() {
+    // Never let go: a window of it may still be on its way out, on a thread of its own, when the program ends.
+    static const auto& library = *new SystemLibrary(L"hhctrl.ocx");
+    call_ = library.Find<HtmlHelpCall>("HtmlHelpW");
+  }
   ~Help() {
     if (call_ != nullptr) call_(nullptr, nullptr, kCloseAllHelp, 0);
   }
@@ -69,8 +73,7 @@ class Win32Shell::Help {
   }
 
  private:
-  SystemLibrary library_{L"hhctrl.ocx"};
-  HtmlHelpCall call_;
+  HtmlHelpCall call_ = nullptr;
 };
 
 Win32Shell::Win32Shell() : apartment_(std::make_unique<Apartment>()) {}
