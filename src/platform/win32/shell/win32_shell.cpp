@@ -68,8 +68,15 @@ class Win32Shell::Help {
   Help(const Help&) = delete;
   Help& operator=(const Help&) = delete;
 
+  // A window that is open already is shown again: it comes forward, also over one that stays above others.
   bool Show(const std::wstring& path, std::int32_t command) const {
-    return call_ != nullptr && call_(nullptr, path.c_str(), static_cast<UINT>(command), 0) != nullptr;
+    const bool above = (::GetWindowLongPtrW(::GetForegroundWindow(), GWL_EXSTYLE) & WS_EX_TOPMOST) != 0;
+    const HWND window = call_ == nullptr ? nullptr : call_(nullptr, path.c_str(), static_cast<UINT>(command), 0);
+    if (window == nullptr) return false;
+    if (::IsIconic(window) != FALSE) ::ShowWindow(window, SW_RESTORE);
+    ::SetWindowPos(window, above ? HWND_TOPMOST : HWND_NOTOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
+    ::SetForegroundWindow(window);
+    return true;
   }
 
  private:
