@@ -83,13 +83,16 @@ under_wine() {
 }
 
 need_packages "${BUILD_PACKAGES[@]}" "${WINDOWS_PACKAGES[@]}" "${WINE_PACKAGES[@]}" \
-  googletest libbenchmark-dev clang clang-format clang-tidy libclang-rt-14-dev
+  googletest libbenchmark-dev clang clang-format clang-tidy libclang-rt-14-dev libchm-bin
 
 say "checking the format"
 check_format
 
 say "checking the rooms"
 tools/check_rooms.py
+
+say "checking the help"
+tools/check_help.py
 
 # The benchmarks are built with it, so that they stay right; their figures come from the release build.
 cmake --preset native -DBURROWMARK_BENCH=ON >/dev/null

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "core/help.h"
+
 namespace burrowmark {
 
 ProgramForm::ProgramForm(Application& app, ProgramWindow kind, const wchar_t* name, const Size& client)
@@ -24,6 +26,11 @@ void ProgramForm::RunModal() {
   }
   const Busy busy(app_.Requests, busyness_, [this] { Unload(UnloadMode::kUser); });
   Form::RunModal();
+}
+
+bool ProgramForm::Form_Help() {
+  ShowHelpAbout(app_, kind_);
+  return true;
 }
 
 }  // namespace burrowmark

@@ -11,7 +11,7 @@ namespace burrowmark {
 
 // While it is open it stands in the table of open windows and stays above others if the editor does. It opens where it
 // was left, if it is one that remembers (core/form_state.h). While it is modal the program is busy with it, and when
-// the program ends it is closed as the user would. It takes no input while it unloads.
+// the program ends it is closed as the user would. It takes no input while it unloads. F1 opens its page of the help.
 class ProgramForm : public Form, private OpenWindow {
  public:
   bool InGesture() const override { return false; }
@@ -32,6 +32,7 @@ class ProgramForm : public Form, private OpenWindow {
   void WindowGone() final;
   void WindowGoing() final { SaveFormState(app_, *this); }
   void RunModal() final;
+  bool Form_Help() final;
 
   ProgramWindow Kind() const final { return kind_; }
   bool IsShown() const final { return Visible(); }

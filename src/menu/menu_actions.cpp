@@ -4,16 +4,15 @@
 
 #include "core/failure.h"
 #include "core/folder_tests.h"
+#include "core/help.h"
 #include "core/registry.h"
 #include "core/registry_keys.h"
-#include "core/services.h"
 
 namespace burrowmark {
 namespace {
 
 constexpr wchar_t kTitle[] = L"Burrowmark";
 constexpr wchar_t kNoDirectory[] = L"0";  // no folder has this name
-constexpr std::int32_t kHelpContents = 1;
 
 // The file manager ends an argument at a comma unless quotes hold it together.
 std::wstring QuotedForExplorer(const std::wstring& path) {
@@ -151,15 +150,6 @@ void EjectDisc(Application& app, const std::wstring& drive) {
   shell.mciSendStringA(L"open " + drive + L" type cdaudio alias cdr wait shareable");
   shell.mciSendStringA(L"set cdr door open");
   shell.mciSendStringA(L"close all");
-}
-
-void ShowHelp(Application& app, std::int32_t command) {
-  if (!FileExists(app.platform.files, app.HelpFile)) {
-    app.platform.dialogs.MessageBoxA(app.MainWindow, L"Burrowmark help file is missing. Unable to display help.",
-                                     kTitle, kBoxCritical);
-    return;
-  }
-  if (!app.platform.shell.HtmlHelpA(app.HelpFile, command)) OpenFile(app, app.HelpFile);
 }
 
 bool ShowOptions(Application& app) {

@@ -30,8 +30,6 @@ void FindInFolder(Application& app, const std::wstring& path);
 std::int32_t OpenFile(Application& app, const std::wstring& path);
 // Opens the tray of a compact-disc drive.
 void EjectDisc(Application& app, const std::wstring& drive);
-// Opens the help file; 1 is its contents, 2 its index. A box says if it is missing.
-void ShowHelp(Application& app, std::int32_t command);
 // Shows the Options dialog over the menu's tree unless it is open; true if something was changed.
 bool ShowOptions(Application& app);
 // The last command that was handed over, or empty.

@@ -2,7 +2,7 @@
 #include <algorithm>
 #include <iterator>
 
-#include "menu/menu_actions.h"
+#include "core/help.h"
 #include "organize/frm_organize.h"
 #include "organize/node_keys.h"
 #include "platform/key_codes.h"
@@ -14,9 +14,6 @@
 
 namespace burrowmark {
 namespace {
-
-constexpr std::int32_t kHelpContents = 1;
-constexpr std::int32_t kHelpIndex = 2;
 
 constexpr MenuShortcut Ctrl(wchar_t letter) { return {static_cast<std::int32_t>(letter), kCtrlMask}; }
 constexpr MenuShortcut Key(std::int32_t code) { return {code, 0}; }

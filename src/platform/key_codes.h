@@ -21,6 +21,7 @@ inline constexpr std::int32_t kKeyCodeDown = 40;
 inline constexpr std::int32_t kKeyCodeInsert = 45;
 inline constexpr std::int32_t kKeyCodeDelete = 46;
 inline constexpr std::int32_t kKeyCodeApps = 93;  // opens a context menu
+inline constexpr std::int32_t kKeyCodeF1 = 112;
 inline constexpr std::int32_t kKeyCodeF2 = 113;
 inline constexpr std::int32_t kKeyCodeF4 = 115;
 inline constexpr std::int32_t kKeyCodeF5 = 116;

@@ -30,6 +30,11 @@ struct TrayIcon {
   std::wstring tip;  // at most 63 characters
 };
 
+// What HtmlHelpA opens (htmlhelp.h).
+inline constexpr std::int32_t kHelpPage = 0;
+inline constexpr std::int32_t kHelpContents = 1;
+inline constexpr std::int32_t kHelpIndex = 2;
+
 // What a shortcut file says.
 struct ShellLink {
   std::wstring target;  // full path of a file or a folder
@@ -47,7 +52,7 @@ class Shell {
                                      const std::wstring& directory, std::int32_t show) = 0;
   // False if there is no task bar, or it refuses.
   virtual bool Shell_NotifyIconA(std::uint32_t message, const TrayIcon& icon) = 0;
-  // Opens a help file; `command` 1 is its contents, 2 its index. False if it can't.
+  // Opens a help file; for kHelpPage the path ends in "::/" and the name of the page. False if it can't.
   virtual bool HtmlHelpA(const std::wstring& path, std::int32_t command) = 0;
   // Reads a shortcut file as it stands, without looking for its target. False if it is none, or leads to no file.
   virtual bool ReadShellLink(const std::wstring& path, ShellLink& link) = 0;

@@ -4,6 +4,8 @@
 #include <iterator>
 #include <utility>
 
+#include "platform/key_codes.h"
+
 namespace burrowmark {
 namespace {
 
@@ -403,6 +405,7 @@ bool Form::UserKey(std::int32_t keyCode, std::int32_t shift) {
   const Running running(*this);
   if (keyPreview_) Form_KeyDown(keyCode, shift);
   if (keyCode == 0 || !IsReachable()) return true;
+  if (keyCode == kKeyCodeF1 && shift == 0 && Form_Help()) return true;
   const bool used = std::any_of(controls_.begin(), controls_.end(),
                                 [=](Control* control) { return control->UserFormKey(keyCode, shift); });
   return used || !IsReachable() || RunShortcut(keyCode, shift);

@@ -139,6 +139,8 @@ class Form : public FormState, public ControlSite {
   void Block(int forms);
   // A key code of 0 keeps the key from everybody else.
   virtual void Form_KeyDown(std::int32_t& KeyCode, std::int32_t Shift);
+  // F1 alone, unless Form_KeyDown took it. Whether there is help for the form.
+  virtual bool Form_Help() { return false; }
   // An entry of the form in the system menu was chosen.
   virtual void Form_SystemCommand(std::int32_t id);
   // The mouse where no control is.

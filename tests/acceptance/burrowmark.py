@@ -91,7 +91,7 @@ class Menu:
 def install(exe, folder):
     """Copies the program and what stands beside it."""
     folder.mkdir(exist_ok=True)
-    for name in (exe.name, "CopyAddress.exe", "filecopy.avi", "folder_report.css", "TIPOFDAY.TXT"):
+    for name in (exe.name, "CopyAddress.exe", "Burrowmark.chm", "filecopy.avi", "folder_report.css", "TIPOFDAY.TXT"):
         shutil.copy(exe.parent / name, folder)
 
 

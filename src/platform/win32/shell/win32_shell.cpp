@@ -57,20 +57,30 @@ class Win32Shell::Apartment {
 // The help viewer, whose windows live in this process.
 class Win32Shell::Help {
  public:
-  Help() : call_(library_.Find<HtmlHelpCall>("HtmlHelpW")) {}
+  Help() {
+    // Never let go: a window of it may still be on its way out, on a thread of its own, when the program ends.
+    static const auto& library = *new SystemLibrary(L"hhctrl.ocx");
+    call_ = library.Find<HtmlHelpCall>("HtmlHelpW");
+  }
   ~Help() {
     if (call_ != nullptr) call_(nullptr, nullptr, kCloseAllHelp, 0);
   }
   Help(const Help&) = delete;
   Help& operator=(const Help&) = delete;
 
+  // A window that is open already is shown again: it comes forward, also over one that stays above others.
   bool Show(const std::wstring& path, std::int32_t command) const {
-    return call_ != nullptr && call_(nullptr, path.c_str(), static_cast<UINT>(command), 0) != nullptr;
+    const bool above = (::GetWindowLongPtrW(::GetForegroundWindow(), GWL_EXSTYLE) & WS_EX_TOPMOST) != 0;
+    const HWND window = call_ == nullptr ? nullptr : call_(nullptr, path.c_str(), static_cast<UINT>(command), 0);
+    if (window == nullptr) return false;
+    if (::IsIconic(window) != FALSE) ::ShowWindow(window, SW_RESTORE);
+    ::SetWindowPos(window, above ? HWND_TOPMOST : HWND_NOTOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
+    ::SetForegroundWindow(window);
+    return true;
   }
 
  private:
-  SystemLibrary library_{L"hhctrl.ocx"};
-  HtmlHelpCall call_;
+  HtmlHelpCall call_ = nullptr;
 };
 
 Win32Shell::Win32Shell() : apartment_(std::make_unique<Apartment>()) {}
