@@ -40,7 +40,8 @@ elif [ $help_is_part = yes ]; then
   exit 1
 fi
 
-rm -rf dist build/packing
+rm -rf build/packing
+[ "${1:-}" = set-up ] || rm -rf dist
 mkdir -p dist build/packing/pictures
 python3 -B packaging/pictures/pictures.py bitmaps build/packing/pictures
 gather build/packing/setup "${programs[@]}" "${beside[@]}"
@@ -48,7 +49,7 @@ touch -d "@$SOURCE_DATE_EPOCH" build/packing/pictures/*
 say "packing the set-up"
 makensis -V2 -WX -DVERSION="$version" -DVERSION_NUMBERS="$(sed 's/, */./g' <<<"$numbers")" \
   -DSTAGE="$PWD/build/packing/setup" -DPICTURES="$PWD/build/packing/pictures" -DICON="$PWD/assets/icons/burrowmark.ico" \
-  -DOUTPUT="$PWD/dist/burrowmark-setup.exe" packaging/burrowmark.nsi
+  -DSIZE="$(($(cat build/packing/setup/* | wc -c) / 1024))" -DOUTPUT="$PWD/dist/burrowmark-setup.exe" packaging/burrowmark.nsi
 [ "${1:-}" = set-up ] && exit 0
 
 say "packing the portable copy and the tests"

@@ -3,6 +3,7 @@
 ;   STAGE    the folder that holds the files to be installed
 ;   PICTURES the folder with the pictures of the last page
 ;   ICON     the program's icon
+;   SIZE     what the installed files take, in units of 1,024 bytes
 ;   OUTPUT   the file to be made
 ; "/S" asks nothing; "/D=folder", last on the line and without quotes, tells where.
 ; Ends with 0, with 1 if the user cancels, with 2 if a file can't be written, and with 3, nothing touched, if the
@@ -14,6 +15,9 @@ ManifestSupportedOS all
 RequestExecutionLevel user
 
 !define PRODUCT Burrowmark
+; The folder as long as nobody has named one: "/D=" doesn't show in $CMDLINE, and even this very folder is named without
+; the dot.
+!define NOT_NAMED "$LOCALAPPDATA\Programs\.\Burrowmark"
 !define DEFAULT_FOLDER "$LOCALAPPDATA\Programs\Burrowmark"
 
 Var OldFolder  ; of the version that is there, empty if there is none
@@ -33,7 +37,7 @@ Caption "${PRODUCT} ${VERSION}"
 UninstallCaption "Remove ${PRODUCT}"
 BrandingText " "
 OutFile "${OUTPUT}"
-InstallDir "${DEFAULT_FOLDER}"
+InstallDir "${NOT_NAMED}"
 AutoCloseWindow true
 ShowInstDetails nevershow
 ShowUninstDetails nevershow
@@ -59,11 +63,11 @@ Function .onInit
   InitPluginsDir
   Call FindOldFolder
   ; A newer version goes where the older one is, unless the user says otherwise.
-  ClearErrors
-  ${GetOptions} $CMDLINE "/D=" $0
-  ${If} ${Errors}
-  ${AndIf} $OldFolder != ""
-    StrCpy $INSTDIR $OldFolder
+  ${If} $INSTDIR == "${NOT_NAMED}"
+    StrCpy $INSTDIR "${DEFAULT_FOLDER}"
+    ${If} $OldFolder != ""
+      StrCpy $INSTDIR $OldFolder
+    ${EndIf}
   ${EndIf}
 FunctionEnd
 
@@ -77,6 +81,7 @@ Function FindOldFolder
 FunctionEnd
 
 Section
+  AddSize ${SIZE}
   Call EndRunning
   Call PutFiles
   Call RegisterOldTree
