@@ -82,8 +82,8 @@ under_wine() {
   timeout 900 wine "$@"
 }
 
-need_packages "${BUILD_PACKAGES[@]}" "${WINDOWS_PACKAGES[@]}" "${WINE_PACKAGES[@]}" \
-  googletest libbenchmark-dev clang clang-format clang-tidy libclang-rt-14-dev libchm-bin
+need_packages "${BUILD_PACKAGES[@]}" "${WINDOWS_PACKAGES[@]}" "${WINE_PACKAGES[@]}" "${PACKING_PACKAGES[@]}" \
+  googletest libbenchmark-dev clang llvm clang-format clang-tidy libclang-rt-14-dev libchm-bin
 
 say "checking the format"
 check_format
@@ -125,8 +125,9 @@ unless_passed program-file "$programs/burrowmark.exe" tools/check_program.sh -- 
 unless_passed copy-address-file "$programs/CopyAddress.exe" tools/check_program.sh -- tools/check_program.sh \
   "$programs/CopyAddress.exe" 60000 asInvoker
 
-acceptance_tests() { python3 -B tests/acceptance/run.py; }
-mapfile -t acceptance_files < <(git ls-files -co --exclude-standard -- tests/acceptance/'*.py' assets/icons/'*.ico')
+acceptance_tests() { ./package.sh set-up && python3 -B tests/acceptance/run.py; }
+mapfile -t acceptance_files < <(git ls-files -co --exclude-standard -- tests/acceptance/'*.py' tests/acceptance/'*.c' \
+  assets/icons/'*.ico' packaging package.sh)
 unless_passed acceptance "$programs/burrowmark.exe" "$programs/CopyAddress.exe" "${acceptance_files[@]}" src/app/icons.rc \
   build/windows/tests/acceptance/driver/acceptance_driver.exe -- acceptance_tests
 

@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Checks a program file: its size, the system's own libraries alone, hardening flags, a manifest.
+# Checks a program file: its size, hardening flags, a manifest, and that it imports only libraries that Windows takes
+# from its own folder whatever lies beside the program: those it knows (KnownDLLs), and COMCTL32, which the manifest names.
 # Usage: FILE MOST_BYTES WORD_OF_MANIFEST...
 set -euo pipefail
 exe=$1 most=$2
@@ -12,7 +13,7 @@ size=$(stat -c %s "$exe")
 [ "$size" -le "$most" ] || complain "$size bytes, more than $most"
 
 facts=$(x86_64-w64-mingw32-objdump -p "$exe")
-system='^(ADVAPI32|COMCTL32|GDI32|KERNEL32|msvcrt|NETAPI32|ole32|OLEAUT32|SHELL32|SHLWAPI|USER32|WS2_32)\.dll$'
+system='^(ADVAPI32|COMCTL32|GDI32|KERNEL32|msvcrt|ole32|OLEAUT32|SHELL32|SHLWAPI|USER32|WS2_32)\.dll$'
 foreign=$(sed -n 's/.*DLL Name: //p' <<<"$facts" | grep -viE "$system" || true)
 [ -z "$foreign" ] || complain "needs $foreign"
 

@@ -35,3 +35,4 @@ build() {
 BUILD_PACKAGES=(g++ gcc cmake ninja-build git ca-certificates)
 WINDOWS_PACKAGES=(g++-mingw-w64-x86-64-posix binutils-mingw-w64-x86-64)
 WINE_PACKAGES=(wine wine64 xvfb xdotool x11-utils x11-apps imagemagick python3)
+PACKING_PACKAGES=(nsis python3)

@@ -25,7 +25,7 @@ MENU = (16, 20, 24, 32, 48)
 TOOLBAR = (16, 20, 24, 30, 32, 36, 48)
 # For rows and buttons of 16 pixels that are never disabled.
 SMALL = (16, 20, 24, 32)
-# burrowmark.ico: the program file's icon.
+# burrowmark.ico, the program file's icon, and BWMK.ico, that of its documents.
 PROGRAM = (16, 20, 24, 32, 40, 48, 64, 256)
 
 # The kinds of NN-name.ico by the numbers NN.
@@ -239,7 +239,8 @@ def main():
     check = parser.parse_args().check
 
     icons = find_sources()
-    files = {"burrowmark.ico": icon_file(render_all(icons["01-burrowmark"], PROGRAM))}
+    files = {"burrowmark.ico": icon_file(render_all(icons["01-burrowmark"], PROGRAM)),
+             "BWMK.ico": icon_file(render_all(icons.pop("20-document"), PROGRAM))}
     for name, drawings in icons.items():
         files.update(files_of(name, drawings))
 

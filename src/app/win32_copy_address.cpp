@@ -55,4 +55,8 @@ bool Copy(const Text& text) {
 
 }  // namespace
 
-int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR commandLine, int) { return Copy(PathIn(commandLine)) ? 0 : 1; }
+int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR commandLine, int) {
+  // What the system's libraries load by name later mustn't come from the program's folder, which may be anybody's.
+  ::SetDefaultDllDirectories(LOAD_LIBRARY_SEARCH_SYSTEM32);
+  return Copy(PathIn(commandLine)) ? 0 : 1;
+}

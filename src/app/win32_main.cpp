@@ -15,6 +15,8 @@ void __verbose_terminate_handler() { std::abort(); }
 }  // namespace __gnu_cxx
 
 int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR commandLine, int) {
+  // What the system's libraries load by name later mustn't come from the program's folder, which may be anybody's.
+  ::SetDefaultDllDirectories(LOAD_LIBRARY_SEARCH_SYSTEM32);
   return burrowmark::FromSystem(
       [commandLine] {
         burrowmark::Win32Platform system;

@@ -43,6 +43,7 @@ void Answer(const std::string& line) {
   std::vector<std::wstring> words;
   std::istringstream stream(line);
   for (std::string word; std::getline(stream, word, '\t');) words.push_back(Wide(word));
+  if (line.ends_with('\t')) words.emplace_back();  // the name of a key's own value is empty
   std::wstring failure;
   try {
     Verb* const verb = kVerbs.at(words.at(0));

@@ -1,0 +1,48 @@
+"""A portable copy lies in a folder that anybody may have put files into: no library is taken from there."""
+
+import re
+import shutil
+import subprocess
+
+from burrowmark import ProgramTest
+from editor import FORM
+from harness import REPOSITORY, wait_for
+
+CROSS = "x86_64-w64-mingw32-"
+# Wine's own shell library asks for it before the program runs; Windows knows it (KnownDLLs). That it is taken here
+# shows that a planted library can be.
+CONTROL = "shcore.dll"
+
+
+def names_of_libraries(*programs):
+    """What the programs import, and what they load later."""
+    imports = "".join(subprocess.run([CROSS + "objdump", "-p", program], check=True, capture_output=True, text=True).stdout
+                      for program in programs)
+    sources = "".join(path.read_text() for path in (REPOSITORY / "src/platform/win32").rglob("*.[ch]*"))
+    return {name.lower() for name in re.findall(r"DLL Name: (\S+)", imports) + re.findall(r'L"(\w+\.(?:dll|ocx))"', sources)}
+
+
+class PlantedLibraries(ProgramTest):
+    def test_no_library_beside_the_programs_is_taken(self):
+        folder, taken = self.program.folder, self.desktop.prefix.drive_c / "taken"
+        names = names_of_libraries(folder / "burrowmark.exe", folder / "CopyAddress.exe")
+        self.assertLessEqual({"user32.dll", "mpr.dll", "winmm.dll", "netapi32.dll", CONTROL}, names)
+        # What these load in turn; on Windows they are the usual prey.
+        names |= {"uxtheme.dll", "propsys.dll", "dwmapi.dll", "cryptbase.dll", "version.dll", "windowscodecs.dll"}
+        for name in names:
+            subprocess.run([CROSS + "gcc", "-shared", "-nostdlib", "-s", "-Wl,-eDllMain", "-o", folder / name,
+                            REPOSITORY / "tests/acceptance/planted.c", "-lkernel32"], check=True)
+        taken.mkdir()
+        self.addCleanup(shutil.rmtree, taken)
+        self.start_with()
+        for keys, title in (("n", "Network Drives"), ("p", "Personal Network Info")):
+            self.desktop.exit_code(self.program.start_second("/OF"))
+            self.desktop.wait_window(FORM, "Organize Folders")
+            self.desktop.keys("alt+t", keys)
+            window = self.desktop.wait_window(FORM, title)
+            self.desktop.driver("close", window.handle)
+            self.desktop.wait_gone(window)
+        copy = self.desktop.start("C:\\Burrowmark\\CopyAddress.exe", "C:\\Some folder")
+        self.assertEqual(self.desktop.exit_code(copy), 0)
+        self.program.end()
+        self.assertEqual({path.name.lower() for path in taken.iterdir()}, {CONTROL})
