@@ -5,7 +5,6 @@ set -euo pipefail
 cd "$(dirname "$0")"
 . tools/setup.sh
 
-help_is_part=no # "yes" from when assets/help/Burrowmark.chm is part of the tree: without it nothing is packed then
 most_bytes=2621440
 
 need_packages "${BUILD_PACKAGES[@]}" "${WINDOWS_PACKAGES[@]}" "${PACKING_PACKAGES[@]}"
@@ -31,14 +30,7 @@ gather() {
 }
 
 programs=("$built/src/app/burrowmark.exe" "$built/src/app/CopyAddress.exe")
-beside=(assets/TIPOFDAY.TXT assets/folder_report.css assets/filecopy.avi assets/icons/BWMK.ico)
-help=assets/help/Burrowmark.chm
-if [ -f "$help" ]; then
-  beside+=("$help")
-elif [ $help_is_part = yes ]; then
-  say "$help is missing"
-  exit 1
-fi
+beside=(assets/TIPOFDAY.TXT assets/folder_report.css assets/filecopy.avi assets/icons/BWMK.ico assets/help/Burrowmark.chm)
 
 rm -rf build/packing
 [ "${1:-}" = set-up ] || rm -rf dist

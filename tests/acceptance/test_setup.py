@@ -13,7 +13,7 @@ SETUP = REPOSITORY / "dist/burrowmark-setup.exe"
 CLASSES = "Software\\Classes\\"
 RUN = "Software\\Microsoft\\Windows\\CurrentVersion\\Run"
 SETTINGS = KEY + "\\Settings"
-OWN_FILES = {"burrowmark.exe", "CopyAddress.exe", "BWMK.ico", "TIPOFDAY.TXT", "filecopy.avi", "folder_report.css",
+OWN_FILES = {"burrowmark.exe", "Burrowmark.chm", "CopyAddress.exe", "BWMK.ico", "TIPOFDAY.TXT", "filecopy.avi", "folder_report.css",
              "uninstall.exe"}
 DESKTOP_INI = "[.ShellClassInfo]\r\nIconFile = \"%s\"\r\nIconIndex = 0\r\nConfirmFileOp = 0\r\nOriginalIcon = %%\r\n" \
               "InfoTip = Contains shortcuts to your favorite folders.\r\n"
@@ -52,7 +52,7 @@ class SetUp(DesktopTest):
         return code
 
     def names(self, folder):
-        return {path.name for path in folder.iterdir()} - {"Burrowmark.chm"} if folder.exists() else set()
+        return {path.name for path in folder.iterdir()} if folder.exists() else set()
 
     def programs(self):
         return self.prefix.processes("burrowmark.exe")
