@@ -54,14 +54,14 @@ TEST_F(BesideContract, AHostHasAnAddressAndTheUserAName) {
 TEST_F(BesideContract, NobodyWaitsForWorkLongerThanHeSaid) {
   const auto worked = std::make_shared<std::atomic<int>>(0);
   const auto work = [worked] { ++*worked; };
-  EXPECT_TRUE(platform_.workers.RunWithin(3000, work));
+  EXPECT_TRUE(platform_.workers.RunWithin(20000, work));
   EXPECT_EQ(*worked, 1);
   EXPECT_FALSE(platform_.workers.RunWithin(20, system_->Slowly(work)));
   EXPECT_EQ(*worked, 1);
   system_->LetPass(600);
   EXPECT_EQ(*worked, 2) << "it goes on";
   EXPECT_FALSE(platform_.workers.RunAllWithin(20, {work, system_->Slowly(work)}));
-  EXPECT_TRUE(platform_.workers.RunAllWithin(3000, {work, work}));
+  EXPECT_TRUE(platform_.workers.RunAllWithin(20000, {work, work}));
 }
 
 }  // namespace
