@@ -4,9 +4,6 @@
 #include <cwctype>
 #include <vector>
 
-#include "ui/frame.h"
-#include "ui/label.h"
-
 namespace burrowmark {
 namespace {
 
@@ -22,10 +19,6 @@ std::wstring WithoutMark(const Control& control) {
   return text;
 }
 
-bool NamesOthers(const Control& control) {
-  return dynamic_cast<const Label*>(&control) != nullptr || dynamic_cast<const Frame*>(&control) != nullptr;
-}
-
 }  // namespace
 
 std::wstring AccessibleName(const Control& control) {
@@ -33,7 +26,7 @@ std::wstring AccessibleName(const Control& control) {
   const std::vector<Control*>& all = control.Parent().Site().Controls();
   for (auto ahead = std::find(all.rbegin(), all.rend(), &control); ahead != all.rend(); ++ahead) {
     if (&(*ahead)->Parent() != &control.Parent() || *ahead == &control) continue;
-    if (NamesOthers(**ahead)) return WithoutMark(**ahead);
+    if ((*ahead)->NamesNext()) return WithoutMark(**ahead);
     if ((*ahead)->TabStop() && (*ahead)->Visible()) break;
   }
   return {};

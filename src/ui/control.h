@@ -160,6 +160,8 @@ class Control : public virtual ControlState {
   // With the mark of its mnemonic, if it is of a kind that has one and uses it; none for a kind without a caption.
   virtual const std::wstring* CaptionText() const = 0;
   virtual bool MarksMnemonic() const = 0;
+  // Screen readers call the control behind it by its caption.
+  virtual bool NamesNext() const { return false; }
 
   void UserFocus(bool has) final;
   void UserMouse(MouseAction action, const MouseEvent& event) final;

@@ -17,6 +17,7 @@ class Label final : public ControlOf<LabelState, LabelPeer> {
   void SetTextAlignment(Alignment alignment);
   bool UseMnemonic() const override { return useMnemonic_; }
   void SetUseMnemonic(bool use);
+  bool NamesNext() const override { return true; }
 
  private:
   std::wstring caption_;
