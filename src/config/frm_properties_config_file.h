@@ -89,6 +89,7 @@ class frmPropertiesConfigFile final : public ProgramForm {
   TextBox txtComments{picSummary, L"txtComments", Box{1440, 1860, 4590, 2580}};
 
   PictureBox picStatistics{*this, L"picStatistics", Box{180, 480, 6240, 4620}};
+  Label lblStatistics{picStatistics, L"Statistics"};
   ListView lstStatistics{picStatistics, L"lstStatistics", Box{180, 180, 5850, 4260}};
 
   CommandButton cmdFinish{*this, L"cmdFinish", Box{3930, 5370, 1215, 375}, L"OK"};

@@ -4,16 +4,8 @@
 
 #include "core/file_names.h"
 #include "core/folder_tests.h"
-#include "core/program_form.h"
-#include "dialogs/folder_tree.h"
 #include "dialogs/new_folder.h"
 #include "platform/drive_letter.h"
-#include "ui/check_box.h"
-#include "ui/command_button.h"
-#include "ui/label.h"
-#include "ui/text_box.h"
-#include "ui/timer.h"
-#include "ui/tree_view.h"
 
 namespace burrowmark {
 namespace {
@@ -53,38 +45,7 @@ bool IsHalfTyped(const std::wstring& text) {
   return path.starts_with(L"\\\\") && path.find_first_of(L"\\/", 2) == std::wstring::npos;
 }
 
-class frmBrowseFolder final : public ProgramForm {
- public:
-  frmBrowseFolder(Application& app, const BrowseParameters& parameters);
-
-  std::wstring Chosen;
-  bool IncludesSubfolders() const { return chkSubfolders.Value() == kChecked; }
-
- private:
-  void Form_Load() override;
-  void Form_Resize() override;
-  void PlaceButtons(std::int32_t top);
-
-  void ShowFolder(const std::wstring& path);
-  void LookForTyped();
-  bool IsThere(const std::wstring& path);
-  void MakeFolder();
-  void Accept();
-
-  Label lblPrompt{*this, L"lblPrompt", Box{kEdge, 150, kClient.width - 2 * kEdge, kTextHeight}};
-  TreeView tvFolders{*this, L"tvFolders", Box{kEdge, 480, 5340, 4200}};
-  Label lblFolder{*this, L"lblFolder", Box{kEdge, 4860, kLabelWidth, kTextHeight}, L"&Folder :"};
-  TextBox txtFolder{*this, L"txtFolder", Box{kEdge + kLabelWidth, 4800, 4560, kBoxHeight}};
-  CheckBox chkSubfolders{*this, L"chkSubfolders", Box{kEdge, 5250, 5340, 255}, {}};
-  CommandButton cmdNewFolder{*this, L"cmdNewFolder", Box{kEdge, 5700, 1500, kButton.height}, {}};
-  CommandButton cmdOK{*this, L"cmdOK", Box{2970, 5700, kButton.width, kButton.height}, {}};
-  CommandButton cmdCancel{*this, L"cmdCancel", Box{4305, 5700, kButton.width, kButton.height}, {}};
-
-  FolderTree tree_{app_, tvFolders};
-  Timer tmrTyped{app_.platform.windows};
-  std::wstring start_;
-  bool showing_ = false;  // a folder by code, not what the user typed
-};
+}  // namespace
 
 frmBrowseFolder::frmBrowseFolder(Application& app, const BrowseParameters& parameters)
     : ProgramForm(app, ProgramWindow::kBrowseFolder, L"frmBrowseFolder", kClient),
@@ -198,8 +159,6 @@ void frmBrowseFolder::Accept() {
   Chosen = folder;
   Unload();
 }
-
-}  // namespace
 
 std::wstring BrowseForFolder(Application& app, Form& owner, BrowseParameters& parameters) {
   frmBrowseFolder dialog(app, parameters);

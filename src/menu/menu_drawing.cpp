@@ -25,6 +25,8 @@ constexpr Color kNearBlack = 0x80000007;
 constexpr std::int32_t kColorHighlightText = 14;
 constexpr Color kDarkBackground = 0x2B2B2B;
 constexpr Color kDarkText = 0xFFFFFF;
+constexpr Color kDarkShadow = 0x151515;
+constexpr Color kDarkHighlight = 0x555555;
 
 // Draws one entry. Its rectangle's edges are `l_`, `t_`, `r_` and `b_`.
 class EntryDrawing {
@@ -76,7 +78,11 @@ class EntryDrawing {
   }
 
   // The 3-D highlight must be told from what the menu is filled with.
-  bool IconFrameAllowed() const { return drawing_.GetSysColor(kColor3DHighlight) != MenuBackground(drawing_, look_); }
+  bool IconFrameAllowed() const { return Highlight() != MenuBackground(drawing_, look_); }
+
+  // The system's are made for a light ground.
+  Color Shadow() const { return look_.Dark ? kDarkShadow : drawing_.GetSysColor(kColorShadow); }
+  Color Highlight() const { return look_.Dark ? kDarkHighlight : drawing_.GetSysColor(kColor3DHighlight); }
 
   void DrawBar() {
     const bool frame = look_.ShowIcons && IconFrameAllowed();
@@ -85,8 +91,8 @@ class EntryDrawing {
   }
 
   void DrawIconFrame() {
-    const Color light = drawing_.GetSysColor(kColor3DHighlight);
-    const Color dark = drawing_.GetSysColor(kColorShadow);
+    const Color light = Highlight();
+    const Color dark = Shadow();
     Fill({l_, t_, l_ + Scaled(22), t_ + Scaled(1)}, light);
     Fill({l_, t_, l_ + Scaled(1), t_ + Scaled(18)}, light);
     Fill({l_ + Scaled(22), t_, l_ + Scaled(23), t_ + Scaled(19)}, dark);
@@ -107,8 +113,8 @@ class EntryDrawing {
 
   // A shadow over a highlight.
   void DrawLine(std::int32_t left, std::int32_t right) {
-    Fill({left, t_ + Scaled(4), right, t_ + Scaled(5)}, drawing_.GetSysColor(kColorShadow));
-    Fill({left, t_ + Scaled(5), right, t_ + Scaled(6)}, drawing_.GetSysColor(kColor3DHighlight));
+    Fill({left, t_ + Scaled(4), right, t_ + Scaled(5)}, Shadow());
+    Fill({left, t_ + Scaled(5), right, t_ + Scaled(6)}, Highlight());
   }
 
   void DrawTitle(const Rect& rect, std::uint32_t format) {

@@ -43,20 +43,22 @@ void SystemTray::ScaleChanged() {
 }
 
 void SystemTray::Form_MouseMove(std::uint32_t mouseMessage) {
-  if (mouseMessage != kMessageLeftButtonUp && mouseMessage != kMessageRightButtonUp) return;
+  const bool byKey = mouseMessage == kMessageTrayKey || mouseMessage == kMessageContextMenu;
+  if (!byKey && mouseMessage != kMessageLeftButtonUp && mouseMessage != kMessageRightButtonUp) return;
+  // The system also tells of the mouse's right button as of a key, and of a key twice: the menu is up by then.
   if (app_.Requests.IsBusyWith(BusyWith::kMenu)) return;
   if (app_.Windows.Innermost() != nullptr || app_.Requests.IsBusy()) {
     app_.BringForward();
   } else {
-    ShowMainMenu();
+    ShowMainMenu(byKey);
   }
   // An empty message lets the popup go away properly after a click elsewhere.
   app_.platform.windows.PostMessageA(app_.MainWindow, kMessageNull, 0, 0);
 }
 
 // The system measures an entry once; on a screen of another scale the menu is made anew.
-void SystemTray::FitToScreen() {
-  if (!menu_.SetScale(app_.platform.windows.MouseScreenDpi())) return;
+void SystemTray::FitToScreen(std::int32_t dpi) {
+  if (!menu_.SetScale(dpi)) return;
   menu_.UnhookMenuWindow();
   RebuildMainMenu(app_);
   menu_.HookMenuWindow();
@@ -78,19 +80,21 @@ void SystemTray::BringDrivesUpToDate() {
 }
 
 // What the user takes is the item that stood there when the menu went up.
-void SystemTray::ShowMainMenu() {
+void SystemTray::ShowMainMenu(bool byKey) {
   std::shared_ptr<clsMenuCollection> store;
   std::int32_t number = 0;
   {
     const Busy showing(app_.Requests, BusyWith::kMenu, [this] { app_.platform.windows.CancelModes(); });
-    FitToScreen();
+    std::optional<Rect> icon;
+    if (byKey) icon = app_.platform.shell.Shell_NotifyIconGetRect(app_.MainWindow, kTrayId);
+    FitToScreen(icon ? app_.platform.windows.MainScreenDpi() : app_.platform.windows.MouseScreenDpi());
     BringDrivesUpToDate();
     if (app_.Requests.IsEnding()) return;
     app_.platform.windows.SetForegroundWindow(app_.MainWindow);
     store = app_.MainDocument.Store;
     Menus& menus = app_.platform.menus;
     const MenuHandle root = menus.GetSubMenu(menus.GetMenu(app_.MainWindow), 0);
-    number = menus.TrackPopupMenu(root, app_.MainWindow, menu_.ChooseColors());
+    number = menus.TrackPopupMenu(root, app_.MainWindow, menu_.ChooseColors(), icon);
   }
   const ItemRef item = number == 0 ? nullptr : store->GetMenuItemFromID(number);
   if (item) MenuItemChosen(app_, store, item);

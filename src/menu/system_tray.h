@@ -15,14 +15,15 @@ class SystemTray {
   void Delete();
   // The screen with the task bar has another scale now.
   void ScaleChanged();
-  // The mouse over the icon: a button that goes up brings the open window forward or shows the menu.
+  // The mouse over the icon, or a key: a button that goes up brings the open window forward or shows the menu, and so
+  // does a key, which shows the menu at the icon.
   void Form_MouseMove(std::uint32_t mouseMessage);
-  void ShowMainMenu();
+  void ShowMainMenu(bool byKey);
 
  private:
   TrayIcon Record(std::uint32_t flags) const;
   void BringOpenWindowForward();
-  void FitToScreen();
+  void FitToScreen(std::int32_t dpi);
   void BringDrivesUpToDate();
 
   Application& app_;

@@ -67,14 +67,17 @@ class frmOptions final : public ProgramForm {
   TabStrip SSTab1{*this, L"SSTab1", Box{120, 120, 6720, 5250}, {L"General", L"Appearance", L"Advanced"}};
   // The pages of the tabs; they lie where the strip leaves room.
   PictureBox picGeneral{*this, L"picGeneral", Box{180, 480, 6600, 4830}};
+  Label lblGeneral{picGeneral, L"General options"};
   TreeView tvGeneral{picGeneral, L"tvGeneral", Box{180, 180, 6330, 2715}};
   Frame fraGeneral{picGeneral, L"fraGeneral", Box{180, 3000, 6330, 1680}, L"Description"};
   Label lblInfGeneral{fraGeneral, L"lblInfGeneral", Box{180, 300, 5970, 1260}};
   PictureBox picAppearance{*this, L"picAppearance", Box{180, 480, 6600, 4830}};
+  Label lblAppearance{picAppearance, L"Appearance options"};
   TreeView tvAppearance{picAppearance, L"tvAppearance", Box{180, 180, 6330, 2715}};
   Frame fraAppearance{picAppearance, L"fraAppearance", Box{180, 3000, 6330, 1680}, L"Description"};
   Label lblInfAppearance{fraAppearance, L"lblInfAppearance", Box{180, 300, 5970, 1260}};
   PictureBox picAdvanced{*this, L"picAdvanced", Box{180, 480, 6600, 4830}};
+  Label lblAdvanced{picAdvanced, L"Advanced options"};
   TreeView tvAdvanced{picAdvanced, L"tvAdvanced", Box{180, 180, 6330, 2715}};
   Frame fraAdvanced{picAdvanced, L"fraAdvanced", Box{180, 3000, 6330, 1680}, L"Description"};
   Label lblInfAdvanced{fraAdvanced, L"lblInfAdvanced", Box{180, 300, 5970, 1260}};

@@ -49,7 +49,8 @@ std::wstring DateText(Date date, const SystemFacts& system) {
 
 ListPane::ListPane(ControlParent& form, Application& app, const Document& document,
                    const std::set<std::wstring>& cutKeys)
-    : txtInfoDrives(form, L"txtInfoDrives", Box{}, kDrivesText),
+    : lblView(form, L"Content"),
+      txtInfoDrives(form, L"txtInfoDrives", Box{}, kDrivesText),
       View(form, L"ListView1", Box{}),
       app_(app),
       document_(document),

@@ -9,6 +9,7 @@
 #include "core/application.h"
 #include "core/column_sort.h"
 #include "organize/tree_edit.h"
+#include "ui/label.h"
 #include "ui/list_view.h"
 #include "ui/text_box.h"
 
@@ -20,6 +21,7 @@ class ListPane {
   // All must outlive the pane.
   ListPane(ControlParent& form, Application& app, const Document& document, const std::set<std::wstring>& cutKeys);
 
+  Label lblView;
   TextBox txtInfoDrives;  // stands in the list's place while the Drives group is shown
   ListView View;
 

@@ -23,7 +23,7 @@ void Write(TreeNode& node, const clsMenuItem& item) {
 }  // namespace
 
 TreePane::TreePane(ControlParent& form, const Document& document, const std::set<std::wstring>& cutKeys)
-    : View(form, L"TreeView1", Box{}), document_(document), cutKeys_(cutKeys) {
+    : lblView(form, L"Groups"), View(form, L"TreeView1", Box{}), document_(document), cutKeys_(cutKeys) {
   View.SetImages(ItemImages());
   View.SetLabelEdit(true);
 }

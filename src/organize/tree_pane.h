@@ -6,6 +6,7 @@
 
 #include "core/document.h"
 #include "organize/tree_edit.h"
+#include "ui/label.h"
 #include "ui/tree_view.h"
 
 namespace burrowmark {
@@ -16,6 +17,7 @@ class TreePane {
   // The document and the keys of what is grey must outlive the pane.
   TreePane(ControlParent& form, const Document& document, const std::set<std::wstring>& cutKeys);
 
+  Label lblView;
   TreeView View;
   bool AllLeft = true;  // shortcuts have nodes too; those of the top level always have
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 #include "platform/drawing.h"
@@ -47,9 +48,10 @@ class Menus {
   // Command number of an entry; -1 for one with a popup.
   virtual std::int32_t GetMenuItemID(MenuHandle menu, std::int32_t position) = 0;
 
-  // Shows a popup at the mouse and returns when it is gone: the command number of what was chosen, 0 for nothing.
-  // `background` is the colour behind its entries and those of all popups below it.
-  virtual std::int32_t TrackPopupMenu(MenuHandle menu, WindowHandle window, Color background) = 0;
+  // Shows a popup at the mouse, or beside a place on the screen, and returns when it is gone: the command number of
+  // what was chosen, 0 for nothing. `background` is the colour behind its entries and those of all popups below it.
+  virtual std::int32_t TrackPopupMenu(MenuHandle menu, WindowHandle window, Color background,
+                                      const std::optional<Rect>& beside) = 0;
 };
 
 }  // namespace burrowmark

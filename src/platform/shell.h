@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 #include "platform/drawing.h"
@@ -22,10 +23,10 @@ inline constexpr std::uint32_t kTrayHasIcon = 2;
 inline constexpr std::uint32_t kTrayHasTip = 4;
 
 struct TrayIcon {
-  WindowHandle window = 0;  // hears of the mouse
+  WindowHandle window = 0;  // hears of the mouse and of keys
   std::uint32_t id = 0;
   std::uint32_t flags = 0;
-  std::uint32_t callbackMessage = 0;  // what it hears, with the mouse's message as its value
+  std::uint32_t callbackMessage = 0;  // what it hears, with the mouse's message, or a key's, as its value
   IconHandle icon = 0;
   std::wstring tip;  // at most 63 characters
 };
@@ -52,6 +53,8 @@ class Shell {
                                      const std::wstring& directory, std::int32_t show) = 0;
   // False if there is no task bar, or it refuses.
   virtual bool Shell_NotifyIconA(std::uint32_t message, const TrayIcon& icon) = 0;
+  // Where the icon is on the screen; none where the system doesn't tell.
+  virtual std::optional<Rect> Shell_NotifyIconGetRect(WindowHandle window, std::uint32_t id) = 0;
   // Opens a help file; for kHelpPage the path ends in "::/" and the name of the page. False if it can't.
   virtual bool HtmlHelpA(const std::wstring& path, std::int32_t command) = 0;
   // Reads a shortcut file as it stands, without looking for its target. False if it is none, or leads to no file.

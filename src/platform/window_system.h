@@ -19,11 +19,13 @@ inline constexpr std::uint32_t kMessageCancelMode = 31;
 inline constexpr std::uint32_t kMessageDrawItem = 43;
 inline constexpr std::uint32_t kMessageMeasureItem = 44;
 inline constexpr std::uint32_t kMessageCopyData = 74;
+inline constexpr std::uint32_t kMessageContextMenu = 123;  // of the tray: its icon's menu by the mouse or a key
 inline constexpr std::uint32_t kMessageMenuChar = 288;
 inline constexpr std::uint32_t kMessageMenuRightButtonUp = 290;
 inline constexpr std::uint32_t kMessageMouseMove = 512;
 inline constexpr std::uint32_t kMessageLeftButtonUp = 514;
 inline constexpr std::uint32_t kMessageRightButtonUp = 517;
+inline constexpr std::uint32_t kMessageTrayKey = 1025;  // Enter or Space on the tray icon
 
 // Kind of control of a measure or draw record that is a menu's entry.
 inline constexpr std::uint32_t kControlMenu = 1;
@@ -63,7 +65,7 @@ struct MessageResult {
 
 // What the hidden main window hears of by itself. A handler that is empty isn't called.
 struct MainWindowEvents {
-  std::function<void(std::uint32_t mouseMessage)> TrayMouse;  // the mouse over the tray icon
+  std::function<void(std::uint32_t mouseMessage)> TrayMouse;  // the mouse over the tray icon, or a key
   std::function<void()> TaskbarCreated;                       // the task bar is there, for the first time or again
   std::function<void(std::int32_t dpi)> DpiChanged;           // of the screen that it is on, the main one
   // The user's session ends for good. The window may be gone before anything else runs.

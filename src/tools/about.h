@@ -17,8 +17,6 @@ class frmAbout final : public ProgramForm {
   void StartSystemInformation();
 
   CommandButton cmdOK{*this, L"cmdOK", Box{5205, 3030, 1215, 375}, L"OK"};
-  CommandButton cmdWebSite{*this, L"cmdWebSite", Box{2550, 3030, 1215, 375}, L"&Web Site"};
-  CommandButton cmdSysInfo{*this, L"cmdSysInfo", Box{240, 3030, 2190, 375}, L"&System Information..."};
 
   PictureBox picTop{*this, L"picTop", Box{0, 0, 6660, 1230}};
   PictureBox picIcon{picTop, L"picIcon", Box{240, 255, 720, 720}};
@@ -33,6 +31,8 @@ class frmAbout final : public ProgramForm {
   TextBox txtProgram{*this, L"txtProgram", Box{1500, 1920, 4920, 315}};
   Label lblTree{*this, L"lblTree", Box{240, 2430, 1200, 225}, L"Your folders:"};
   TextBox txtTree{*this, L"txtTree", Box{1500, 2370, 4920, 315}};
+  CommandButton cmdSysInfo{*this, L"cmdSysInfo", Box{240, 3030, 2190, 375}, L"&System Information..."};
+  CommandButton cmdWebSite{*this, L"cmdWebSite", Box{2550, 3030, 1215, 375}, L"&Web Site"};
 };
 
 }  // namespace burrowmark

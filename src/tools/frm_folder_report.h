@@ -136,6 +136,7 @@ class frmFolderReport final : public ProgramForm {
       {picDelimiter, L"optDelimiterChar(4)", Box{360, 2070, 2700, 285}, L"Sp&ace"},
       {picDelimiter, L"optDelimiterChar(5)", Box{360, 2415, 1020, 285}, L"&Other:"},
   };
+  Label lblDelimiterChar{picDelimiter, L"Other delimiter"};
   TextBox txtDelimiterChar{picDelimiter, L"txtDelimiterChar", Box{1440, 2400, 900, 315}};
 
   PictureBox picDestination{*this, L"picDestination", Box{0, 990, 7560, 3540}};
@@ -145,6 +146,7 @@ class frmFolderReport final : public ProgramForm {
       {picDestination, L"optDestination(0)", Box{360, 690, 6840, 285}, L"Send it to the &Clipboard"},
       {picDestination, L"optDestination(1)", Box{360, 1035, 6840, 285}, L"&Save it in a file (HTML, CSV, TXT, ...)"},
   };
+  Label lblPath{picDestination, L"File"};
   TextBox txtPath{picDestination, L"txtPath", Box{660, 1410, 5190, 315}};
   CommandButton cmdBrowse{picDestination, L"cmdBrowse", Box{5985, 1380, 1215, 375}, L"B&rowse..."};
   CommandButton cmdPreview{picDestination, L"cmdPreview", Box{360, 2070, 1215, 375}, L"&Preview"};

@@ -9,6 +9,7 @@
 #include "core/command_row.h"
 #include "core/program_form.h"
 #include "tools/network_drives.h"
+#include "ui/label.h"
 #include "ui/list_view.h"
 #include "ui/menu.h"
 #include "ui/status_bar.h"
@@ -58,6 +59,7 @@ class frmNetworkDrives final : public ProgramForm {
   std::int32_t waiting_ = 0;  // rows of which nothing is known yet
   bool ItemClicked_ = false;
 
+  Label lblList{*this, L"Network drives"};
   ListView lvwMain{*this, L"lvwMain", Box{}};
   Toolbar tlbMain;
   StatusBar stbMain;

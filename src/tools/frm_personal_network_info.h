@@ -6,6 +6,7 @@
 
 #include "core/program_form.h"
 #include "ui/command_button.h"
+#include "ui/label.h"
 #include "ui/list_view.h"
 #include "ui/menu.h"
 #include "ui/picture_box.h"
@@ -38,6 +39,7 @@ class frmPersonalNetworkInfo final : public ProgramForm {
   TabStrip SSTab1{*this, L"SSTab1", Box{120, 120, 6360, 3690}, {L"General"}};
   // The page of the tab; it lies where the strip leaves room.
   PictureBox picPage{*this, L"picPage", Box{180, 480, 6240, 3240}};
+  Label lblList{picPage, L"Network information"};
   ListView lvwMain{picPage, L"lvwMain", Box{120, 120, 6000, 3000}};
   CommandButton cmdCopyToClipboard{*this, L"cmdCopyToClipboard", Box{120, 3990, 2100, 375}, L"&Copy to Clipboard"};
   CommandButton cmdFinish{*this, L"cmdFinish", Box{5265, 3990, 1215, 375}, L"Close"};

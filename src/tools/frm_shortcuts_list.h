@@ -13,6 +13,7 @@
 #include "core/form_services.h"
 #include "core/program_form.h"
 #include "tools/target_tests.h"
+#include "ui/label.h"
 #include "ui/list_view.h"
 #include "ui/menu.h"
 #include "ui/status_bar.h"
@@ -81,6 +82,7 @@ class frmShortcutsList final : public ProgramForm {
   std::set<std::wstring> silent_;      // keys of the rows whose server didn't answer
   std::optional<Hourglass> deleting_;  // the dead ones are tested once more; no command runs meanwhile
 
+  Label lblList{*this, L"Shortcuts"};
   ListView ListView1{*this, L"ListView1", Box{}};
   ColumnSort sort_{ListView1, 1};
   Toolbar tlbMain;

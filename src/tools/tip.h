@@ -31,15 +31,16 @@ class frmTip final : public ProgramForm {
   std::vector<std::wstring> tips_;
   std::int16_t current_ = 1;
 
+  // The first one has the focus when the window opens.
   CommandButton cmdNextTip{*this, L"cmdNextTip", Box{4050, 2805, 1215, 375}, L"&Next >"};
-  CommandButton cmdPreviousTip{*this, L"cmdPreviousTip", Box{2835, 2805, 1215, 375}, L"< &Previous"};
   CommandButton cmdOK{*this, L"cmdOK", Box{5400, 2805, 1215, 375}, L"&Close"};
-  CheckBox chkLoadTipsAtStartup{*this, L"chkLoadTipsAtStartup", Box{120, 2385, 6495, 300},
-                                L"&Show Tips when opening Organize Folders window"};
   PictureBox picPage{*this, L"picPage", Box{0, 0, 6735, 2220}};
   PictureBox Picture1{picPage, L"Picture1", Box{180, 240, 480, 480}};
   Label lblTipNum{picPage, L"lblTipNum", Box{840, 270, 5715, 240}};
   TextBox txtTip{picPage, L"txtTip", Box{840, 660, 5715, 1320}};
+  CheckBox chkLoadTipsAtStartup{*this, L"chkLoadTipsAtStartup", Box{120, 2385, 6495, 300},
+                                L"&Show Tips when opening Organize Folders window"};
+  CommandButton cmdPreviousTip{*this, L"cmdPreviousTip", Box{2835, 2805, 1215, 375}, L"< &Previous"};
 };
 
 }  // namespace burrowmark

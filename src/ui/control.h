@@ -157,6 +157,11 @@ class Control : public virtual ControlState {
   virtual bool UsesKey(std::int32_t, std::int32_t) const { return false; }
   // What its caption needs at the scale of now; 0 without a caption, and while the form isn't loaded.
   virtual Size NeededSize() const = 0;
+  // With the mark of its mnemonic, if it is of a kind that has one and uses it; none for a kind without a caption.
+  virtual const std::wstring* CaptionText() const = 0;
+  virtual bool MarksMnemonic() const = 0;
+  // Screen readers call the control behind it by its caption.
+  virtual bool NamesNext() const { return false; }
 
   void UserFocus(bool has) final;
   void UserMouse(MouseAction action, const MouseEvent& event) final;
@@ -218,14 +223,26 @@ class ControlOf : public Control, public State {
   // None while the form isn't loaded.
   KindPeer* KindsPeer() const { return peer_.get(); }
   Size NeededSize() const final {
-    if constexpr (std::is_base_of_v<CaptionPeer, KindPeer>) {
+    if constexpr (kHasCaption) {
       if (peer_) return peer_->NeededSize();
     }
     return {};
   }
+  const std::wstring* CaptionText() const final {
+    if constexpr (kHasCaption) return &static_cast<const State&>(*this).Caption();
+    return nullptr;
+  }
+  bool MarksMnemonic() const final {
+    if constexpr (requires(const State& state) { state.UseMnemonic(); }) {
+      return static_cast<const State&>(*this).UseMnemonic();
+    }
+    return kHasCaption;
+  }
   ControlPeer* ThePeer() const final { return peer_.get(); }
 
  private:
+  static constexpr bool kHasCaption = std::is_base_of_v<CaptionPeer, KindPeer>;
+
   void MakePeer(Peers& peers) final { peer_ = peers.MakePeer(Parent().Window(), static_cast<State&>(*this)); }
   std::unique_ptr<ControlPeer> TakePeer() final { return std::move(peer_); }
 

@@ -12,6 +12,7 @@ class Frame final : public ContainerOf<FrameState, FramePeer> {
 
   const std::wstring& Caption() const override { return caption_; }
   void SetCaption(std::wstring_view caption);
+  bool NamesNext() const override { return true; }
 
  private:
   std::wstring caption_;

@@ -7,6 +7,8 @@ Label::Label(ControlParent& parent, const wchar_t* name, const Box& place, std::
   StartWithoutTabStop();
 }
 
+Label::Label(ControlParent& parent, const wchar_t* spoken) : Label(parent, L"", Box{}, spoken) { SetVisible(false); }
+
 void Label::SetCaption(std::wstring_view caption) {
   if (Assign(caption_, std::wstring(caption))) Tell(&LabelPeer::CaptionChanged);
 }

@@ -8,6 +8,8 @@ namespace burrowmark {
 class Label final : public ControlOf<LabelState, LabelPeer> {
  public:
   Label(ControlParent& parent, const wchar_t* name, const Box& place, std::wstring_view caption = {});
+  // One that shows nowhere: screen readers call the control behind it so.
+  Label(ControlParent& parent, const wchar_t* spoken);
 
   const std::wstring& Caption() const override { return caption_; }
   void SetCaption(std::wstring_view caption);
@@ -15,6 +17,7 @@ class Label final : public ControlOf<LabelState, LabelPeer> {
   void SetTextAlignment(Alignment alignment);
   bool UseMnemonic() const override { return useMnemonic_; }
   void SetUseMnemonic(bool use);
+  bool NamesNext() const override { return true; }
 
  private:
   std::wstring caption_;

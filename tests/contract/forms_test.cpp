@@ -143,6 +143,20 @@ TEST_F(FormsContract, AButtonIsPressedByMouseKeysAndCode) {
   EXPECT_EQ(Heard(), Texts({"First one"}));
 }
 
+TEST_F(FormsContract, WhatIsDisabledHandsItsFocusOn) {
+  form_.Show();
+  form_.cmdThree.SetFocus();
+  form_.cmdTwo.SetEnabled(false);
+  EXPECT_TRUE(form_.cmdThree.HasFocus()) << "somebody else's";
+  form_.cmdThree.SetEnabled(false);
+  EXPECT_TRUE(screen_.HasFocus(form_.cmdOne.Window())) << "the next one behind the last is the first";
+  form_.cmdThree.SetEnabled(true);
+  form_.cmdTwo.SetEnabled(true);
+  form_.cmdThree.SetDefault(true);
+  form_.cmdOne.SetEnabled(false);
+  EXPECT_TRUE(screen_.HasFocus(form_.cmdThree.Window())) << "from a button to the one that Enter presses";
+}
+
 TEST_F(FormsContract, NobodyPressesAButtonThatIsDisabledOrHidden) {
   form_.cmdOne.SetDefault(true);
   form_.cmdOne.SetEnabled(false);

@@ -70,6 +70,7 @@ TEST_F(ShellContract, AnIconThatIsNotThereIsNeitherChangedNorDeleted) {
   icon.flags = kTrayHasMessage;
   EXPECT_FALSE(shell_.Shell_NotifyIconA(kTrayModify, icon));
   EXPECT_FALSE(shell_.Shell_NotifyIconA(kTrayDelete, icon));
+  EXPECT_EQ(shell_.Shell_NotifyIconGetRect(icon.window, icon.id), std::nullopt);
 }
 
 #ifdef _WIN32  // the local machine launches whatever it is told, and answers as its test wants it

@@ -1,4 +1,4 @@
-// How toolbars and status bars stand on the real system: of no concern to any other system.
+// How bars and lists stand on the real system: of no concern to any other system.
 #include <gtest/gtest.h>
 #include <windows.h>
 
@@ -9,6 +9,7 @@
 #include "platform/win32/handles.h"
 #include "platform/win32/win32_platform.h"
 #include "ui/form.h"
+#include "ui/list_view.h"
 #include "ui/status_bar.h"
 #include "ui/toolbar.h"
 
@@ -42,6 +43,7 @@ class Win32Bars : public ::testing::Test {
                {{L"one", ToolbarButtonStyle::kButton, L"One", L"The first", 1, true, {}},
                 {L"two", ToolbarButtonStyle::kDropDown, L"Two", L"The second", 2, true, {{L"a", L"Entry"}}}}};
   StatusBar status_{form_, L"stb", {{L"First", 0, 1500}, {L"Spring", 0, 0}, {L"Last", 0, 750}}};
+  ListView list_{form_, L"lvw", Box{0, 600, 3000, 1500}};
 };
 
 TEST_F(Win32Bars, OnePanelTakesWhatTheOthersLeave) {
@@ -63,6 +65,28 @@ TEST_F(Win32Bars, ImagesHaveTheSizeOfTheScaleAndTheirOwnPlaces) {
     EXPECT_EQ((Size{width, height}), (Size{32, 32}));
     EXPECT_EQ(::ImageList_GetImageCount(list), 3) << "an empty one ahead of them";
   }
+}
+
+// A button has its name for screen readers without a row of texts too.
+TEST_F(Win32Bars, AButtonWithoutTextIsCalledByItsTip) {
+  bar_.SetButtonText(0, L"", L"The first");
+  bar_.SetButtonText(1, L"", L"The second");
+  wchar_t text[20] = {};
+  ::SendMessageW(ToHwnd(bar_.Window()), TB_GETBUTTONTEXTW, 1, reinterpret_cast<LPARAM>(text));
+  EXPECT_STREQ(text, L"The first");
+  EXPECT_EQ(::SendMessageW(ToHwnd(bar_.Window()), TB_GETTEXTROWS, 0, 0), 0);
+}
+
+// The user's colours are told to windows of the first level alone.
+TEST_F(Win32Bars, AListFollowsTheUsersColours) {
+  constexpr INT kElement = COLOR_WINDOW;
+  const COLORREF before = ::GetSysColor(kElement);
+  const COLORREF other = RGB(10, 20, 30);
+  ::SetSysColors(1, &kElement, &other);
+  platform_.windows.DoEvents();
+  EXPECT_EQ(static_cast<COLORREF>(::SendMessageW(ToHwnd(list_.Window()), LVM_GETBKCOLOR, 0, 0)), other);
+  ::SetSysColors(1, &kElement, &before);
+  platform_.windows.DoEvents();
 }
 
 TEST_F(Win32Bars, ATipIsAskedForAndCut) {

@@ -218,6 +218,15 @@ TEST_F(MenuInUse, WhereAppsAreDarkTheMenuIsUnlessTheSystemsColoursSayMore) {
   EXPECT_EQ(scene_.menu.ChooseColors(), 0x202020U);
 }
 
+TEST_F(MenuInUse, OpenedByAKeyItStandsAtTheIcon) {
+  Start();
+  machine_.user.NextMenu(MenuActions().Cancel());
+  machine_.user.PressTray();
+  EXPECT_EQ(machine_.menus.Beside, LocalShell::kTrayPlace);
+  scene_.Choose(MenuActions().Cancel());
+  EXPECT_EQ(machine_.menus.Beside, std::nullopt);
+}
+
 TEST_F(MenuInUse, OnAScreenOfAnotherScaleTheMenuIsMeasuredAnew) {
   Start();
   for (const std::int32_t dpi : {96, 192}) {

@@ -106,10 +106,10 @@ TEST_F(LocalMachineTest, AMenuThatIsNotAsExpectedFailsAndIsMeasuredOnceForEachCh
   const auto open = [&](const MenuActions& actions) {
     measured = 0;
     user_.NextMenu(actions);
-    menus.TrackPopupMenu(root, window, 0);
+    menus.TrackPopupMenu(root, window, 0, {});
     return measured;
   };
-  EXPECT_NE(Complaint([&] { menus.TrackPopupMenu(root, window, 0); }).find("nobody expected"), std::string::npos);
+  EXPECT_NE(Complaint([&] { menus.TrackPopupMenu(root, window, 0, {}); }).find("nobody expected"), std::string::npos);
   for (const MenuActions& actions : {MenuActions{L"Nowhere"}, MenuActions({L"Alpha"}).Press(MenuKey::kDown)}) {
     EXPECT_NE(Complaint([&] { open(actions); }), "");
   }

@@ -28,6 +28,12 @@ std::int32_t LocalShell::ShellExecuteA(const std::wstring& verb, const std::wstr
   return result;
 }
 
+std::optional<Rect> LocalShell::Shell_NotifyIconGetRect(WindowHandle window, std::uint32_t id) {
+  const bool isThere = std::any_of(icons_.begin(), icons_.end(),
+                                   [=](const TrayIcon& icon) { return icon.window == window && icon.id == id; });
+  return isThere ? std::optional(kTrayPlace) : std::nullopt;
+}
+
 bool LocalShell::Shell_NotifyIconA(std::uint32_t message, const TrayIcon& icon) {
   if (faults_.Strikes("Shell_NotifyIconA", icon.tip) || !HasTaskBar || icon.window == 0) return false;
   const auto found = std::find_if(icons_.begin(), icons_.end(), [&icon](const TrayIcon& known) {

@@ -43,6 +43,7 @@ class LocalShell final : public Shell {
   bool HasTaskBar = true;
   bool HasRecycleBin = true;
 
+  static constexpr Rect kTrayPlace{1880, 1050, 1904, 1074};  // of every icon
   // The first icon of the tray; none if there is none.
   const TrayIcon* Tray() const { return icons_.empty() ? nullptr : &icons_.front(); }
   const std::vector<TrayIcon>& TrayIcons() const { return icons_; }
@@ -52,6 +53,7 @@ class LocalShell final : public Shell {
   std::int32_t ShellExecuteA(const std::wstring& verb, const std::wstring& file, const std::wstring& parameters,
                              const std::wstring& directory, std::int32_t show) override;
   bool Shell_NotifyIconA(std::uint32_t message, const TrayIcon& icon) override;
+  std::optional<Rect> Shell_NotifyIconGetRect(WindowHandle window, std::uint32_t id) override;
   bool HtmlHelpA(const std::wstring& path, std::int32_t command) override;
   bool ReadShellLink(const std::wstring& path, ShellLink& link) override;
   bool WriteShellLink(const std::wstring& path, const ShellLink& link) override;

@@ -86,7 +86,9 @@ void LocalMenus::Play(PopupRun& run, const std::vector<MenuAction>& actions) {
   if (run.IsOpen()) user_.Complain("the menu is still open");
 }
 
-std::int32_t LocalMenus::TrackPopupMenu(MenuHandle menu, WindowHandle window, Color background) {
+std::int32_t LocalMenus::TrackPopupMenu(MenuHandle menu, WindowHandle window, Color background,
+                                        const std::optional<Rect>& beside) {
+  Beside = beside;
   if (showing_ || !tree_.Exists(menu) || window == 0 || window != windows_.Main()) return 0;
   const MenuActions actions = user_.TakeMenu();
   PopupRun run(tree_, windows_, drawing_, {window, SelectedState(), background});

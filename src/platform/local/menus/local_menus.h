@@ -42,7 +42,10 @@ class LocalMenus final : public Menus {
   bool DeleteMenu(MenuHandle menu, std::int32_t position, std::int32_t flags) override;
   std::int32_t GetMenuItemCount(MenuHandle menu) override;
   std::int32_t GetMenuItemID(MenuHandle menu, std::int32_t position) override;
-  std::int32_t TrackPopupMenu(MenuHandle menu, WindowHandle window, Color background) override;
+  std::int32_t TrackPopupMenu(MenuHandle menu, WindowHandle window, Color background,
+                              const std::optional<Rect>& beside) override;
+
+  std::optional<Rect> Beside;  // where the last popup stood; none for the mouse
 
  private:
   std::uint32_t SelectedState() const;

@@ -43,6 +43,8 @@ void LocalUser::MoveOverTray() { SendTray({kMessageMouseMove}); }
 
 void LocalUser::ClickTray(Button button) { SendTray({kMessageMouseMove, DownMessage(button), UpMessage(button)}); }
 
+void LocalUser::PressTray() { SendTray({kMessageTrayKey}); }
+
 void LocalUser::StartTaskBar() {
   shell_.HasTaskBar = true;
   Send(windows_.RegisterWindowMessageA(kTaskbarCreated), 0);

@@ -38,6 +38,8 @@ class LocalUser {
   enum class Button : std::uint8_t { kLeft, kRight };
   void MoveOverTray();
   void ClickTray(Button button);
+  // Enter on the icon.
+  void PressTray();
   void LoseTaskBar() { shell_.LoseTaskBar(); }
   // The task bar is there, for the first time or again.
   void StartTaskBar();

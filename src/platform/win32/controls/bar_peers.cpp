@@ -139,6 +139,7 @@ void Win32Toolbar::ShowImages() {
 }
 
 void Win32Toolbar::AddButtons() {
+  const bool hasText = HasText();
   std::vector<TBBUTTON> natives;
   for (const ToolbarButtonState& button : toolbar_.Buttons()) {
     const bool separator = button.style == ToolbarButtonStyle::kSeparator;
@@ -148,7 +149,9 @@ void Win32Toolbar::AddButtons() {
     native.idCommand = ItemOf(natives.size());
     native.fsState = button.enabled ? TBSTATE_ENABLED : 0;
     native.fsStyle = StyleOf(button.style);
-    native.iString = button.caption.empty() || separator ? -1 : reinterpret_cast<INT_PTR>(button.caption.c_str());
+    // Without a row for texts none is drawn: it is what screen readers call the button.
+    const std::wstring& text = hasText ? button.caption : button.toolTip;
+    native.iString = text.empty() || separator ? -1 : reinterpret_cast<INT_PTR>(text.c_str());
     natives.push_back(native);
   }
   Send(TB_ADDBUTTONSW, natives.size(), reinterpret_cast<LPARAM>(natives.data()));

@@ -4,6 +4,7 @@
 #include <iterator>
 #include <utility>
 
+#include "platform/win32/high_contrast.h"
 #include "platform/win32/windows/screen_dpi.h"
 
 namespace burrowmark {
@@ -301,6 +302,7 @@ std::optional<LRESULT> Win32ListView::Handle(UINT message, WPARAM wParam, LPARAM
     list_.UserPaint();
     return std::nullopt;
   }
+  if (message == WM_SYSCOLORCHANGE) TakeSystemColors();
   if (message == WM_NOTIFY) {  // of its header
     const LRESULT result = ::DefSubclassProc(Handle(), message, wParam, lParam);
     const NMHDR& record = *reinterpret_cast<const NMHDR*>(lParam);
@@ -344,6 +346,20 @@ void Win32ListView::Hint(const NMLVGETINFOTIPW& record) const {
   if (!text.empty()) ::lstrcpynW(record.pszText, text.c_str(), record.cchTextMax);
 }
 
+// It took them when it was made.
+void Win32ListView::TakeSystemColors() const {
+  const auto back = static_cast<LPARAM>(::GetSysColor(COLOR_WINDOW));
+  Native(LVM_SETBKCOLOR, 0, back);
+  Native(LVM_SETTEXTBKCOLOR, 0, back);
+  Native(LVM_SETTEXTCOLOR, 0, static_cast<LPARAM>(::GetSysColor(COLOR_WINDOWTEXT)));
+}
+
+// With high contrast every colour is the user's.
+COLORREF Win32ListView::TextColor(Color color) {
+  if (color == kColorOfControl) return ::GetSysColor(COLOR_WINDOWTEXT);
+  return HighContrastIsOn() ? ::GetSysColor(COLOR_GRAYTEXT) : color;
+}
+
 // The colour of one column would go on in those behind it.
 LRESULT Win32ListView::Draw(NMLVCUSTOMDRAW& record) const {
   const auto row = static_cast<std::int32_t>(record.nmcd.dwItemSpec);
@@ -355,7 +371,7 @@ LRESULT Win32ListView::Draw(NMLVCUSTOMDRAW& record) const {
   const std::vector<Color>& colors = list_.Row(row).colors;
   const auto column = (record.nmcd.dwDrawStage & CDDS_SUBITEM) != 0 ? static_cast<std::size_t>(record.iSubItem) : 0;
   const Color color = column < colors.size() ? colors[column] : kColorOfControl;
-  record.clrText = color == kColorOfControl ? ::GetSysColor(COLOR_WINDOWTEXT) : color;
+  record.clrText = TextColor(color);
   return CDRF_NEWFONT;
 }
 

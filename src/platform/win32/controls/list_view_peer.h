@@ -62,6 +62,8 @@ class Win32ListView final : public ChildPeer<ListViewPeer, ViewWindow> {
   LRESULT BeginLabelEdit(const NMLVDISPINFOW& record);
   LRESULT EndLabelEdit(const NMLVDISPINFOW& record);
   LRESULT Draw(NMLVCUSTOMDRAW& record) const;
+  static COLORREF TextColor(Color color);
+  void TakeSystemColors() const;
   void ColumnDragged(const NMHEADERW& record);
 
   ListViewState& list_;

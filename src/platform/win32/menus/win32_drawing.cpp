@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include "platform/win32/handles.h"
+#include "platform/win32/high_contrast.h"
 
 namespace burrowmark {
 namespace {
@@ -25,12 +26,7 @@ Win32Drawing::~Win32Drawing() {
 
 Color Win32Drawing::GetSysColor(std::int32_t index) { return ::GetSysColor(index); }
 
-bool Win32Drawing::IsHighContrast() {
-  HIGHCONTRASTW contrast = {};
-  contrast.cbSize = sizeof(contrast);
-  return ::SystemParametersInfoW(SPI_GETHIGHCONTRAST, sizeof(contrast), &contrast, 0) != FALSE &&
-         (contrast.dwFlags & HCF_HIGHCONTRASTON) != 0;
-}
+bool Win32Drawing::IsHighContrast() { return HighContrastIsOn(); }
 
 bool Win32Drawing::AppsAreDark() {
   DWORD light = 1;

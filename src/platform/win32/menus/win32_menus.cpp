@@ -137,18 +137,25 @@ std::int32_t Win32Menus::GetMenuItemID(MenuHandle menu, std::int32_t position) {
   return static_cast<std::int32_t>(::GetMenuItemID(ToHmenu(menu), position));
 }
 
-std::int32_t Win32Menus::TrackPopupMenu(MenuHandle menu, WindowHandle window, Color background) {
-  const std::int32_t dpi = dpi_.AtMouse();
+std::int32_t Win32Menus::TrackPopupMenu(MenuHandle menu, WindowHandle window, Color background,
+                                        const std::optional<Rect>& beside) {
+  TPMPARAMS kept = {};
+  kept.cbSize = sizeof(kept);
+  POINT at = {};
+  ::GetCursorPos(&at);
+  if (beside) {
+    kept.rcExclude = ToRECT(*beside);
+    at = {beside->left, beside->top};
+  }
+  const std::int32_t dpi = dpi_.OfMonitor(::MonitorFromPoint(at, MONITOR_DEFAULTTONEAREST));
   if (!IsMeasuredFor(dpi)) ForgetSizes(ToHmenu(menu));
   measuredDpi_ = dpi;
   measuredChanges_ = font_.Changes();
   ShowBackground(ToHmenu(menu), background);
-  POINT mouse = {};
-  ::GetCursorPos(&mouse);
   const RightClickWatch watch;
   // The left button alone chooses: a right click is told to the window and chooses nothing.
   constexpr UINT kHow = TPM_LEFTALIGN | TPM_TOPALIGN | TPM_RETURNCMD;
-  return ::TrackPopupMenu(ToHmenu(menu), kHow, mouse.x, mouse.y, 0, ToHwnd(window), nullptr);
+  return ::TrackPopupMenuEx(ToHmenu(menu), kHow, at.x, at.y, ToHwnd(window), beside ? &kept : nullptr);
 }
 
 // The brush before stays until the popups have the new one.

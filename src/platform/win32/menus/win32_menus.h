@@ -33,7 +33,8 @@ class Win32Menus final : public Menus {
   bool DeleteMenu(MenuHandle menu, std::int32_t position, std::int32_t flags) override;
   std::int32_t GetMenuItemCount(MenuHandle menu) override;
   std::int32_t GetMenuItemID(MenuHandle menu, std::int32_t position) override;
-  std::int32_t TrackPopupMenu(MenuHandle menu, WindowHandle window, Color background) override;
+  std::int32_t TrackPopupMenu(MenuHandle menu, WindowHandle window, Color background,
+                              const std::optional<Rect>& beside) override;
 
  private:
   void ShowBackground(HMENU menu, Color background);

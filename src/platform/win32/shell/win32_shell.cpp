@@ -14,10 +14,12 @@
 #include "platform/win32/files/system_path.h"
 #include "platform/win32/handles.h"
 #include "platform/win32/shell/link_object.h"
+#include "platform/window_system.h"
 
 namespace burrowmark {
 namespace {
 
+static_assert(kMessageTrayKey == NIN_KEYSELECT);
 static_assert(kTrayAdd == NIM_ADD && kTrayModify == NIM_MODIFY && kTrayDelete == NIM_DELETE);
 static_assert(kTrayHasMessage == NIF_MESSAGE && kTrayHasIcon == NIF_ICON && kTrayHasTip == NIF_TIP);
 static_assert(kShowNormal == SW_SHOWNORMAL);
@@ -113,7 +115,22 @@ bool Win32Shell::Shell_NotifyIconA(std::uint32_t message, const TrayIcon& icon) 
   data.uCallbackMessage = icon.callbackMessage;
   data.hIcon = ToHicon(icon.icon);
   std::copy_n(icon.tip.begin(), std::min(icon.tip.size(), kLongestTip), std::begin(data.szTip));
-  return ::Shell_NotifyIconW(message, &data) != FALSE;
+  if (::Shell_NotifyIconW(message, &data) == FALSE) return false;
+  if (message == NIM_ADD) {
+    data.uVersion = NOTIFYICON_VERSION;  // so that it is told of keys
+    ::Shell_NotifyIconW(NIM_SETVERSION, &data);
+  }
+  return true;
+}
+
+std::optional<Rect> Win32Shell::Shell_NotifyIconGetRect(WindowHandle window, std::uint32_t id) {
+  NOTIFYICONIDENTIFIER icon = {};
+  icon.cbSize = sizeof(icon);
+  icon.hWnd = ToHwnd(window);
+  icon.uID = id;
+  RECT rect = {};
+  if (FAILED(::Shell_NotifyIconGetRect(&icon, &rect))) return std::nullopt;
+  return Rect{rect.left, rect.top, rect.right, rect.bottom};
 }
 
 bool Win32Shell::HtmlHelpA(const std::wstring& path, std::int32_t command) {

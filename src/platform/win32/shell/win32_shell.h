@@ -18,6 +18,7 @@ class Win32Shell final : public Shell {
   std::int32_t ShellExecuteA(const std::wstring& verb, const std::wstring& file, const std::wstring& parameters,
                              const std::wstring& directory, std::int32_t show) override;
   bool Shell_NotifyIconA(std::uint32_t message, const TrayIcon& icon) override;
+  std::optional<Rect> Shell_NotifyIconGetRect(WindowHandle window, std::uint32_t id) override;
   bool HtmlHelpA(const std::wstring& path, std::int32_t command) override;
   bool ReadShellLink(const std::wstring& path, ShellLink& link) override;
   bool WriteShellLink(const std::wstring& path, const ShellLink& link) override;

@@ -416,6 +416,16 @@ LRESULT FormWindow::Receive(UINT message, WPARAM wParam, LPARAM lParam) {
   return Answer(message, wParam, lParam);
 }
 
+// Only windows of the first level are told, and controls of the system rely on theirs.
+void FormWindow::FollowColors() const {
+  const auto tell = [](HWND control, LPARAM) {
+    ::SendMessageW(control, WM_SYSCOLORCHANGE, 0, 0);
+    return TRUE;
+  };
+  ::EnumChildWindows(window_, tell, 0);
+  ::RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
+}
+
 LRESULT FormWindow::Answer(UINT message, WPARAM wParam, LPARAM lParam) {
   if (const auto result = ReflectToControl(message, wParam, lParam)) return *result;
   if (const auto brush = BackgroundOfControl(message, wParam)) return *brush;
@@ -460,6 +470,9 @@ LRESULT FormWindow::Answer(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_SETCURSOR:
       if (LOWORD(lParam) == HTCLIENT && ShowPointer()) return TRUE;
       break;
+    case WM_SYSCOLORCHANGE:
+      FollowColors();
+      return 0;
     case WM_DPICHANGED:
       FollowScale(LOWORD(wParam), *reinterpret_cast<const RECT*>(lParam));
       return 0;

@@ -101,6 +101,7 @@ class FormWindow final : public FormPeer {
   void Report();
   FormGeometry Measure() const;
   void FollowScale(std::int32_t dpi, const RECT& suggested);
+  void FollowColors() const;
 
   void Activate(bool active);
   void FocusSomething();

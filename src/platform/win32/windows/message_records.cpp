@@ -12,7 +12,7 @@ static_assert(kMessageDrawItem == WM_DRAWITEM && kMessageMeasureItem == WM_MEASU
 static_assert(kMessageCopyData == WM_COPYDATA && kMessageMenuChar == WM_MENUCHAR);
 static_assert(kMessageMenuRightButtonUp == WM_MENURBUTTONUP && kMessageMouseMove == WM_MOUSEMOVE);
 static_assert(kMessageLeftButtonUp == WM_LBUTTONUP && kMessageRightButtonUp == WM_RBUTTONUP);
-static_assert(kControlMenu == ODT_MENU);
+static_assert(kControlMenu == ODT_MENU && kMessageContextMenu == WM_CONTEXTMENU);
 
 }  // namespace
 
