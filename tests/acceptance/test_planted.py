@@ -29,9 +29,11 @@ class PlantedLibraries(ProgramTest):
         self.assertLessEqual({"user32.dll", "mpr.dll", "winmm.dll", "netapi32.dll", CONTROL}, names)
         # What these load in turn; on Windows they are the usual prey.
         names |= {"uxtheme.dll", "propsys.dll", "dwmapi.dll", "cryptbase.dll", "version.dll", "windowscodecs.dll"}
+        planted = self.desktop.prefix.folder / "planted.dll"
+        subprocess.run([CROSS + "gcc", "-shared", "-nostdlib", "-s", "-Wl,-eDllMain", "-o", planted,
+                        REPOSITORY / "tests/acceptance/planted.c", "-lkernel32"], check=True)
         for name in names:
-            subprocess.run([CROSS + "gcc", "-shared", "-nostdlib", "-s", "-Wl,-eDllMain", "-o", folder / name,
-                            REPOSITORY / "tests/acceptance/planted.c", "-lkernel32"], check=True)
+            shutil.copy(planted, folder / name)
         taken.mkdir()
         self.addCleanup(shutil.rmtree, taken)
         self.start_with()
