@@ -103,8 +103,8 @@ FunctionEnd
 !macro RemoveVerbOf ROOT KEY COMMAND
   ReadRegStr $0 ${ROOT} "${CLASSES}\${KEY}\command" ""
   ${If} $0 == '${COMMAND}'
-    DeleteRegKey /ifempty ${ROOT} "${CLASSES}\${KEY}\command"
-    DeleteRegKey /ifempty ${ROOT} "${CLASSES}\${KEY}"
+    DeleteRegKey /ifnosubkeys ${ROOT} "${CLASSES}\${KEY}\command"
+    DeleteRegKey /ifnosubkeys ${ROOT} "${CLASSES}\${KEY}"
   ${EndIf}
 !macroend
 !macro RemoveVerb KEY TEXT PROGRAM ARGUMENTS
