@@ -66,6 +66,34 @@ class ByKeyboard(OptionsTest):
             self.program.wait_folder_window("Letters")  # which takes the focus
 
 
+class Verbs(OptionsTest):
+    """What the file manager's menus start, by the words that stand in the registry."""
+
+    PATHS = ("C:\\My Letters & more", "C:\\It's 'here' %L", "C:\\\u041e\u0431\u043c\u0435\u043d \u6587\u66f8")
+
+    def start_verb(self, verb, path):
+        program, line = self.command_of(verb)[1:].split('" ', 1)
+        # Words without blanks come as they are, with a blank between them.
+        return self.desktop.start(program, *line.replace("%L", path, 1).split(" "))
+
+    def test_each_verb_takes_its_path_whole(self):
+        self.program.make_folders(*self.PATHS)
+        dialog = self.open_options()
+        self.show_tab(dialog, 2)
+        self.desktop.keys("Home", "Down", "Space", "Return")
+        self.desktop.wait_gone(dialog)
+        for path in self.PATHS:
+            self.assertEqual(self.desktop.exit_code(self.start_verb("Directory\\shell\\Copy Address", path)), 0)
+            self.assertEqual(self.desktop.driver("clipboard")[0]["text"], path)
+            self.start_verb("Directory\\shell\\Folder Report", path)
+            wizard = self.desktop.wait_window(FORM, path[3:] + " - Folder Report", 10)
+            self.desktop.keys("Esc")
+            self.desktop.wait_gone(wizard)
+        self.start_verb("Directory\\shell\\Organize Folder", self.PATHS[0])
+        dialog = self.desktop.wait_window(FORM, "New Item", 10)
+        self.assertIn(self.PATHS[0], self.texts_of(dialog))
+
+
 class CopyAddress(OptionsTest):
     def copy(self, *words):
         return self.desktop.exit_code(self.desktop.start(COPY_ADDRESS, *words))
