@@ -112,7 +112,9 @@ void Win32ListView::ColumnChanged(std::int32_t column) {
   native.iSubItem = column;
   if (Native(LVM_SETCOLUMNW, static_cast<WPARAM>(column), Address(&native)) != FALSE) return;
   Native(LVM_INSERTCOLUMNW, static_cast<WPARAM>(column), Address(&native));
-  for (std::int32_t row = 0; row < static_cast<std::int32_t>(numbers_.size()); ++row) AskForTexts(row, column);
+  for (std::int32_t row = 0; row < static_cast<std::int32_t>(numbers_.size()); ++row) {
+    if (asks_[static_cast<std::size_t>(numbers_[static_cast<std::size_t>(row)])]) AskForTexts(row, column);
+  }
 }
 
 // The control breaks a plain list into columns as wide as the widest text, and never asks for texts to find out.
@@ -137,6 +139,46 @@ void Win32ListView::AskForTexts(std::int32_t row, std::int32_t column) {
   Native(LVM_SETITEMTEXTW, static_cast<WPARAM>(row), Address(&item));
 }
 
+void Win32ListView::NeedTexts(std::int32_t row) {
+  if (row < 0 || row >= static_cast<std::int32_t>(numbers_.size())) return;
+  const auto number = static_cast<std::size_t>(numbers_[static_cast<std::size_t>(row)]);
+  if (asks_[number]) return;
+  asks_[number] = true;
+  const Telling telling(*this);
+  for (std::int32_t column = 1; column < static_cast<std::int32_t>(list_.Columns().size()); ++column) {
+    AskForTexts(row, column);
+  }
+}
+
+// Rows that show, the row that somebody reads, or all where a column is going to fit its texts.
+void Win32ListView::NeedTextsFor(UINT message, WPARAM wParam, LPARAM lParam) {
+  const auto rows = static_cast<std::int32_t>(numbers_.size());
+  switch (message) {
+    case WM_PAINT:
+    case WM_PRINTCLIENT: {
+      if (list_.View() != ListViewMode::kReport) return;
+      const auto top = static_cast<std::int32_t>(Native(LVM_GETTOPINDEX, 0, 0));
+      const auto page = static_cast<std::int32_t>(Native(LVM_GETCOUNTPERPAGE, 0, 0));
+      for (std::int32_t row = top; row <= std::min(top + page + 1, rows - 1); ++row) NeedTexts(row);
+      return;
+    }
+    case LVM_GETITEMTEXTW:
+    case LVM_GETITEMTEXTA:
+      return NeedTexts(static_cast<std::int32_t>(wParam));
+    case LVM_GETITEMW:
+    case LVM_GETITEMA:
+      return NeedTexts(reinterpret_cast<const LVITEMW*>(lParam)->iItem);
+    case WM_NOTIFY: {
+      const UINT code = reinterpret_cast<const NMHDR*>(lParam)->code;
+      if (code != HDN_DIVIDERDBLCLICKW && code != HDN_DIVIDERDBLCLICKA) return;
+      for (std::int32_t row = 0; row < rows; ++row) NeedTexts(row);
+      return;
+    }
+    default:
+      return;
+  }
+}
+
 void Win32ListView::RowAdded(std::int32_t row) {
   const Telling telling(*this);
   LVITEMW item = {};
@@ -146,10 +188,8 @@ void Win32ListView::RowAdded(std::int32_t row) {
   item.iImage = I_IMAGECALLBACK;
   item.lParam = nextNumber_;
   numbers_.insert(std::next(numbers_.begin(), row), nextNumber_++);
+  asks_.push_back(false);
   Native(LVM_INSERTITEMW, 0, Address(&item));
-  for (std::int32_t column = 1; column < static_cast<std::int32_t>(list_.Columns().size()); ++column) {
-    AskForTexts(row, column);
-  }
   const ListItemState& shown = list_.Row(row);
   if (shown.selected || shown.ghosted || shown.checked) ShowState(row);
   isListColumnStale_ = true;
@@ -166,6 +206,7 @@ void Win32ListView::RowsCleared() {
   const Telling telling(*this);
   numbers_.clear();
   nextNumber_ = 0;
+  asks_.clear();
   Native(LVM_DELETEALLITEMS, 0, 0);
 }
 
@@ -297,6 +338,7 @@ LRESULT Win32ListView::Notify(NMHDR& record) {
 }
 
 std::optional<LRESULT> Win32ListView::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
+  NeedTextsFor(message, wParam, lParam);
   if (message == WM_PAINT) {
     FitListColumn();
     list_.UserPaint();

@@ -52,6 +52,9 @@ class Win32ListView final : public ChildPeer<ListViewPeer, ViewWindow> {
 
   bool HasRow(std::int32_t row) const { return row >= 0 && row < list_.RowCount(); }
   void AskForTexts(std::int32_t row, std::int32_t column);
+  // The columns behind the first of a row that is going to be drawn or read.
+  void NeedTexts(std::int32_t row);
+  void NeedTextsFor(UINT message, WPARAM wParam, LPARAM lParam);
   void SetState(std::int32_t row, UINT state, UINT mask);
   void ShowState(std::int32_t row);
   void LoadImages();
@@ -72,6 +75,8 @@ class Win32ListView final : public ChildPeer<ListViewPeer, ViewWindow> {
   // The control knows rows by numbers of their own, so that it can be told a new order.
   std::vector<std::int32_t> numbers_;  // by row
   std::int32_t nextNumber_ = 0;
+  // By number: the control knows that it has to ask for the texts. To tell it costs more than to make the row.
+  std::vector<bool> asks_;
   bool isListColumnStale_ = true;  // the width of the columns that a plain list breaks into
 };
 
