@@ -61,7 +61,7 @@ constexpr MenuRow kMenuRows[] = {
     {1, L"mnuChange", L"Chan&ge"},
     {1, L"mnuSep2", kMenuLine},
     {1, L"mnuRefresh", L"&Refresh", {kKeyCodeF5, 0}},
-    {1, L"mnuProperties", L"&Properties"},
+    {1, L"mnuProperties", L"Prope&rties"},
 };
 
 ToolbarButtonState Button(const wchar_t* key, const wchar_t* toolTip, std::int32_t image) {
