@@ -13,9 +13,9 @@ namespace {
 constexpr Size kClient{5700, 6300};
 constexpr std::int32_t kEdge = 180;  // around everything
 constexpr std::int32_t kGap = 120;
-constexpr std::int32_t kTextHeight = 225;
+constexpr std::int32_t kTextHeight = 240;
 constexpr std::int32_t kBoxHeight = 315;
-constexpr std::int32_t kLabelWidth = 780;
+constexpr std::int32_t kLabelWidth = 840;
 constexpr Size kButton{1215, 375};
 constexpr std::int32_t kPause = 400;  // milliseconds without a key, after which what was typed is looked for
 constexpr std::int32_t kProgramIcon = 1;
@@ -98,8 +98,8 @@ void frmBrowseFolder::Form_Resize() {
   std::int32_t bottom = Client().height - kEdge - kButton.height;
   PlaceButtons(bottom);
   if (chkSubfolders.Visible()) {
-    bottom -= kGap + 255;
-    chkSubfolders.SetPlace({kEdge, bottom, width, 255});
+    bottom -= kGap + 300;
+    chkSubfolders.SetPlace({kEdge, bottom, width, 300});
   }
   bottom -= kGap + kBoxHeight;
   lblFolder.SetPlace({kEdge, bottom + 45, kLabelWidth, kTextHeight});

@@ -48,11 +48,11 @@ class frmBrowseFolder final : public ProgramForm {
   void MakeFolder();
   void Accept();
 
-  Label lblPrompt{*this, L"lblPrompt", Box{180, 150, 5340, 225}};
+  Label lblPrompt{*this, L"lblPrompt", Box{180, 150, 5340, 240}};
   TreeView tvFolders{*this, L"tvFolders", Box{180, 480, 5340, 4200}};
-  Label lblFolder{*this, L"lblFolder", Box{180, 4860, 780, 225}, L"&Folder :"};
-  TextBox txtFolder{*this, L"txtFolder", Box{960, 4800, 4560, 315}};
-  CheckBox chkSubfolders{*this, L"chkSubfolders", Box{180, 5250, 5340, 255}, {}};
+  Label lblFolder{*this, L"lblFolder", Box{180, 4860, 840, 240}, L"&Folder :"};
+  TextBox txtFolder{*this, L"txtFolder", Box{1020, 4800, 4500, 315}};
+  CheckBox chkSubfolders{*this, L"chkSubfolders", Box{180, 5250, 5340, 300}, {}};
   CommandButton cmdNewFolder{*this, L"cmdNewFolder", Box{180, 5700, 1500, 375}, {}};
   CommandButton cmdOK{*this, L"cmdOK", Box{2970, 5700, 1215, 375}, {}};
   CommandButton cmdCancel{*this, L"cmdCancel", Box{4305, 5700, 1215, 375}, {}};

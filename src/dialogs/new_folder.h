@@ -21,7 +21,7 @@ class frmNewFolder final : public ProgramForm {
   void MakeFolder();
   void Tell(const std::wstring& text);
 
-  Label lblName{*this, L"lblName", Box{180, 150, 4440, 225}, L"Enter a name for your new folder"};
+  Label lblName{*this, L"lblName", Box{180, 150, 4440, 240}, L"Enter a name for your new folder"};
   TextBox txtName{*this, L"txtName", Box{180, 420, 4440, 315}};
   CommandButton cmdOK{*this, L"cmdOK", Box{2070, 900, 1215, 375}, L"OK"};
   CommandButton cmdCancel{*this, L"cmdCancel", Box{3405, 900, 1215, 375}, L"Cancel"};

@@ -93,8 +93,8 @@ class frmFolderReport final : public ProgramForm {
 
   PictureBox picTop{*this, L"picTop", Box{0, 0, 7560, 960}};
   PictureBox picNaslov{picTop, L"picNaslov", Box{240, 120, 720, 720}};
-  Label lblNaslov{picTop, L"lblNaslov", Box{1200, 240, 6120, 240}, L"Folder Report Wizard"};
-  Label lblOpis{picTop, L"lblOpis", Box{1200, 510, 6120, 240},
+  Label lblNaslov{picTop, L"lblNaslov", Box{1200, 195, 6120, 240}, L"Folder Report Wizard"};
+  Label lblOpis{picTop, L"lblOpis", Box{1200, 465, 6120, 480},
                 L"Creates a report about the selected folder's files and subfolders"};
   Line Line1{*this, L"Line1", Box{0, 960, 7560, 30}};
 
@@ -126,7 +126,7 @@ class frmFolderReport final : public ProgramForm {
   };
 
   PictureBox picDelimiter{*this, L"picDelimiter", Box{0, 990, 7560, 3540}};
-  Label lblDelimiter{picDelimiter, L"lblDelimiter", Box{360, 210, 6840, 240},
+  Label lblDelimiter{picDelimiter, L"lblDelimiter", Box{360, 210, 6840, 480},
                      L"Select the delimiter character that separates the data columns in your report."};
   OptionButton optDelimiterChar[6]{
       {picDelimiter, L"optDelimiterChar(0)", Box{360, 690, 2700, 285}, L"&Tabulator"},

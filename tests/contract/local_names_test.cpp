@@ -84,19 +84,6 @@ Texts MnemonicsUsedTwice(const Form& form) {
   return found;
 }
 
-// Of one level of menus, and of those below it.
-Texts MnemonicsUsedTwice(const std::vector<MenuEntryState*>& level) {
-  Texts found;
-  std::wstring used;
-  for (const MenuEntryState* entry : level) {
-    const wchar_t mnemonic = MnemonicIn(entry->caption);
-    if (mnemonic != L'\0' && used.find(mnemonic) != std::wstring::npos) found.push_back(ToUtf8(entry->caption));
-    used += mnemonic;
-    for (const std::string& below : MnemonicsUsedTwice(entry->children)) found.push_back(below);
-  }
-  return found;
-}
-
 bool StandsBefore(const Box& one, const Box& other) {
   if (one.top + one.height <= other.top) return true;
   const bool sameRow = one.top < other.top + other.height && other.top < one.top + one.height;
@@ -140,7 +127,6 @@ TEST_F(NamesContract, EveryFormCanBeHeardAndUsedByKeys) {
     form->Show();
     EXPECT_EQ(WithoutName(*form), Texts());
     EXPECT_EQ(MnemonicsUsedTwice(*form), Texts());
-    EXPECT_EQ(MnemonicsUsedTwice(form->MenuEntries()), Texts());
     EXPECT_EQ(JumpsOfTheTabKey(*form), Texts());
     form->Unload();
   }
