@@ -64,7 +64,10 @@ std::wstring OrganizeScene::Column(std::size_t column) {
 std::wstring OrganizeScene::Status() {
   std::wstring texts;
   for (const std::wstring& text : Window().PanelTexts(Control(ShownKind::kStatusBar).window)) texts += text + L"|";
-  return texts + Control(ShownKind::kLabel).text;
+  for (const auto& control : Window().controls) {
+    if (control->kind == ShownKind::kLabel && control->visible) return texts + control->text;
+  }
+  return texts;
 }
 
 std::wstring OrganizeScene::Buttons() {
