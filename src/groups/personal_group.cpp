@@ -268,6 +268,7 @@ std::vector<std::wstring> BuildRecentFolders(Application& app) {
     if (!askedServers && IsNetworkPlace(app.platform.files, target)) {
       askedServers = true;
       std::vector<std::wstring> targets;
+      targets.reserve(links.size());
       for (RecentLink& each : links) targets.push_back(TargetOf(app, each));
       tests.AskServers(targets);
     }

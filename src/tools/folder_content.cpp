@@ -67,7 +67,7 @@ void Pack(std::string& bytes, const Value& value) {
 void PackText(std::string& bytes, std::wstring_view text) {
   Pack(bytes, static_cast<std::uint16_t>(text.size()));
   for (const wchar_t c : text) {
-    const auto code = static_cast<std::uint32_t>(c);
+    const std::uint32_t code = std::char_traits<wchar_t>::to_int_type(c);
     if (code < kWide) {
       bytes += static_cast<char>(code);
     } else {

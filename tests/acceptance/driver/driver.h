@@ -58,7 +58,6 @@ std::wstring ClassOf(HWND window);
 // The verbs, which main.cpp tells apart.
 using Verb = void(Words& words);
 Verb ListWindows, ListChildren, PressButton, CloseWindow, BringForward;  // windows.cpp
-Verb ListNames;                                                          // names.cpp
 Verb ListTree, ListList;                                                 // contents.cpp
 Verb ReadClipboard, HoldClipboard;                                       // clipboard.cpp
 Verb ListMenu;                                                           // menus.cpp

@@ -14,7 +14,6 @@ namespace {
 const std::map<std::wstring, Verb*> kVerbs = {
     {L"windows", ListWindows},           // all top-level windows, front to back
     {L"children", ListChildren},         // WINDOW: all windows within it
-    {L"names", ListNames},               // WINDOW: what screen readers hear of all windows within it
     {L"press", PressButton},             // WINDOW ID: a button of a dialog
     {L"close", CloseWindow},             // WINDOW
     {L"activate", BringForward},         // WINDOW: brings it to the front
