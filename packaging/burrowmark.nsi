@@ -80,6 +80,20 @@ Function FindOldFolder
   ${EndIf}
 FunctionEnd
 
+; Gives 1 or 0 in $0. One folder can have many spellings, so it is asked whether what is made in one shows in the other.
+Function IsOldFolderElsewhere
+  StrCpy $0 0
+  ${If} $OldFolder == ""
+    Return
+  ${EndIf}
+  CreateDirectory "${STAGED}"
+  ${If} ${FileExists} "${STAGED}\*.*"
+  ${AndIfNot} ${FileExists} "$OldFolder\${STAGED_NAME}\*.*"
+    StrCpy $0 1
+  ${EndIf}
+  RMDir "${STAGED}"
+FunctionEnd
+
 Section
   AddSize ${SIZE}
   Call EndRunning
@@ -92,8 +106,8 @@ Section
   Call WriteUninstallEntry
   SetOutPath $INSTDIR  ; the link starts the program there
   CreateShortcut "$SMPROGRAMS\${PRODUCT}.lnk" "$INSTDIR\burrowmark.exe" "" "" "" "" "" "Your folders in one menu"
-  ${If} $OldFolder != ""
-  ${AndIf} $OldFolder != $INSTDIR
+  Call IsOldFolderElsewhere
+  ${If} $0 == 1
     !insertmacro DeleteOwnFiles $OldFolder
   ${EndIf}
   ; Whoever used the program when it was replaced silently goes on using it.

@@ -1,6 +1,7 @@
 ; The files that are installed. All of them are known by name, and no other is ever written or deleted.
 !define UNINSTALLER uninstall.exe
-!define STAGED "$INSTDIR\burrowmark-setup~"
+!define STAGED_NAME "burrowmark-setup~"
+!define STAGED "$INSTDIR\${STAGED_NAME}"
 
 ; Does something with each file; the program first, since it is the one that may be in use.
 !macro EachFile ACTION ARGUMENT
