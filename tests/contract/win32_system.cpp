@@ -3,10 +3,10 @@
 
 #include <filesystem>
 #include <future>
-#include <thread>
 
 #include "platform/characters.h"
 #include "platform/win32/files/file_handle.h"
+#include "platform/win32/start_thread.h"
 #include "platform/win32/system_library.h"
 #include "platform/win32/win32_platform.h"
 #include "tests/contract/system_under_test.h"
@@ -58,7 +58,7 @@ class HeldClipboard {
  public:
   HeldClipboard() {
     std::promise<void> opened;
-    thread_ = std::thread([this, &opened] {
+    thread_ = StartThread([this, &opened] {
       ::OpenClipboard(nullptr);
       opened.set_value();
       end_.get_future().wait();
@@ -68,14 +68,15 @@ class HeldClipboard {
   }
   ~HeldClipboard() {
     end_.set_value();
-    thread_.join();
+    ::WaitForSingleObject(thread_, INFINITE);
+    ::CloseHandle(thread_);
   }
   HeldClipboard(const HeldClipboard&) = delete;
   HeldClipboard& operator=(const HeldClipboard&) = delete;
 
  private:
   std::promise<void> end_;
-  std::thread thread_;
+  HANDLE thread_ = nullptr;
 };
 
 class Win32System final : public SystemUnderTest {

@@ -3,10 +3,10 @@
 #include <windows.h>
 
 #include <future>
-#include <thread>
 #include <utility>
 
 #include "platform/from_system.h"
+#include "platform/win32/start_thread.h"
 
 namespace burrowmark {
 namespace {
@@ -41,17 +41,19 @@ LRESULT CALLBACK HookProcedure(int code, WPARAM message, LPARAM details) {
 // A hook from its installing until it is off, and the thread that the system calls it on.
 class Win32Keyboard::HookThread {
  public:
-  explicit HookThread(Procedure procedure) : procedure_(std::move(procedure)), thread_([this] { Run(); }) {
-    installed_ = started_.get_future().get();
+  explicit HookThread(Procedure procedure) : procedure_(std::move(procedure)), thread_(StartThread([this] { Run(); })) {
+    if (thread_ != nullptr) installed_ = started_.get_future().get();
   }
   ~HookThread() {
+    if (thread_ == nullptr) return;
     ::PostThreadMessageW(installed_.thread, WM_QUIT, 0, 0);
-    thread_.join();
+    ::WaitForSingleObject(thread_, INFINITE);
+    ::CloseHandle(thread_);
   }
   HookThread(const HookThread&) = delete;
   HookThread& operator=(const HookThread&) = delete;
 
-  // 0 where the system refuses it.
+  // 0 where the system refuses it, or a thread for it.
   HookHandle Hook() const { return reinterpret_cast<INT_PTR>(installed_.hook); }
 
  private:
@@ -74,7 +76,7 @@ class Win32Keyboard::HookThread {
   const Procedure procedure_;
   std::promise<Installed> started_;
   Installed installed_;
-  std::thread thread_;  // starts when all the others are there
+  const HANDLE thread_;  // starts when all the others are there
 };
 
 Win32Keyboard::Win32Keyboard() = default;

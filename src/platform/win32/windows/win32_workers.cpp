@@ -3,10 +3,10 @@
 #include <chrono>
 #include <condition_variable>
 #include <mutex>
-#include <thread>
 #include <utility>
 
 #include "platform/from_system.h"
+#include "platform/win32/start_thread.h"
 
 namespace burrowmark {
 namespace {
@@ -21,14 +21,11 @@ void RunQuietly(const std::function<void()>& work) {
 }
 
 // False if the system gives no thread.
-template <typename Work>
-bool Start(Work&& work) {
-  return FromSystem(
-      [&work] {
-        std::thread(std::forward<Work>(work)).detach();
-        return true;
-      },
-      false);
+bool Start(std::function<void()> work) {
+  const HANDLE thread = StartThread(std::move(work));
+  if (thread == nullptr) return false;
+  ::CloseHandle(thread);
+  return true;
 }
 
 // The end of pieces of work that somebody waits for.
