@@ -17,10 +17,11 @@ void OpenFolderReport(Application& app, Editor& editor, const std::wstring& Comm
   const std::wstring folder = CommandArgument(Command, kReportCommandLength);
   if (folder.empty()) return app.platform.windows.Beep();
   if (!app.Calls.ShowFolderReport) return;
+  OpenWindow* const editing = app.Windows.Find(ProgramWindow::kOrganize);
+  if (editing != nullptr) editing->ComeForward();
   app.Calls.ShowFolderReport(folder, editor.AsOwner());
-  OpenWindow* front = app.Windows.Find(ProgramWindow::kOrganize);
-  if (front == nullptr) front = app.Windows.Find(ProgramWindow::kFolderReport);
-  if (front != nullptr) front->ComeForward();
+  OpenWindow* const wizard = app.Windows.Find(ProgramWindow::kFolderReport);
+  if (editing == nullptr && wizard != nullptr) wizard->ComeForward();
 }
 
 bool AddsOrOpens(const std::wstring& Command) {
@@ -55,8 +56,8 @@ void HandOver(Application& app, std::uint32_t RegisteredMessage, const std::wstr
   if (!registry.GetKeyValue(RegistryKey::kCurrentUser, kMainKey, kWindowValue, text)) return;
   WindowHandle window = 0;
   Skip([&] { window = ToInt32(text); });
-  if (window == 0) return;
   registry.SetKeyValue(RegistryKey::kCurrentUser, kMainKey, kTransferValue, Command);
+  if (window == 0) return;
   // The text itself goes along, so that several hand-overs at once don't overwrite each other. Without an answer the
   // running instance is asked to look into the registry.
   if (app.platform.windows.SendText(window, RegisteredMessage, Command) == 0) {

@@ -10,9 +10,11 @@ Editor::~Editor() = default;
 bool Editor::IsOpen() const { return window_ && window_->Loaded(); }
 
 void Editor::Show() {
-  if (IsOpen()) return window_->BringToFront();
-  window_ = std::make_unique<frmOrganize>(app_);
-  window_->Show(Modeless, app_.MainWindow);
+  if (!IsOpen()) {
+    window_ = std::make_unique<frmOrganize>(app_);
+    window_->Show(Modeless, app_.MainWindow);
+  }
+  if (IsOpen()) window_->BringToFront();
 }
 
 void Editor::Init(const std::wstring& Command) {

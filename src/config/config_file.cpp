@@ -80,6 +80,11 @@ std::wstring NameForCopy(FileSystem& files, const std::wstring& path) {
   return {};
 }
 
+bool IsSameVersion(const std::optional<FileFacts>& left, const std::optional<FileFacts>& right) {
+  if (!left || !right) return !left && !right;
+  return left->size == right->size && left->modified == right->modified;
+}
+
 std::wstring PreviousName(const std::wstring& path) { return NameWith(path, L"previous"); }
 
 // Before the first save of a day the version before it is kept. Where that can't be done the save goes on: the user
@@ -173,6 +178,7 @@ bool ConfigFileWriteAs(Application& app, Document& document, const std::wstring&
     } else {
       other.Content = FileContent::kWhole;  // what is there isn't this tree's, and may well be worth keeping for a day
       other.KeptAs.clear();
+      other.KeptOf.reset();
     }
     if (!Save(app, other)) return false;
     document = other;
@@ -184,7 +190,7 @@ bool ConfigFileExport(Application& app, const Document& document, const std::wst
   return Attempt([&] { return SaveWholeFile(app.platform.files, path, ListingBytes(app, document)); });
 }
 
-bool ConfigFileUpdateSummary(Application& app, const Document& document) {
+bool ConfigFileUpdateSummary(Application& app, Document& document) {
   const std::wstring& path = document.CurrentConfigFile;
   if (!app.platform.files.FileExists(path)) return true;
   // The file isn't the one that the tree was read from.
@@ -194,22 +200,27 @@ bool ConfigFileUpdateSummary(Application& app, const Document& document) {
     std::string replaced;
     clsMenuCollection unused(app.platform.clock);
     ConfigContent content;
-    if (!app.platform.files.ReadWholeFile(path, bytes) || !ReadConfig(app, bytes, unused, content) ||
-        !ReplaceSummary(app, bytes, document.Summary, replaced)) {
+    if (!KeepOldFile(app, document) || !app.platform.files.ReadWholeFile(path, bytes) ||
+        !ReadConfig(app, bytes, unused, content) || !ReplaceSummary(app, bytes, document.Summary, replaced)) {
       return false;
     }
-    KeepPrevious(app, path);
-    return SaveWholeFile(app.platform.files, path, replaced);
+    if (document.Content == FileContent::kWhole) KeepPrevious(app, path);
+    if (!SaveWholeFile(app.platform.files, path, replaced)) return false;
+    document.KeptOf = app.platform.files.GetFileFacts(path);
+    return true;
   });
 }
 
 bool KeepOldFile(Application& app, Document& document) {
   FileSystem& files = app.platform.files;
   const std::wstring& path = document.CurrentConfigFile;
-  if (document.Content == FileContent::kWhole || !document.KeptAs.empty() || !files.FileExists(path)) return true;
+  if (document.Content == FileContent::kWhole || !files.FileExists(path)) return true;
+  const std::optional<FileFacts> facts = files.GetFileFacts(path);
+  if (!document.KeptAs.empty() && IsSameVersion(facts, document.KeptOf)) return true;
   const std::wstring copy = NameForCopy(files, path);
   if (copy.empty() || !files.CopyFileA(path, copy, true)) return false;
   document.KeptAs = copy;
+  document.KeptOf = facts;
   if (document.Content == FileContent::kNone) return true;
   const wchar_t* trouble = document.Content == FileContent::kDamaged ? L" is damaged." : L" couldn't be read.";
   document.Notice =

@@ -44,10 +44,10 @@ bool ConfigFileWriteAs(Application& app, Document& document, const std::wstring&
 bool ConfigFileExport(Application& app, const Document& document, const std::wstring& path);
 // Writes the summary alone into the document's file. True if there is no such file; false for one that the reader would
 // refuse.
-bool ConfigFileUpdateSummary(Application& app, const Document& document);
+bool ConfigFileUpdateSummary(Application& app, Document& document);
 
-// Copies a document's file aside, once, if it holds anything else than the tree; the document gets a notice of it.
-// False if that fails: then the file must not be overwritten.
+// Copies a document's file aside, each version once, if it holds anything else than the tree; the document gets a
+// notice of it. False if that fails: then the file must not be overwritten.
 bool KeepOldFile(Application& app, Document& document);
 
 // What tells the user that a file couldn't be saved.

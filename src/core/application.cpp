@@ -9,7 +9,9 @@ Platform Application::WithBoxes(const Platform& system) {
 }
 
 void Application::BringForward() {
-  if (OpenWindow* front = Windows.Innermost()) {
+  OpenWindow* front = Windows.Innermost();
+  if (front == nullptr && Requests.IsBusy()) front = Windows.LastReport();
+  if (front != nullptr) {
     front->ComeForward();
   } else if (MainWindow != 0 && Requests.IsBusyWith(BusyWith::kBox)) {
     platform.windows.SetForegroundWindow(MainWindow);

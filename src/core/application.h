@@ -3,6 +3,7 @@
 
 #include <functional>
 #include <memory>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -31,6 +32,7 @@ struct clsDrive {
 struct HotKeyList {
   std::shared_ptr<clsMenuCollection> Store;
   std::vector<ItemRef> Items;
+  std::set<ItemRef> Questioned;  // those whose folder is gone, while the user is to be asked about them
 };
 
 // What a lower room asks of a higher one, put in by the program's entry point. One that is empty does nothing.

@@ -3,9 +3,11 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "core/menu_collection.h"
+#include "platform/file_system.h"
 
 namespace burrowmark {
 
@@ -33,9 +35,10 @@ struct Document {
   std::wstring CurrentConfigFile{};
   ConfigSummary Summary{};
   FileContent Content = FileContent::kNone;
-  std::wstring KeptAs{};  // the copy of what the file held besides; empty while there is none
-  std::wstring Notice{};  // what the user should be told of that copy, once
-  bool Changed = false;   // the tree differs from the file
+  std::wstring KeptAs{};              // the copy of what the file held besides; empty while there is none
+  std::optional<FileFacts> KeptOf{};  // the file when it was copied
+  std::wstring Notice{};              // what the user should be told of that copy, once
+  bool Changed = false;               // the tree differs from the file
 };
 
 }  // namespace burrowmark

@@ -57,9 +57,12 @@ void FolderTests::AskServers(const std::vector<std::wstring>& paths) {
 }
 
 FolderAnswer FolderTests::Test(const std::wstring& path) {
+  return files_.DriveExists(path) ? FolderAnswer::kThere : TestContent(path);
+}
+
+FolderAnswer FolderTests::TestContent(const std::wstring& path) {
   const auto answer = [](bool there) { return there ? FolderAnswer::kThere : FolderAnswer::kMissing; };
-  if (!IsNetworkPlace(files_, path)) return answer(FolderOrDriveExists(files_, path));
-  if (files_.DriveExists(path)) return FolderAnswer::kThere;
+  if (!IsNetworkPlace(files_, path)) return answer(files_.FolderExists(path));
   const auto there = std::make_shared<bool>(false);
   const bool told = Ask(path, [there, path](FileSystem& files) {
     *there = files.FolderExists(path);

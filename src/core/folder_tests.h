@@ -33,6 +33,8 @@ class FolderTests {
   void AskServers(const std::vector<std::wstring>& paths);
   // Of a folder, or of a drive with a medium in it or not.
   FolderAnswer Test(const std::wstring& path);
+  // Of a folder that can be looked into now: not of a drive without a medium, nor of one whose server is away.
+  FolderAnswer TestContent(const std::wstring& path);
   // Runs a question about a path: as work of platform/workers.h where that is on a server, so that it may outlive this
   // call. The question's own false: its share or drive isn't there, and isn't asked again. False without an answer.
   bool Ask(const std::wstring& path, const std::function<bool(FileSystem& files)>& question);

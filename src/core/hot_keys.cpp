@@ -25,7 +25,8 @@ bool FindHotKeyItem(const Application& app, std::int32_t KeyboardCode, ItemRef& 
 }
 
 void RefreshHotKeys(Application& app, std::shared_ptr<clsMenuCollection> store) {
-  app.HotKeyItems = {std::move(store), {}};
+  app.HotKeyItems.Store = std::move(store);
+  app.HotKeyItems.Items.clear();
   for (std::int32_t i = 1; i <= app.HotKeyItems.Store->Count(); ++i) {
     const ItemRef item = app.HotKeyItems.Store->Item(i);
     if (item->KeyboardCode < 0) continue;

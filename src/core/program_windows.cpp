@@ -12,9 +12,14 @@ OpenWindow* ProgramWindows::Find(ProgramWindow window) const {
 
 OpenWindow* ProgramWindows::Innermost() const {
   const auto found = std::find_if(open_.rbegin(), open_.rend(), [](const OpenWindow* open) {
-    return open->Kind() != ProgramWindow::kProgress && open->IsShown();
+    return open->Kind() != ProgramWindow::kProgress && open->Kind() != ProgramWindow::kFolderReport && open->IsShown();
   });
   return found == open_.rend() ? nullptr : *found;
+}
+
+OpenWindow* ProgramWindows::LastReport() const {
+  OpenWindow* const report = Find(ProgramWindow::kFolderReport);
+  return report != nullptr && report->IsShown() ? report : nullptr;
 }
 
 bool ProgramWindows::AnyInGesture() const {

@@ -55,8 +55,11 @@ class ProgramWindows {
   // The last one opened of that kind; none if there is none.
   OpenWindow* Find(ProgramWindow window) const;
   bool IsOpen(ProgramWindow window) const { return Find(window) != nullptr; }
-  // The one in front of the user: the last one opened, the progress window left out. None if there is none.
+  // The one that the user is to see to: the last one opened. The progress window is none of them, and report wizards,
+  // which stand beside all others and keep nothing from going on. None if there is none.
   OpenWindow* Innermost() const;
+  // The report wizard that was opened last and is shown.
+  OpenWindow* LastReport() const;
 
   // A label is being edited, or something dragged.
   bool AnyInGesture() const;

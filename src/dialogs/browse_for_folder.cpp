@@ -133,7 +133,7 @@ void frmBrowseFolder::LookForTyped() {
 
 bool frmBrowseFolder::IsThere(const std::wstring& path) {
   SetMousePointer(kPointerHourglass);
-  const FolderAnswer answer = FolderTests(app_.platform).Test(path);
+  const FolderAnswer answer = FolderTests(app_.platform).TestContent(path);
   SetMousePointer(kPointerDefault);
   if (answer == FolderAnswer::kThere) return true;
   app_.platform.dialogs.MessageBoxA(Window(), kMissing, L"Burrowmark", kBoxWarning);

@@ -54,11 +54,12 @@ void OfferDeletion(Application& app, const std::shared_ptr<clsMenuCollection>& s
 
 // The question comes when the program is at rest, if the item is still there and its folder still isn't.
 void OfferDeletionLater(Application& app, const std::shared_ptr<clsMenuCollection>& store, const ItemRef& item) {
-  if (!app.GC[General::kAskForDeletingDead]) return;
+  if (!app.GC[General::kAskForDeletingDead] || !app.HotKeyItems.Questioned.insert(item).second) return;
   app.Requests.Add([&app, store = std::weak_ptr<clsMenuCollection>(store), item] {
     const std::shared_ptr<clsMenuCollection> there = store.lock();
     FolderTests tests(app.platform);
     if (there && StandsIn(*there, item) && !MayOpen(tests, *item)) OfferDeletion(app, there, item);
+    app.HotKeyItems.Questioned.erase(item);
   });
 }
 

@@ -22,7 +22,6 @@ class SystemTray {
 
  private:
   TrayIcon Record(std::uint32_t flags) const;
-  void BringOpenWindowForward();
   void FitToScreen(std::int32_t dpi);
   void BringDrivesUpToDate();
 

@@ -1,5 +1,6 @@
 #include "options/keyboard_hook.h"
 
+#include "core/failure.h"
 #include "core/hot_keys.h"
 #include "menu/menu_actions.h"
 
@@ -32,13 +33,14 @@ void KeyboardHook::KeyboardProc(std::int64_t message, const KeyRecord& key) {
   app_.platform.windows.Post([this, code] { HotKeyPressed(code); });
 }
 
-// The same key waits once, however often it is pressed.
+// The same key waits once, however often it is pressed, and what is pressed while it is opened counts as that press: a
+// key that is held down repeats, and a server may take its time.
 void KeyboardHook::HotKeyPressed(std::int32_t code) {
   ItemRef holder;
   if (!FindHotKeyItem(app_, code, holder) || !pending_.insert(code).second) return;
   app_.Requests.AddPrompt([this, code] {
-    pending_.erase(code);
-    OpenHotKeyItem(app_, code);
+    Skip([&] { OpenHotKeyItem(app_, code); });
+    app_.platform.windows.Post([this, code] { pending_.erase(code); });
   });
 }
 

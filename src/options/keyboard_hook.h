@@ -27,7 +27,7 @@ class KeyboardHook {
 
   Application& app_;
   HookHandle HookHandle_ = 0;
-  std::set<std::int32_t> pending_;  // codes that wait to be opened
+  std::set<std::int32_t> pending_;  // codes that wait to be opened, or are
 };
 
 }  // namespace burrowmark

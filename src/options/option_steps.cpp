@@ -131,7 +131,8 @@ void RunOptionStepsOnMenu(Application& app, const OptionSteps& steps, const Form
   RunOptionSteps(app, steps, copy, owner);
   ReplaceMainStore(app, copy);
   const bool isDefault = app.MainDocument.CurrentConfigFile == app.ConfigFile;
-  if (RebuildsSystemFolders(steps) && isDefault) ConfigFileWrite(app, app.MainDocument);
+  if (!RebuildsSystemFolders(steps) || !isDefault || ConfigFileWrite(app, app.MainDocument)) return;
+  app.platform.dialogs.MessageBoxA(app.MainWindow, SaveErrorText(app, app.ConfigFile), L"Burrowmark", kBoxCritical);
 }
 
 }  // namespace burrowmark

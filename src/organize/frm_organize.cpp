@@ -75,8 +75,7 @@ void frmOrganize::Form_Load() {
   Edited = app_.MainDocument;
   Edited.Store = std::make_shared<clsMenuCollection>(app_.platform.clock);
   CopyStore(app_.platform.clock, app_.MainStore(), *Edited.Store);
-  menus_[L"mnuFileOpenDefault"].SetVisible(false);
-  menus_[L"mnuFileSetDefault"].SetVisible(false);
+  RefreshDefaultCommands();
   SetFormCaption();
   RefreshViews({}, true);
   StayOnTop(false);
@@ -89,11 +88,9 @@ void frmOrganize::Form_Load() {
 // is kept under another name.
 void frmOrganize::AdoptDefaultFile() {
   Document& document = app_.MainDocument;
-  if (document.Content == FileContent::kNone) {
-    if (FileExists(app_.platform.files, document.CurrentConfigFile)) TakeDefaultFile();
-  } else {
-    KeepOldFile(app_, document);
-  }
+  const bool madeUp = document.Content == FileContent::kNone || document.Content == FileContent::kUnreadable;
+  if (madeUp && FileExists(app_.platform.files, document.CurrentConfigFile) && TakeDefaultFile()) return;
+  if (document.Content != FileContent::kNone) KeepOldFile(app_, document);
 }
 
 void frmOrganize::Form_Activate() {

@@ -43,7 +43,7 @@ class frmOrganize final : public ProgramForm {
   void SetFormCaption();
   // Fills the panes again; shows the node of that key, the first below the root for an empty one.
   void RefreshViews(const std::wstring& Key, bool Expand);
-  // Replaces what is edited by a file's content. False: everything is as it was.
+  // Replaces what is edited by a file's content, an empty path's by the default file's. False: everything is as it was.
   bool FuncConfigFileLoad(const std::wstring& Path);
   // Writes what is edited to its file; with `Rebuild` it becomes the menu's document too.
   bool FuncConfigFileSave(bool Rebuild);
@@ -113,7 +113,8 @@ class frmOrganize final : public ProgramForm {
   bool SaveBeforeOpening();
   std::int32_t AskToSave();
   void LoadOrComplain(const std::wstring& path);
-  void ReportSystemGroup(const OpenedConfig& opened);
+  std::optional<OpenedConfig> ReadInPlace(const std::wstring& path);
+  void ReportSystemGroup(const OpenedConfig& opened, bool isDefault);
   void RefreshDefaultCommands();
   bool ReportSaveError();
   void TellSaveError(const std::wstring& path);
@@ -121,7 +122,7 @@ class frmOrganize final : public ProgramForm {
   void SaveConfigCommand();
   void SaveConfigAsCommand();
   bool MayReplace(const std::wstring& path);
-  bool SaveListing(const std::wstring& path);
+  bool WriteAs(const std::wstring& path, bool asText);
   void TellSaved(const std::wstring& path);
   void SetDefaultCommand();
   void ShowInformation();
@@ -148,18 +149,21 @@ class frmOrganize final : public ProgramForm {
   void TreeMouseUp();
   void TreeNodeClick();
   void TreeDblClick();
-  void TreeKeyDown(std::int32_t& KeyCode);
-  bool PaneKeyDown(std::int32_t KeyCode);
+  void TreeKeyDown(std::int32_t& KeyCode, std::int32_t Shift);
+  bool PaneKeyDown(std::int32_t KeyCode, std::int32_t Shift);
   void ListMouseDown(const MouseEvent& event);
   void ListMouseUp();
   void ListItemClick(const ListItem& row);
   void ListClick();
-  void ListKeyDown(std::int32_t& KeyCode);
+  void ListKeyDown(std::int32_t& KeyCode, std::int32_t Shift);
   void EscapeFromList();
 
   // --- edits of the tree (frm_organize_edit.cpp)
   void EditOn(TreeEdit& open, const std::function<void(TreeEdit&)>& edit);
   void FollowEdit(TreeEdit& edit);
+  std::wstring SelectedNodeKey() const;
+  void SelectRows(const std::vector<std::wstring>& keys);
+  void SetToolbarOfRow();
   void UndoCommand();
   void SetTreeOptions(const SettingValues<Appearance>& values);
   void ForgetEdits();

@@ -68,7 +68,9 @@ bool frmOrganize::SaveChanges() {
 // menu as it is.
 void frmOrganize::FollowDefaultFile() {
   Work work(app_);
-  if (!TakeDefaultFile() || !app_.ADVC[Advanced::kProjectAtClosing]) return;
+  if (!TakeDefaultFile()) return;
+  optionsOfMenu_.AC = app_.AC;  // it is built by these
+  if (!app_.ADVC[Advanced::kProjectAtClosing]) return;
   work.ShowProgress(*this, L"Saving Changes...", L"Saving Organized Folders...");
   ProjectAll(work);
 }

@@ -79,10 +79,27 @@ void frmOrganize::FollowEdit(TreeEdit& edit) {
   Edited.Changed = true;
   RefreshHotKeys(app_, WorkCollection());
   RefreshGhosts();
+  const std::wstring node = SelectedNodeKey();
   tree_.Follow(change);
   list_.Follow(change);
   const bool shown = list_.Group() == kRootOwner || WorkCollection()->ItemExists(list_.Group());
-  ShowSelectedNode(shown);
+  ShowSelectedNode(shown && SelectedNodeKey() == node);
+  SetToolbarOfRow();
+}
+
+std::wstring frmOrganize::SelectedNodeKey() const {
+  const TreeNode* node = tree_.View.SelectedItem();
+  return node == nullptr ? std::wstring() : node->Key();
+}
+
+void frmOrganize::SelectRows(const std::vector<std::wstring>& keys) {
+  list_.Select(keys);
+  SetToolbarOfRow();
+}
+
+// The buttons are those of a row, not of its group, while rows are what the user works on.
+void frmOrganize::SetToolbarOfRow() {
+  if (ActivePane_ == 1 && list_.HasSelection()) SetToolbarState(KeyForCommands());
 }
 
 void frmOrganize::UndoCommand() {
@@ -214,6 +231,7 @@ void frmOrganize::FuncPaste(std::wstring target, bool inDrag) {
                                  pasted);
     if (done && ClipboardItems_.Mode == PasteMode::kMove) ClipboardItems_.Clear();
   });
+  RefreshGhosts();
   SetToolbarPaste();
   ShowNewRows(pasted);
 }
@@ -225,7 +243,7 @@ void frmOrganize::ShowNewRows(const std::vector<ItemRef>& items) {
     if (item->OwnerName() == list_.Group()) keys.push_back(KeyOfName(item->Name()));
   }
   if (keys.empty()) return;
-  list_.Select(keys);
+  SelectRows(keys);
   ListItemClicked_ = true;
   SetStatusBarSelected();
 }
@@ -284,7 +302,7 @@ void frmOrganize::FuncDelete() {
   DeleteItems(items);
   if (!fromList) return tree_.View.SetFocus();
   list_.View.SetFocus();
-  if (!next.empty()) list_.Select({next});
+  if (!next.empty()) SelectRows({next});
 }
 
 // Every generated group is asked about by itself; No leaves it out. False: nothing shall be deleted.

@@ -29,12 +29,12 @@ std::wstring WithExtension(const std::wstring& path, const wchar_t* extension) {
 
 bool frmOrganize::FuncConfigFileLoad(const std::wstring& Path) {
   const Hourglass busy(*this);
-  std::optional<OpenedConfig> opened = ConfigFileRead(app_, Path);
+  std::optional<OpenedConfig> opened = ReadInPlace(Path.empty() ? app_.ConfigFile : Path);
   if (!opened) return false;
   ForgetEdits();
   clsMenuCollection& store = *opened->document.Store;
   AddFixedEntries(app_, store, opened->SystemGroupMissing);
-  ReportSystemGroup(*opened);
+  ReportSystemGroup(*opened, Path.empty());
   SetupDrives(app_, store);
   Edited = std::move(opened->document);
   SetFormCaption();
@@ -44,9 +44,17 @@ bool frmOrganize::FuncConfigFileLoad(const std::wstring& Path) {
   return true;
 }
 
-void frmOrganize::ReportSystemGroup(const OpenedConfig& opened) {
+// By the options that will hold once the tree in the window has gone, and its edits with it.
+std::optional<OpenedConfig> frmOrganize::ReadInPlace(const std::wstring& path) {
+  const bool now = app_.AC[Appearance::kSystemFolders];
+  if (optionsBefore_) app_.AC[Appearance::kSystemFolders] = (*optionsBefore_)[Appearance::kSystemFolders];
+  std::optional<OpenedConfig> opened = ConfigFileRead(app_, path);
+  app_.AC[Appearance::kSystemFolders] = now;
+  return opened;
+}
+
+void frmOrganize::ReportSystemGroup(const OpenedConfig& opened, bool isDefault) {
   const Document& document = opened.document;
-  const bool isDefault = document.CurrentConfigFile == app_.ConfigFile;
   const std::wstring name = isDefault ? L"Default configuration file" : GetFileName(document.CurrentConfigFile);
   const bool wanted = app_.AC[Appearance::kSystemFolders];
   if (wanted ? !opened.SystemGroupMissing : !opened.SystemGroupIgnored) return;
@@ -88,7 +96,10 @@ bool frmOrganize::SaveBeforeOpening() {
   if (!Edited.Changed) return true;
   const std::int32_t answer = AskToSave();
   if (answer != kAnswerYes) return answer != kAnswerCancel;
-  return FuncConfigFileSave(EditsDefaultFile()) || ReportSaveError();
+  const bool isDefault = EditsDefaultFile();
+  if (!FuncConfigFileSave(isDefault)) return ReportSaveError();
+  if (isDefault) SavedToDefault = true;
+  return true;
 }
 
 std::int32_t frmOrganize::AskToSave() {
@@ -130,7 +141,7 @@ void frmOrganize::SaveConfigAsCommand() {
   const bool asText = dialog.FilterIndex == kTextFilter;
   const std::wstring path = WithExtension(Trim(dialog.FileName), asText ? L".txt" : L".bwmk");
   if (!MayReplace(path)) return;
-  const bool saved = asText ? SaveListing(path) : ConfigFileWriteAs(app_, Edited, path);
+  const bool saved = WriteAs(path, asText);
   if (saved && !asText) {
     optionsBefore_.reset();
     SetFormCaption();
@@ -140,9 +151,9 @@ void frmOrganize::SaveConfigAsCommand() {
 }
 
 // A listing can't be read back: the window goes on with its file, and what was changed there is still to be saved.
-bool frmOrganize::SaveListing(const std::wstring& path) {
+bool frmOrganize::WriteAs(const std::wstring& path, bool asText) {
   const Hourglass busy(*this);
-  return ConfigFileExport(app_, Edited, path);
+  return asText ? ConfigFileExport(app_, Edited, path) : ConfigFileWriteAs(app_, Edited, path);
 }
 
 bool frmOrganize::MayReplace(const std::wstring& path) {
@@ -186,9 +197,10 @@ void frmOrganize::ShowInformation() {
   Edited.Summary = dialog.Summary();
   // The menu's document may belong to the same file, and mustn't bring the old texts back.
   if (app_.MainDocument.CurrentConfigFile == Edited.CurrentConfigFile) app_.MainDocument.Summary = Edited.Summary;
-  if (ConfigFileUpdateSummary(app_, Edited)) return;
-  Edited.Changed = true;
-  ReportSaveError();
+  const bool hasFile = FileExists(app_.platform.files, Edited.CurrentConfigFile);
+  const bool written = ConfigFileUpdateSummary(app_, Edited);
+  if (!hasFile || !written) Edited.Changed = true;
+  if (!written) ReportSaveError();
 }
 
 }  // namespace burrowmark

@@ -91,7 +91,7 @@ std::wstring frmOrganize::GroupForAdding() const {
   const ItemRef item = node == nullptr ? nullptr : WorkCollection()->GetMenuItemFromName(NameOfKey(node->Key()));
   if (!item) return MIT_GROUP_USER;
   const std::wstring group = item->SubMenu() ? item->Name() : item->OwnerName();
-  return group == kRootOwner || group == MIT_PATHS_DRIVES ? std::wstring(MIT_GROUP_USER) : group;
+  return group == kRootOwner ? std::wstring(MIT_GROUP_USER) : group;
 }
 
 // --- changes
@@ -135,7 +135,10 @@ void frmOrganize::ShowItemProperties(bool FromBackground) {
   if (FromBackground) ListActive_ = false;
   const std::vector<ItemRef> items = SelectedItems();
   if (items.empty()) return app_.platform.windows.Beep();
-  const ItemRef& item = items.front();
+  // Of several rows it is about the current one.
+  const ItemRef current =
+      ListActive_ ? WorkCollection()->GetMenuItemFromName(NameOfKey(GetSelectedTarget().Key)) : nullptr;
+  const ItemRef item = current ? current : items.front();
   EditTree(L"Properties", [&](TreeEdit& edit) {
     frmProperties dialog(app_);
     dialog.Init(*item, WorkCollection());
@@ -213,9 +216,7 @@ void frmOrganize::CopyTargetLocations(bool complete) {
 void frmOrganize::ReportCommand() {
   std::wstring path = GetSelectedTarget().Path;
   if (path.empty()) path = app_.PersonalFolder;
-  FileSystem& files = app_.platform.files;
-  const bool isThere = IsNetworkPlace(files, path) ? FolderTests(app_.platform).Test(path) == FolderAnswer::kThere
-                                                   : files.FolderExists(path);
+  const bool isThere = FolderTests(app_.platform).TestContent(path) == FolderAnswer::kThere;
   if (isThere) return Raise(app_.Calls.ShowFolderReport, path, FormOwner());
   app_.platform.dialogs.MessageBoxA(Window(), L"Folder '" + path + L"' does not exist or is not a directory.", kTitle,
                                     kBoxCritical);

@@ -14,7 +14,7 @@ void frmOrganize::ConnectPanes() {
   tree_.View.DblClick = [this] { TreeDblClick(); };
   // Letters don't look for a node.
   tree_.View.KeyPress = [](std::int32_t& KeyAscii) { KeyAscii = 0; };
-  tree_.View.KeyDown = [this](std::int32_t& KeyCode, std::int32_t) { TreeKeyDown(KeyCode); };
+  tree_.View.KeyDown = [this](std::int32_t& KeyCode, std::int32_t Shift) { TreeKeyDown(KeyCode, Shift); };
 
   list_.View.GotFocus = [this] { EnterList(); };
   list_.View.MouseDown = [this](const MouseEvent& event) { ListMouseDown(event); };
@@ -25,7 +25,7 @@ void frmOrganize::ConnectPanes() {
   list_.View.DblClick = [this] { OpenSelectedListItem(false); };
   list_.View.ColumnClick = [this](std::int32_t column) { ArrangeBy(column); };
   list_.View.Paint = [this] { SetStatusBarSelected(); };
-  list_.View.KeyDown = [this](std::int32_t& KeyCode, std::int32_t) { ListKeyDown(KeyCode); };
+  list_.View.KeyDown = [this](std::int32_t& KeyCode, std::int32_t Shift) { ListKeyDown(KeyCode, Shift); };
   list_.txtInfoDrives.MouseMove = [this](const MouseEvent&) { splitter_.ResetCursor(); };
 }
 
@@ -67,21 +67,21 @@ void frmOrganize::TreeDblClick() {
   if (item && !item->SubMenu()) PopupWindowsExplorer();
 }
 
-void frmOrganize::TreeKeyDown(std::int32_t& KeyCode) {
+void frmOrganize::TreeKeyDown(std::int32_t& KeyCode, std::int32_t Shift) {
   TreeRightButton_ = false;
   if (KeyCode == kKeyCodeEscape) {
     ClearClipboard();
-  } else if (!PaneKeyDown(KeyCode)) {
+  } else if (!PaneKeyDown(KeyCode, Shift)) {
     return;
   }
   KeyCode = 0;
 }
 
 // Keys that do the same in both panes.
-bool frmOrganize::PaneKeyDown(std::int32_t KeyCode) {
+bool frmOrganize::PaneKeyDown(std::int32_t KeyCode, std::int32_t Shift) {
   if (KeyCode == kKeyCodeBackspace) {
     GoUp();
-  } else if (KeyCode == kKeyCodeInsert) {
+  } else if (KeyCode == kKeyCodeInsert && Shift == 0) {
     NewItem(MIT_PATH_EXPLORER);
   } else {
     return false;
@@ -143,13 +143,13 @@ void frmOrganize::ListClick() {
   ShowSelectedNode(true);
 }
 
-void frmOrganize::ListKeyDown(std::int32_t& KeyCode) {
+void frmOrganize::ListKeyDown(std::int32_t& KeyCode, std::int32_t Shift) {
   ListRightButton_ = false;
   if (KeyCode == kKeyCodeReturn) {
     OpenSelectedListItem(false);
   } else if (KeyCode == kKeyCodeEscape) {
     EscapeFromList();
-  } else if (!PaneKeyDown(KeyCode)) {
+  } else if (!PaneKeyDown(KeyCode, Shift)) {
     return;
   }
   KeyCode = 0;

@@ -155,8 +155,8 @@ void frmOrganize::RestorePanes(const PanesState& panes, const TreeChange& change
                                     [&panes](const ItemRef& item) { return item->OwnerName() == panes.Group; });
   if (returned || list_.Group() != panes.Group) list_.ShowGroup(panes.Group);
   ShowSelectedNode(true);
-  list_.Select(panes.Rows);
   panes.ActivePane == 1 ? list_.View.SetFocus() : tree_.View.SetFocus();
+  SelectRows(panes.Rows);
 }
 
 // --- order and view

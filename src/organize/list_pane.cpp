@@ -41,6 +41,8 @@ constexpr ViewRow kViews[] = {
 // The images of items by their number: the program's first thirteen icons.
 ImageList ItemImages(std::int32_t size) { return {size, {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13}}; }
 
+bool HasRow(const clsMenuItem& item) { return !item.Separator() && item.Remark != REMARK_AUTO; }
+
 std::wstring DateText(Date date, const SystemFacts& system) {
   return date == 0 ? L"Never" : DefaultDateText(date, system);
 }
@@ -74,15 +76,13 @@ void ListPane::SetPlace(const Box& place) {
 
 void ListPane::ShowGroup(const std::wstring& group) {
   txtInfoDrives.SetVisible(group == MIT_PATHS_DRIVES);
-  if (group == MIT_PATHS_DRIVES) return View.Clear();
   group_ = group;
+  if (group == MIT_PATHS_DRIVES) return View.Clear();
   sort_.Reset();
   const ListView::Update update(View);
   View.Clear();
   for (const ItemRef& item : document_.Store->Children(group)) {
-    if (!item->Separator() && item->Remark != REMARK_AUTO) {
-      AddListItem(*item, cutKeys_.contains(KeyOfName(item->Name())));
-    }
+    if (HasRow(*item)) AddListItem(*item, cutKeys_.contains(KeyOfName(item->Name())));
   }
 }
 
@@ -125,7 +125,7 @@ void ListPane::Follow(const TreeChange& change) {
   const ListView::Update update(View);
   for (const ItemRef& item : change.Out) View.Remove(KeyOfName(item->Name()));
   for (const ItemRef& item : change.In) {
-    if (item->OwnerName() == group_) AddListItem(*item, cutKeys_.contains(KeyOfName(item->Name())));
+    if (item->OwnerName() == group_ && HasRow(*item)) AddListItem(*item, cutKeys_.contains(KeyOfName(item->Name())));
   }
   for (const ItemRef& item : change.Changed) {
     ListItem* row = View.Find(KeyOfName(item->Name()));

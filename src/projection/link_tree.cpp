@@ -44,6 +44,7 @@ void AddSilentLinks(Application& app, const std::wstring& folder, FolderTests& t
 struct Content {
   bool own = false;
   bool foreign = false;
+  bool places = false;  // other folders, as junctions and symbolic links show them
 };
 
 Content ContentOf(Application& app, const std::wstring& folder) {
@@ -53,9 +54,10 @@ Content ContentOf(Application& app, const std::wstring& folder) {
     const std::wstring path = folder + L"\\" + entry.name;
     const bool isFolder = (entry.attributes & kFileDirectory) != 0 && !entry.isLink;
     const bool own = !isFolder && (entry.isLink || IsOwnFile(app, path));
-    const Content inside = isFolder ? ContentOf(app, path) : Content{own, !own};
+    const Content inside = isFolder ? ContentOf(app, path) : Content{own, !own, entry.isLink};
     content.own = content.own || inside.own;
     content.foreign = content.foreign || inside.foreign;
+    content.places = content.places || inside.places;
   }
   return content;
 }
@@ -118,7 +120,9 @@ class LinkTree {
     const auto found = silent_.find(UpperCaseText(path));
     if (found == silent_.end() || !EqualIgnoringCase(found->second.target, target)) return;
     const std::unique_ptr<OutputFile> file = app_.platform.files.CreateNewFile(path);
-    if (file && file->Write(found->second.bytes)) file->Close();
+    if (!file) return;
+    file->DeleteUnlessClosed();
+    if (file->Write(found->second.bytes)) file->Close();
   }
 
   void MakeGroupFolder(const clsMenuItem& group, const std::wstring& folder) {
@@ -178,6 +182,9 @@ void WipeLinkTree(Application& app, const std::wstring& root) {
   }
 }
 
-bool HoldsForeignFiles(Application& app, const std::wstring& folder) { return ContentOf(app, folder).foreign; }
+bool HoldsForeignContent(Application& app, const std::wstring& folder) {
+  const Content content = ContentOf(app, folder);
+  return content.foreign || content.places;
+}
 
 }  // namespace burrowmark

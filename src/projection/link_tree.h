@@ -30,6 +30,6 @@ void WriteLinkTree(Application& app, const clsMenuCollection& store, const std::
 // stays if that doesn't take it. Links to other folders go; what they lead to stays.
 void WipeLinkTree(Application& app, const std::wstring& root);
 // There is something in the folder that can't have come from the program.
-bool HoldsForeignFiles(Application& app, const std::wstring& folder);
+bool HoldsForeignContent(Application& app, const std::wstring& folder);
 
 }  // namespace burrowmark

@@ -32,7 +32,7 @@ void SwitchOff(Application& app, Advanced option) {
 
 // A folder of this name that the program didn't make, with something in it.
 bool IsSomebodyElses(Application& app, const std::wstring& root) {
-  return app.platform.files.FolderExists(root) && !HasOwnDesktopIni(app, root) && HoldsForeignFiles(app, root);
+  return app.platform.files.FolderExists(root) && !HasOwnDesktopIni(app, root) && HoldsForeignContent(app, root);
 }
 
 bool MayReplace(Application& app, const std::wstring& root) {

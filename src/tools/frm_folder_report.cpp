@@ -46,9 +46,9 @@ constexpr bool kCommonlyUsed[kReportColumns] = {true, false, true, true, true, t
 // What a preview may be: no file that the system would run.
 constexpr const wchar_t* kPreviewExtensions[] = {L"html", L"htm", L"csv", L"txt"};
 
-// The folder that a file stands in; empty if the path names none.
+// The folder that a file stands in; empty if the path names none, or no file.
 std::wstring GetParentFolderName(const std::wstring& path) {
-  return path.find(L'\\') == std::wstring::npos ? std::wstring() : GetFolderName(path);
+  return GetFileName(path).empty() || path.find(L'\\') == std::wstring::npos ? std::wstring() : GetFolderName(path);
 }
 
 std::wstring FileIn(const std::wstring& folder, const std::wstring& name) {

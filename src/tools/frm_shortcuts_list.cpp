@@ -203,6 +203,7 @@ void frmShortcutsList::AddListItem(bool update, const clsMenuItem& item) {
   row->SetSubItem(kDescription, item.UserDescription);
   row->SetSubItem(kCreated, item.TimeModified == 0 ? L"Never" : DefaultDateText(item.TimeModified, system));
   row->SetSubItem(kModified, DefaultDateText(item.TimeCreated, system));
+  row->SetSelected(false);
 }
 
 // The name of the row stays as it is until the list is filled again.

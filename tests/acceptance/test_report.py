@@ -129,6 +129,7 @@ class Wizard(ProgramTest):
         self.check_rows([row[:-1] for row in rows[3:-4]])
 
     def test_the_wizard_alone_a_preview_and_the_end(self):
+        self.desktop.prefix.run("wine", "reg", "add", "HKCR\\.txt", "/ve", "/d", "txtfile", "/f", limit=30)
         self.program.start()
         wizard = self.open_last_page(FOLDER)
         self.desktop.keys("alt+p")
@@ -137,6 +138,9 @@ class Wizard(ProgramTest):
             return list(self.desktop.prefix.drive_c.glob("users/**/Burrowmark report *"))
         folders = wait_for(ours, "the preview's folder")
         wait_for(lambda: [file.name for file in folders[0].iterdir()] == ["temp.txt"], "the preview")
+        notepad = self.desktop.wait_window("Notepad")
+        self.assertTrue(notepad.title.startswith("temp.txt"), notepad.title)
+        self.desktop.driver("close", notepad.handle)
         self.program.start_second("/EXIT")
         self.desktop.wait_gone(wizard)
         self.desktop.exit_code(self.program.process)

@@ -129,6 +129,9 @@ Line& Line::AddHandle(const char* name, HWND window) {
 int main() {
   // Without this the system would answer in scaled pixels on a screen of more than 96 dots per inch.
   SetProcessDpiAwarenessContext(DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE_V2);
+  // The first thread that asks makes the desktop. More of them at once would each make one, and on a busy machine none
+  // of these is ready in its time.
+  while (GetDesktopWindow() == nullptr) Sleep(100);
   // The system takes a desktop down, task bar and all, a second after its last thread went, and it counts one too few
   // after a program with a keyboard hook. So there are some to spare.
   constexpr int kHolders = 16;

@@ -76,9 +76,13 @@ bool WriteBytes(const std::wstring& name, const std::string& bytes) {
   FileHandle file(
       ::CreateFileW(name.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
   DWORD written = 0;
-  return file.IsDiskFile() &&
-         ::WriteFile(file.Get(), bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr) != FALSE &&
-         written == bytes.size() && file.Close();
+  if (!file.IsDiskFile()) return false;
+  const bool whole =
+      ::WriteFile(file.Get(), bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr) != FALSE &&
+      written == bytes.size();
+  if (file.Close() && whole) return true;
+  ::DeleteFileW(name.c_str());
+  return false;
 }
 
 }  // namespace
