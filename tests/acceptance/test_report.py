@@ -139,7 +139,7 @@ class Wizard(ProgramTest):
         folders = wait_for(ours, "the preview's folder")
         wait_for(lambda: [file.name for file in folders[0].iterdir()] == ["temp.txt"], "the preview")
         notepad = self.desktop.wait_window("Notepad")
-        self.assertTrue(notepad.title.startswith("temp.txt"), notepad.title)
+        wait_for(lambda: self.desktop.windows("Notepad")[0].title.startswith("temp.txt"), "the text in it")
         self.desktop.driver("close", notepad.handle)
         self.program.start_second("/EXIT")
         self.desktop.wait_gone(wizard)
