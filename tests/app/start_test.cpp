@@ -132,8 +132,13 @@ TEST_F(Start, AFileThatIsHeldOpenIsLeftAloneAndAnEmptyOneIsReplaced) {
   const std::string bytes = FileWith(L"Found");
   machine_.AddFile(kBeside, bytes);
   machine_.faults.HeldOpen.insert(L"C:\\PROGRAM FILES\\BURROWMARK\\DEFAULT.BWMK");
-  Run({[&] { EXPECT_EQ(Menu(), L"Help;-;Personal;System Folders;-;Options;Organize Folders;"); }});
-  machine_.faults.HeldOpen.clear();
+  Run({[&] {
+    EXPECT_EQ(Menu(), L"Help;-;Personal;System Folders;-;Options;Organize Folders;");
+    machine_.faults.HeldOpen.clear();
+    machine_.user.NextMenu({L"Organize Folders"});  // it can be read again
+    machine_.user.ClickTray(LocalUser::Button::kLeft);
+    EXPECT_NE(Menu().find(L"Mine"), std::wstring::npos);
+  }});
   EXPECT_EQ(machine_.BytesOf(kBeside), bytes);
   machine_.AddFile(kBeside, "");
   Run({});

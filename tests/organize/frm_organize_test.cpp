@@ -404,6 +404,37 @@ TEST_F(OpenOrganize, OpeningAsksAboutChangesAndABadFileChangesNothing) {
   form().SaveOnExit = false;
 }
 
+class OrganizeSystemFolders : public Organize {
+ protected:
+  OrganizeSystemFolders() {
+    app_.AC[Appearance::kSystemFolders] = true;
+    SetupSystemFolders(app_, app_.MainStore());
+    scene_.Open();
+  }
+};
+
+TEST_F(OrganizeSystemFolders, AFileKeepsItsOwnWhenTheDeletedOnesAreGivenUp) {
+  WriteOther();
+  const std::wstring nodes = scene_.Nodes();
+  scene_.Window().ClickNode(scene_.Tree(), L"System Folders");
+  machine_.user.NextBox(L"Do you want to delete System Folders group?", kAnswerYes);
+  scene_.Window().Press(kKeyCodeDelete);
+  EXPECT_EQ(scene_.Nodes().find(L"System Folders"), std::wstring::npos);
+  machine_.user.NextBox(L"Do you want to save the changes you made to default.bwmk?", kAnswerNo);
+  form().Init(std::wstring(L"/OPEN ") + kOther);
+  EXPECT_EQ(scene_.Nodes(), nodes);
+}
+
+TEST_F(OrganizeSystemFolders, WhatWasDeletedAndSavedStaysAwayWhateverOptionChanged) {
+  const ItemRef gone = form().WorkCollection()->Children(MIT_PATHS_SYSTEM).front();
+  app_.AC[Appearance::kImportantFirst] = !app_.AC[Appearance::kImportantFirst];  // as in the Options dialog
+  form().EditTree(L"Delete", [&gone](TreeEdit& edit) { edit.TakeOut(gone); });
+  machine_.user.NextBox(L"Default configuration file is successfully saved.", kAnswerOk);
+  scene_.Window().Press(L'S', kCtrlMask);
+  scene_.Window().Close();
+  EXPECT_FALSE(app_.MainStore().ItemExists(gone->Name()));
+}
+
 // --- the File menu
 
 constexpr wchar_t kSaveTitle[] = L"Save Configuration File As";
