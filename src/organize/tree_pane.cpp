@@ -39,11 +39,15 @@ void TreePane::Fill() {
   View.Clear();
   TreeNode* root = View.Add(nullptr, TreeRelation::kChild, MIT_HF_ROOT, L"Organized Folders", kRootImage);
   const clsMenuCollection& store = *document_.Store;
+  std::vector<TreeNode*> top;
   for (std::int32_t i = 1; i <= store.Count(); ++i) {
     const ItemRef item = store.Item(i);
     TreeNode* place = HasNode(*item) ? View.Find(KeyOfOwner(item->OwnerName())) : nullptr;
     TreeNode* node = place == nullptr ? nullptr : AddNode(*item, *place, TreeRelation::kChild);
-    if (node == nullptr || place != root) continue;
+    if (node != nullptr && place == root) top.push_back(node);
+  }
+  // Once they are all there: a control orders what shows anew for each node that comes.
+  for (TreeNode* node : top) {
     node->EnsureVisible();
     node->SetExpanded(true);
   }
